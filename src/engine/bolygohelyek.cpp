@@ -1,0 +1,30 @@
+#include "engine/bolygohelyek.h"
+
+#include "tables/efemerida.h"
+
+namespace {
+constexpr int kor = 1296000;  // arcseconds
+}
+
+double KoztesHossz(std::int32_t x0, std::int32_t x1, double napresz, char mozgas) {
+    int d = x1 - x0;
+    if (mozgas == 'R') {
+        if (d > 0) d -= kor;
+        const double v = d * napresz + x0;
+        return v <= 0 ? v + kor : v;
+    }
+    if (d < 0) d += kor;
+    const double v = d * napresz + x0;
+    return v >= kor ? v - kor : v;
+}
+
+void BolygoHelyek(std::int32_t julianszam, double napresz, TBolygok& Bolygok, TMozgasok& Mozgasok) {
+    const TEfemeridaNap& ma = efemeridaNap(julianszam);
+    const TEfemeridaNap& holnap = efemeridaNap(std::int64_t{julianszam} + 1);
+    for (int i = 1; i <= 10; ++i) {
+        const auto oszlop = efemeridaOszlopok[static_cast<std::size_t>(i - 1)];
+        const char mozgas = i <= 2 ? 'D' : ma.mozgas[static_cast<std::size_t>(i - 3)];
+        Bolygok[i] = KoztesHossz(ma.*oszlop, holnap.*oszlop, napresz, mozgas) / 3600;
+        Mozgasok[i] = mozgas;
+    }
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "engine/keszlet.h"
+
+/// Twelve Placidus cusps from the local sidereal time and the latitude, by interpolation in `HazTabla`
+/// and `McTabla`: latitude first, then time.
+/// @param armcOra,armcPerc,armcMperc  local sidereal time; the table row is taken modulo 360
+/// @param[out] Hazcsucsok  degrees, house 1 is the Ascendant, house 10 the Midheaven; a cusp whose
+///                         interpolation crosses Aries may come out at 360 or a little above
+/// @param szelesseg  latitude, arcseconds; outside 42..60 degrees it is held to the band of the tables
+/// @note No wrap is made between latitudes: at RAMC 240 house 2 reads 0 and 21599 in turn between 57 and 60
+///       degrees, and a place there gets a wrong second house. This is meant to stay.
+void Hazak(std::int32_t armcOra, std::int32_t armcPerc, double armcMperc, THazcsucsok& Hazcsucsok,
+           std::int32_t szelesseg);

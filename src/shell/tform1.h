@@ -1,0 +1,80 @@
+#pragma once
+
+#include <array>
+
+#include <QLabel>
+#include <QMainWindow>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTimer>
+
+#include "shell/allapot.h"
+#include "shell/foablak.h"
+#include "shell/kepletfelulet.h"
+
+struct TAblakok;
+
+/// The main window: wheel, left panel, status bar, menu, and the tick that drives them.
+class TForm1 : public QMainWindow, public FoAblak {
+    Q_OBJECT
+
+public:
+    TForm1();
+
+    /// The other windows; they are created after this one.
+    void ablakokBeallitasa(TAblakok* ablakok) { ablakok_ = ablakok; }
+
+    Allapot& allapot() { return allapot_; }
+
+    void Ujrafest() override;
+    void Ervenytelenit() override { felulet_->update(); }
+    void RajzolKeplet() override;
+    void Mutat() override;
+    std::string RendszerDatum() override;
+    std::string RendszerIdo() override;
+    void MundanFrissit() override;
+    void PontositasFuttat() override;
+    void PrimerFuttat() override;
+
+public slots:
+    void Timer1Timer();
+
+    void Szemely_adatok1Click();
+    void Uj1Click();
+    void Kilepes1Click();
+    void Horizont1Click();
+    void Mundan1Click();
+    void Dekad1Click();
+
+    void PanelButton2_MostClick();
+    void PanelButton3_ValtClick();
+    void Panel1Click();
+    void Memo1Change();
+
+private:
+    void FormCreate();
+    void FormPaint(const QRegion& resz);
+    void FormResize();
+
+    void menuEpites();
+    void panelEpites();
+    void statuszEpites();
+    void panelSorEpites(int sor);
+    void gombEpites(int hely, const char* nev, const QString& felirat, void (TForm1::*kezelo)());
+    void oldalPanelMutatas();
+    void szemelyiAblak(bool ujKeplet);
+    void memoHely();
+    bool eventFilter(QObject* targy, QEvent* esemeny) override;
+
+    Allapot allapot_;
+    TAblakok* ablakok_ = nullptr;
+    KepletFelulet* felulet_;
+    QFrame* panel1_;
+    std::array<QLabel*, 48> label_{};
+    std::array<QLabel*, 7> statusz_{};
+    QPushButton* mostGomb_ = nullptr;
+    QPushButton* valtGomb_ = nullptr;
+    QPlainTextEdit* memo1_ = nullptr;
+    QTimer* timer1_;
+    QString betutipus_;  ///< symbol font that the labels show
+};

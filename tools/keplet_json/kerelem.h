@@ -1,0 +1,63 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include <nlohmann/json.hpp>
+
+#include "shell/allapot.h"
+
+/// Reading of requests and shaping of answers, shared by all operations.
+
+using TJson = nlohmann::ordered_json;
+
+/// A request that can't be answered; its text is the answer.
+struct THiba : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+/// The field, or THiba if it is missing or of another kind.
+const TJson& mezo(const TJson& kerelem, const char* nev);
+std::int32_t egeszMezo(const TJson& kerelem, const char* nev);
+std::int32_t egeszMezo(const TJson& kerelem, const char* nev, std::int32_t also, std::int32_t felso);
+double valosMezo(const TJson& kerelem, const char* nev);
+bool logikaiMezo(const TJson& kerelem, const char* nev);
+std::string szovegMezo(const TJson& kerelem, const char* nev);
+/// Array of exactly N int32 numbers.
+template <std::size_t N>
+std::array<std::int32_t, N> egeszTomb(const TJson& kerelem, const char* nev);
+
+/// Clock moment with its date put right through the day number, in `Keplet`.
+void pillanatMezo(const TJson& kerelem, Allapot& allapot);
+/// Place: by name from the tables, or with the given values. Needs the moment set.
+void helyMezo(const TJson& kerelem, Allapot& allapot);
+/// A fresh state with moment, place, orbs and the sidereal step of a request.
+Allapot allapotKerelembol(const TJson& kerelem);
+
+/// The whole chart of the state, its cycle done.
+TJson kepletValasz(Allapot& allapot);
+
+TJson pillanatTomb(const TPillanat& pillanat);
+
+template <typename TTomb>
+TJson tombValasz(const TTomb& tomb) {
+    TJson valasz = TJson::array();
+    for (const auto& elem : tomb) valasz.push_back(elem);
+    return valasz;
+}
+
+/// One line of JSON; doubles with 17 significant digits.
+void irJson(std::string& ki, const TJson& ertek);
+
+std::int32_t egeszErtek(const TJson& ertek, const char* nev);
+
+template <std::size_t N>
+std::array<std::int32_t, N> egeszTomb(const TJson& kerelem, const char* nev) {
+    const TJson& tomb = mezo(kerelem, nev);
+    if (!tomb.is_array() || tomb.size() != N)
+        throw THiba(std::string(nev) + ": " + std::to_string(N) + " egész szám kell");
+    std::array<std::int32_t, N> szamok{};
+    for (std::size_t i = 0; i < N; ++i) szamok[i] = egeszErtek(tomb[i], nev);
+    return szamok;
+}

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "kerelem.h"
+
+/// The operations: each takes a request and returns its answer, or throws THiba.
+
+TJson datumMuvelet(const TJson& kerelem);
+TJson nyariIdoMuvelet(const TJson& kerelem);
+TJson telepulesMuvelet(const TJson& kerelem);
+TJson idoMuvelet(const TJson& kerelem);
+TJson kepletMuvelet(const TJson& kerelem);
+TJson rajzMuvelet(const TJson& kerelem);

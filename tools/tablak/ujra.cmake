@@ -1,0 +1,10 @@
+# Makes the house and ascension tables anew and compares them with the kept ones.
+file(MAKE_DIRECTORY ${MAPPA})
+execute_process(COMMAND ${KESZITO} ${MAPPA} COMMAND_ERROR_IS_FATAL ANY)
+foreach(tabla mctabla haztabla ferde rekt hossz)
+  file(SHA256 ${MAPPA}/${tabla}.inc uj)
+  file(SHA256 ${ADATOK}/${tabla}.inc kesz)
+  if(NOT uj STREQUAL kesz)
+    message(FATAL_ERROR "${tabla}.inc differs")
+  endif()
+endforeach()

@@ -3,6 +3,7 @@
 #include <QFont>
 #include <QPainter>
 #include <QPen>
+#include <QRawFont>
 #include <QString>
 
 #include "display/vaszon.h"
@@ -26,12 +27,15 @@ public:
 
 private:
     void tollBeallitas();
+    /// For texts with characters that the face lacks.
+    QFont tartalekBetu() const;
 
     QPainter& festo_;
     QPoint hely_;
     QPen toll_;
     int magassag_ = 0;
-    double felsoResz_ = 0;  ///< ascent of the font in force, pixels
+    QString betuNev_;
+    QRawFont betu_;
 };
 
 /// A font whose character cell, ascent and descent together, is so many pixels high.

@@ -2,8 +2,11 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFont>
 #include <QFontDatabase>
 #include <QStandardPaths>
+
+#include "display/betutipus.h"
 
 namespace {
 
@@ -27,4 +30,7 @@ void sajatBetukBetoltese() {
     for (const QString& mappa : sajatMappak())
         for (const QFileInfo& fajl : QDir(mappa).entryInfoList({"*.ttf"}, QDir::Files))
             QFontDatabase::addApplicationFont(fajl.absoluteFilePath());
+    // The text face's name is on no system. The labels of the wheel are laid out for a face of these widths;
+    // where none is there the system's default takes its place.
+    QFont::insertSubstitutions(QString::fromUtf8(szovegFont), {"Arial", "Liberation Sans"});
 }

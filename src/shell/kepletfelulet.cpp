@@ -28,10 +28,19 @@ void KepletFelulet::megmutat() {
     sajatMutatas_ = true;
     repaint();
     sajatMutatas_ = false;
+    if (ervenytelen_) update();
+}
+
+void KepletFelulet::ervenytelenit() {
+    ervenytelen_ = true;
+    update();
 }
 
 void KepletFelulet::paintEvent(QPaintEvent* esemeny) {
-    if (!sajatMutatas_) emit festesKeres(esemeny->region());
+    if (!sajatMutatas_) {
+        ervenytelen_ = false;
+        emit festesKeres(esemeny->region());
+    }
     QPainter festo(this);
     festo.drawPixmap(0, 0, kep_);
 }

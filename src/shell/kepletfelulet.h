@@ -21,6 +21,8 @@ public:
     void torol(const QRegion& resz);
     /// Shows the surface at once, without asking for a paint.
     void megmutat();
+    /// Asks for a paint on the next turn of the message loop; `megmutat` in between does not take its place.
+    void ervenytelenit();
 
     const QPixmap& kep() const { return kep_; }
 
@@ -36,4 +38,5 @@ protected:
 private:
     QPixmap kep_;
     bool sajatMutatas_ = false;
+    bool ervenytelen_ = false;
 };

@@ -195,15 +195,18 @@ void TForm1::statuszEpites() {
     auto* sav = statusBar();
     sav->setObjectName("StatusBar1");
     sav->setSizeGripEnabled(false);
+    QFont betu(QString::fromUtf8(szovegFont));
+    betu.setPixelSize(11);
+    sav->setFont(betu);
     for (std::size_t i = 0; i < statusz_.size(); ++i) {
         auto* felirat = new QLabel(qszoveg(allapot_.Feliratok.statusz[i]), sav);
         felirat->setObjectName(QStringLiteral("StatusBar1Panel%1").arg(i));
-        felirat->setMinimumWidth(i + 1 == statusz_.size() ? 0 : statuszSzelessegek[i]);
+        const bool utolso = i + 1 == statusz_.size();
+        felirat->setMinimumWidth(utolso ? 0 : statuszSzelessegek[i]);
         felirat->setMaximumWidth(statuszSzelessegek[i]);
         felirat->setTextFormat(Qt::PlainText);
         felirat->setFrameStyle(QFrame::Panel | QFrame::Sunken);
-        felirat->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-        sav->addWidget(felirat, i + 1 == statusz_.size() ? 1 : 0);
+        sav->addWidget(felirat, utolso ? 1 : 0);
         statusz_[i] = felirat;
     }
 }
@@ -237,9 +240,25 @@ void TForm1::FormPaint(const QRegion& resz) {
 void TForm1::FormResize() {
     panel1_->setGeometry(0, 0, panelSzelesseg, felulet_->height());
     allapot_.TeljesTorles = false;
+    if (!isVisible()) return;  // the first paint request draws
     felulet_->torol();
     RajzolKeplet();
 }
+
+namespace {
+
+/// The largest text font whose widest position text still fits in the panel.
+QFont panelSzamBetu(int dpi) {
+    const QString nev = QString::fromUtf8(szovegFont);
+    int magassag = 13;  // pixels
+    while (magassag > 8 &&
+           QFontMetrics(cellaMagassaguBetu(nev, magassag, dpi)).horizontalAdvance("28°58'58''") >=
+               panelSzelesseg)
+        --magassag;
+    return cellaMagassaguBetu(nev, magassag, dpi);
+}
+
+}  // namespace
 
 void TForm1::oldalPanelMutatas() {
     const QString szimbolum = qszoveg(allapot_.Rajz.szimbolumFont);
@@ -250,9 +269,8 @@ void TForm1::oldalPanelMutatas() {
     }
     if (betutipus_ == szimbolum) return;
     betutipus_ = szimbolum;
-    const int dpi = logicalDpiY();
-    const QFont jel = cellaMagassaguBetu(szimbolum, 15, dpi);
-    const QFont szam = cellaMagassaguBetu(QString::fromUtf8(szovegFont), 12, dpi);
+    const QFont jel = cellaMagassaguBetu(szimbolum, 15, logicalDpiY());
+    const QFont szam = panelSzamBetu(logicalDpiY());
     for (std::size_t sor = 0; sor < panel.size(); ++sor) {
         label_[3 * sor]->setFont(sor < 10 ? jel : szam);
         label_[3 * sor + 1]->setFont(jel);

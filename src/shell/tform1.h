@@ -27,7 +27,7 @@ public:
     Allapot& allapot() { return allapot_; }
 
     void Ujrafest() override;
-    void Ervenytelenit() override { felulet_->update(); }
+    void Ervenytelenit() override { felulet_->ervenytelenit(); }
     void RajzolKeplet() override;
     void Mutat() override;
     std::string RendszerDatum() override;

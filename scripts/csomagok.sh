@@ -1,0 +1,19 @@
+# Debian packages that the program, its tests and its generators need; sourced by run and test.
+
+epites="g++ cmake ninja-build qt6-base-dev qt6-translations-l10n nlohmann-json3-dev fonts-liberation"
+teszt="libgtest-dev libbenchmark-dev libnova-dev liberfa-dev"
+
+# Installs those of the named packages that are missing.
+telepit() {
+    hianyzik=""
+    for csomag in "$@"; do
+        dpkg-query -W -f='${Status}' "$csomag" 2>/dev/null | grep -q 'ok installed' || hianyzik="$hianyzik $csomag"
+    done
+    [ -n "$hianyzik" ] || return 0
+    rendszergazda=""
+    [ "$(id -u)" = 0 ] || rendszergazda="sudo"
+    echo "Installing:$hianyzik"
+    $rendszergazda apt-get update -q
+    # shellcheck disable=SC2086
+    $rendszergazda env DEBIAN_FRONTEND=noninteractive apt-get install -q -y --no-install-recommends $hianyzik
+}

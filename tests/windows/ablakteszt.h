@@ -1,0 +1,90 @@
+#pragma once
+
+#include <functional>
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTest>
+#include <QTimer>
+
+#include "shell/ablakok.h"
+#include "shell/betumappak.h"
+
+/// A control by its name on a window.
+template <typename T>
+T* vezerlo(const QWidget& ablak, const char* nev) {
+    T* talalat = ablak.findChild<T*>(nev);
+    if (talalat == nullptr) qFatal("no control named %s", nev);
+    return talalat;
+}
+
+inline void kattint(QWidget& ablak, const char* gomb) {
+    QTest::mouseClick(vezerlo<QPushButton>(ablak, gomb), Qt::LeftButton);
+}
+
+inline void menu(const TForm1& ablak, const char* nev) {
+    vezerlo<QAction>(ablak, nev)->trigger();
+}
+
+inline QString panel(const TForm1& ablak, int szam) {
+    return vezerlo<QLabel>(ablak, qPrintable(QStringLiteral("StatusBar1Panel%1").arg(szam)))->text();
+}
+
+/// Types over what a field holds.
+inline void gepel(QWidget& ablak, const char* mezo, const char* szoveg) {
+    auto* hely = vezerlo<QWidget>(ablak, mezo);
+    hely->setFocus();
+    if (auto* szam = qobject_cast<QSpinBox*>(hely)) szam->selectAll();
+    if (auto* sor = qobject_cast<QLineEdit*>(hely)) sor->selectAll();
+    if (auto* lista = qobject_cast<QComboBox*>(hely)) lista->lineEdit()->selectAll();
+    for (const QChar c : QString::fromUtf8(szoveg)) {
+        QKeyEvent leutes(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
+        QApplication::sendEvent(hely, &leutes);
+    }
+}
+
+inline int ertek(const QWidget& ablak, const char* mezo) {
+    return vezerlo<QSpinBox>(ablak, mezo)->value();
+}
+
+/// Answers the modal dialog that the next command opens.
+inline void valasz(std::function<void(QWidget&)> teendo) {
+    QTimer::singleShot(0, [teendo = std::move(teendo)] {
+        QWidget* dialogus = QApplication::activeModalWidget();
+        if (dialogus == nullptr) qFatal("no dialog is open");
+        teendo(*dialogus);
+    });
+}
+
+/// All windows anew, the main one shown, its own timer standing still so that a test gives the ticks.
+struct TFrissAblakok : TAblakok {
+    TFrissAblakok() {
+        vezerloOra()->stop();
+        form1.show();
+        QApplication::processEvents();
+    }
+    QTimer* vezerloOra() { return form1.findChild<QTimer*>("Timer1"); }
+    Allapot& allapot() { return form1.allapot(); }
+    void orajelek(int szam) {
+        for (int i = 0; i < szam; ++i) form1.Timer1Timer();
+    }
+    QImage kep() {
+        QApplication::processEvents();
+        return form1.findChild<KepletFelulet*>("Felulet")->grab().toImage();
+    }
+};
+
+/// Share of black in a picture to the right of the panel, per ten thousand.
+inline int fekete(const QImage& kep) {
+    constexpr int panelSzel = 60;
+    qint64 szam = 0;
+    for (int y = 0; y < kep.height(); ++y)
+        for (int x = panelSzel; x < kep.width(); ++x) szam += qGray(kep.pixel(x, y)) < 128 ? 1 : 0;
+    return static_cast<int>(szam * 10000 / (qint64{kep.width()} * kep.height()));
+}

@@ -1,0 +1,227 @@
+// The main window from start-up through clock and views, driven with mouse and menu.
+
+#include <QMenu>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+
+#include "ablakteszt.h"
+#include "shell/orajel.h"
+#include "tables/szotar.h"
+
+class TForm1Teszt : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { sajatBetukBetoltese(); }
+
+    void indulaskorAJelenPillanatAllBudapesten() {
+        TFrissAblakok a;
+        QCOMPARE(panel(a.form1, 0), "Radix");
+        QVERIFY(panel(a.form1, 1).startsWith("ARMC:  "));
+        QCOMPARE(panel(a.form1, 2), "Most");
+        QVERIFY(panel(a.form1, 3).endsWith(" ZN"));
+        QCOMPARE(panel(a.form1, 4), "Budapest");
+        QCOMPARE(panel(a.form1, 5), "19°4'K  47°30'É");
+        QCOMPARE(panel(a.form1, 6), "");
+        QCOMPARE(vezerlo<QPushButton>(a.form1, "PanelButton2_Most")->text(), "Állj");
+        QCOMPARE(vezerlo<QPushButton>(a.form1, "PanelButton3_Valt")->text(), "Mundán");
+        QCOMPARE(vezerlo<QPlainTextEdit>(a.form1, "Memo1")->toPlainText(), "");
+        QCOMPARE(a.form1.windowTitle(), "");
+        QVERIFY(!a.allapot().TeljesTorles);
+        QVERIFY(fekete(a.kep()) > 100);
+    }
+
+    void aTerviMeretekEsNevek() {
+        TFrissAblakok a;
+        QCOMPARE(a.form1.size(), QSize(995, 717));
+        QCOMPARE(vezerlo<QFrame>(a.form1, "Panel1")->width(), 49);
+        QCOMPARE(vezerlo<QTimer>(a.form1, "Timer1")->interval(), 250);
+        for (int n = 1; n <= 48; ++n)
+            QVERIFY(a.form1.findChild<QLabel*>(QStringLiteral("Label%1").arg(n)) != nullptr);
+        const QList<int> szelessegek{48, 90, 150, 135, 150, 90, 750};
+        for (int i = 0; i < 7; ++i)
+            QCOMPARE(vezerlo<QLabel>(a.form1, qPrintable(QStringLiteral("StatusBar1Panel%1").arg(i)))
+                         ->maximumWidth(),
+                     szelessegek[i]);
+    }
+
+    void mindenAblakAMaganakRendeltCimmelVan() {
+        TFrissAblakok a;
+        QCOMPARE(a.form2.windowTitle(), "Személyi adatok");
+        QCOMPARE(a.form3.windowTitle(), "Tercier direkció");
+        QCOMPARE(a.form4.windowTitle(), "Szolárrev");
+        QCOMPARE(a.form5.windowTitle(), "Hanglejátszás");
+        QCOMPARE(a.form6.windowTitle(), "Orbis beállítása");
+        QCOMPARE(a.form7.windowTitle(), "Léptet");
+        QCOMPARE(a.form8.windowTitle(), "Mundánházas pontosítás");
+        QCOMPARE(a.form9.windowTitle(), "Szimbólumok");
+        QCOMPARE(a.form10.windowTitle(), "Életesemények");
+        QCOMPARE(a.form11.windowTitle(), "Kérem a jelszót!");
+        QCOMPARE(a.form12.windowTitle(), "Primer direkció");
+        QCOMPARE(a.form13.windowTitle(), "Pontosítás");
+        QCOMPARE(a.form14.windowTitle(), "Nap-áthaladások");
+    }
+
+    void aMenuPontjaiASorrendjukben() {
+        TFrissAblakok a;
+        QStringList pontok;
+        for (const QAction* fo : a.form1.menuBar()->actions()) {
+            pontok << fo->text();
+            for (const QAction* pont : fo->menu()->actions()) {
+                pontok << pont->text();
+                if (pont->menu() != nullptr)
+                    for (const QAction* also : pont->menu()->actions()) pontok << also->text();
+            }
+        }
+        const QStringList vart{"Horoszkóp",
+                               "Személyi adatok",
+                               "Új",
+                               "Megnyitás",
+                               "Mentés",
+                               "Nyomtat",
+                               "Nyomtatóbeállítás",
+                               "Kilépés",
+                               "Nézet",
+                               "Horizont",
+                               "Mundán",
+                               "Dekád",
+                               "Progressziók",
+                               "Revolúció",
+                               "Szolár",
+                               "Lunár",
+                               "Merkúr Rev",
+                               "Vénusz Rev",
+                               "Mars Rev",
+                               "Jupiter Rev",
+                               "Szaturnusz Rev",
+                               "Personar",
+                               "Asc Pers",
+                               "Mc Pers",
+                               "Hold Pers",
+                               "Merkúr Pers",
+                               "Vénusz Pers",
+                               "Mars Pers",
+                               "Jupiter Pers",
+                               "Szaturnusz Pers",
+                               "Uranusz Pers",
+                               "Neptun Pers",
+                               "Plutó Pers",
+                               "Primer direkció",
+                               "Tercier direkció",
+                               "Szolár ingresszió",
+                               "Beállítások",
+                               "Léptet",
+                               "Orbisok",
+                               "Mundánházas pontosítás",
+                               "Szimbólumok"};
+        QCOMPARE(pontok, vart);
+    }
+
+    void azElsoOrajelFeliratotAdEsGorget() {
+        TFrissAblakok a;
+        a.orajelek(2);
+        const QString elso = a.form1.windowTitle();
+        QVERIFY(elso.contains("ház"));
+        QVERIFY(elso.contains(panel(a.form1, 3).left(11)));
+        a.orajelek(1);
+        QCOMPARE(a.form1.windowTitle().left(40), elso.mid(1, 40));
+    }
+
+    void aValtHaromszoriMegnyomasaVisszavisz() {
+        TFrissAblakok a;
+        const QStringList nezetek{"Mundán", "Dekád", "Radix"};
+        const QStringList feliratok{"Dekád", "Radix", "Mundán"};
+        for (int i = 0; i < 3; ++i) {
+            kattint(a.form1, "PanelButton3_Valt");
+            QCOMPARE(panel(a.form1, 0), nezetek[i]);
+            QCOMPARE(vezerlo<QPushButton>(a.form1, "PanelButton3_Valt")->text(), feliratok[i]);
+            QVERIFY(a.allapot().TeljesTorles);
+            QVERIFY(!a.allapot().MostFut);
+        }
+        QCOMPARE(a.allapot().KepletTipus, 1);
+        QCOMPARE(vezerlo<QPushButton>(a.form1, "PanelButton2_Most")->text(), "Most");
+    }
+
+    void aMenuNezeteiUgyanodaVisznek() {
+        TFrissAblakok a;
+        menu(a.form1, "Mundan1");
+        QCOMPARE(panel(a.form1, 0), "Mundán");
+        menu(a.form1, "Dekad1");
+        QCOMPARE(panel(a.form1, 0), "Dekád");
+        menu(a.form1, "Horizont1");
+        QCOMPARE(panel(a.form1, 0), "Radix");
+    }
+
+    void teljesTorlesAlattAFestesKeresUresenHagyjaAzAblakot() {
+        TFrissAblakok a;
+        menu(a.form1, "Mundan1");
+        auto* felulet = a.form1.findChild<KepletFelulet*>("Felulet");
+        QVERIFY(fekete(felulet->kep().toImage()) > 100);
+        felulet->update();
+        QApplication::processEvents();
+        QCOMPARE(fekete(felulet->kep().toImage()), 0);
+        QVERIFY(a.allapot().TeljesTorles);
+        a.form1.resize(a.form1.width() + 10, a.form1.height());
+        QApplication::processEvents();
+        QVERIFY(fekete(felulet->kep().toImage()) > 100);
+        QVERIFY(!a.allapot().TeljesTorles);
+    }
+
+    void aMostGombMegallitjaEsElinditjaAzOrat() {
+        TFrissAblakok a;
+        const TPillanat indulo = a.allapot().RadixPillanat;
+        kattint(a.form1, "PanelButton2_Most");
+        QVERIFY(!a.allapot().MostFut);
+        QVERIFY(a.allapot().Keplet.pillanat() == indulo);
+        QCOMPARE(vezerlo<QPushButton>(a.form1, "PanelButton2_Most")->text(), "Most");
+        QCOMPARE(panel(a.form1, 2), "");
+        kattint(a.form1, "PanelButton2_Most");
+        QVERIFY(a.allapot().MostFut);
+        QCOMPARE(vezerlo<QPushButton>(a.form1, "PanelButton2_Most")->text(), "Vissza");
+        QCOMPARE(panel(a.form1, 2), "Most");
+    }
+
+    void aPanelreKattintvaAJegyzetHelyetValtoztat() {
+        TFrissAblakok a;
+        auto* memo = vezerlo<QPlainTextEdit>(a.form1, "Memo1");
+        QCOMPARE(memo->geometry(), QRect(0, 600, 49, 281));
+        QTest::mouseClick(vezerlo<QFrame>(a.form1, "Panel1"), Qt::LeftButton, {}, QPoint(24, 590));
+        QCOMPARE(memo->geometry(), QRect(0, 144, 49, 737));
+        QTest::mouseClick(memo->viewport(), Qt::LeftButton);
+        QCOMPARE(memo->geometry(), QRect(0, 600, 49, 281));
+    }
+
+    void azOldalPanelABolygokatEsCsucsokatMutatja() {
+        TFrissAblakok a;
+        const TKeplet& k = a.allapot().Keplet;
+        const QChar napJegye(u'a' + static_cast<int>(k.bolygo[1] / 30));
+        QCOMPARE(vezerlo<QLabel>(a.form1, "Label1")->text(), "A");
+        QCOMPARE(vezerlo<QLabel>(a.form1, "Label2")->text(), QString(napJegye));
+        QVERIFY(vezerlo<QLabel>(a.form1, "Label3")->text().endsWith("''"));
+        QCOMPARE(vezerlo<QLabel>(a.form1, "Label31")->text(), "I");
+        const QChar ascJegye(u'a' + static_cast<int>(k.hazCsucs[1] / 30));
+        QCOMPARE(vezerlo<QLabel>(a.form1, "Label32")->text(), QString(ascJegye));
+        QCOMPARE(vezerlo<QLabel>(a.form1, "Label46")->text(), "12");
+    }
+
+    void aCimkekBetutipusai() {
+        TFrissAblakok a;
+        for (int n = 1; n <= 48; ++n) {
+            const bool bolygoSor = n <= 30;
+            const int hely = (n - 1) % 3;
+            const bool szimbolum = bolygoSor ? hely < 2 : hely == 1;
+            const auto* felirat = vezerlo<QLabel>(a.form1, qPrintable(QStringLiteral("Label%1").arg(n)));
+            QCOMPARE(felirat->font().family(), szimbolum ? "Astro Symbols" : "Ariel");
+        }
+    }
+
+    void aDekadNezetCimeAKapcsolatSor() {
+        TFrissAblakok a;
+        menu(a.form1, "Dekad1");
+        a.orajelek(2);
+        QVERIFY(a.form1.windowTitle().startsWith(QString::fromUtf8(kapcsolatSor)));
+    }
+};
+
+QTEST_MAIN(TForm1Teszt)
+#include "tform1_teszt.moc"

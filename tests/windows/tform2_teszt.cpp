@@ -1,0 +1,233 @@
+// A chart typed in, through the dialog, with keys and mouse.
+
+#include <QButtonGroup>
+#include <QGroupBox>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+
+#include "ablakteszt.h"
+
+namespace {
+
+void szuletesGepelese(QWidget& d) {
+    gepel(d, "EditNev1", "Minta Anna");
+    gepel(d, "SpinEditEv1", "1975");
+    gepel(d, "SpinEditHo1", "3");
+    gepel(d, "SpinEditNap1", "21");
+    gepel(d, "SpinEditOra1", "6");
+    gepel(d, "SpinEditPerc1", "4");
+    gepel(d, "SpinEditMperc1", "9");
+    gepel(d, "ComboBoxHelyseg1", "Szeged");
+}
+
+void idoTipus(QWidget& d, int index) {
+    const auto radiok = vezerlo<QGroupBox>(d, "RadioGroupIdovalaszto1")->findChildren<QRadioButton*>();
+    QTest::mouseClick(radiok[index], Qt::LeftButton, {}, QPoint(8, radiok[index]->height() / 2));
+    QVERIFY(radiok[index]->isChecked());
+}
+
+struct TTartomany {
+    const char* nev;
+    int also, felso;
+};
+constexpr TTartomany tartomanyok[]{
+    {"SpinEditEv1", 1900, 2068},   {"SpinEditHo1", 1, 12},          {"SpinEditNap1", 1, 31},
+    {"SpinEditOra1", 0, 23},       {"SpinEditPerc1", 0, 59},        {"SpinEditMperc1", 0, 59},
+    {"SpinEditIdozona1", -12, 12}, {"SpinEditNyariidosz1", 0, 1},   {"SpinEditHosszFok1", -180, 180},
+    {"SpinEditHosszPerc1", 0, 59}, {"SpinEditSzelFok1", -180, 180}, {"SpinEditSzelPerc1", 0, 59}};
+
+}  // namespace
+
+class TForm2Teszt : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { sajatBetukBetoltese(); }
+
+    void aMezokTartomanyai() {
+        TFrissAblakok a;
+        for (const auto& [nev, also, felso] : tartomanyok) {
+            const auto* mezo = vezerlo<QSpinBox>(a.form2, nev);
+            QCOMPARE(mezo->minimum(), also);
+            QCOMPARE(mezo->maximum(), felso);
+        }
+    }
+
+    void azUjKepletAlapertekei() {
+        TFrissAblakok a;
+        a.allapot().Szemely.idoTipus = "GMT";
+        valasz([&](QWidget& d) {
+            QCOMPARE(vezerlo<QLineEdit>(d, "EditNev1")->text(), "Új képlet");
+            QCOMPARE(vezerlo<QPlainTextEdit>(d, "Memo_Jegyzet1")->toPlainText(), "");
+            QCOMPARE(vezerlo<QComboBox>(d, "ComboBoxHelyseg1")->currentText(), "Budapest");
+            QCOMPARE(ertek(d, "SpinEditIdozona1"), 1);
+            QCOMPARE(ertek(d, "SpinEditHosszFok1"), 19);
+            QCOMPARE(ertek(d, "SpinEditHosszPerc1"), 4);
+            QCOMPARE(ertek(d, "SpinEditSzelFok1"), 47);
+            QCOMPARE(ertek(d, "SpinEditSzelPerc1"), 30);
+            QCOMPARE(ertek(d, "SpinEditEv1"), a.allapot().Szemely.beirtEv);
+            for (const auto* radio : d.findChildren<QRadioButton*>()) QVERIFY(!radio->isChecked());
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Uj1");
+        QCOMPARE(a.allapot().Szemely.idoTipus, std::string("ZN"));
+        QCOMPARE(a.allapot().Szemely.idoTipusIndex, 0);
+        QVERIFY(a.allapot().Megsem2);
+        QVERIFY(a.allapot().MostFut);
+    }
+
+    void zonaIdosSzuletesKepleteAKepernyon() {
+        TFrissAblakok a;
+        valasz([](QWidget& d) {
+            szuletesGepelese(d);
+            gepel(d, "Memo_Jegyzet1", "Elso");
+            kattint(d, "Button_Rendben1");
+        });
+        menu(a.form1, "Uj1");
+        const TKeplet& k = a.allapot().Keplet;
+        QVERIFY((k.pillanat() == TPillanat{1975, 3, 21, 6, 4, 9}));
+        QCOMPARE(k.szelesseg, 46 * 3600 + 14 * 60);  // the fields hold no seconds of arc
+        QCOMPARE(k.hosszusag, 20 * 3600 + 9 * 60);
+        QCOMPARE(panel(a.form1, 0), "Radix");
+        QCOMPARE(panel(a.form1, 2), "Minta Anna ");
+        QCOMPARE(panel(a.form1, 3), "1975.03.21. 06:04:09 ZN");
+        QCOMPARE(panel(a.form1, 4), "Szeged ");
+        QCOMPARE(panel(a.form1, 5), "20°9'K  46°14'É");
+        QCOMPARE(vezerlo<QPlainTextEdit>(a.form1, "Memo1")->toPlainText(), "Elso");
+        QVERIFY(!a.allapot().MostFut);
+        QVERIFY((a.allapot().RadixPillanat == TPillanat{1975, 3, 21, 6, 4, 9}));
+        QVERIFY((a.allapot().SzuletesiPillanat == TPillanat{1975, 3, 21, 6, 4, 9}));
+        // The Sun an hour before the equinox of 21 March 1975, 5:57 in Greenwich.
+        QVERIFY(k.bolygo[1] > 359.9 && k.bolygo[1] < 360.0);
+    }
+
+    void helyiKozepidoAtszamitva() {
+        TFrissAblakok a;
+        valasz([](QWidget& d) {
+            szuletesGepelese(d);
+            idoTipus(d, 1);
+            kattint(d, "Button_Rendben1");
+        });
+        menu(a.form1, "Uj1");
+        // 20°9' east is 4836 s; 6:04:09 less that and an hour more is 5:43:33.
+        QVERIFY((a.allapot().Keplet.pillanat() == TPillanat{1975, 3, 21, 5, 43, 33}));
+        QCOMPARE(panel(a.form1, 3), "1975.03.21. 06:04:09 LMT");
+    }
+
+    void greenwichiIdoAtszamitva() {
+        TFrissAblakok a;
+        valasz([](QWidget& d) {
+            szuletesGepelese(d);
+            idoTipus(d, 2);
+            kattint(d, "Button_Rendben1");
+        });
+        menu(a.form1, "Uj1");
+        QVERIFY((a.allapot().Keplet.pillanat() == TPillanat{1975, 3, 21, 7, 4, 9}));
+        QCOMPARE(panel(a.form1, 3), "1975.03.21. 06:04:09 GMT");
+        QCOMPARE(a.allapot().Szemely.idoTipusIndex, 2);
+    }
+
+    void valasztasNelkulZonaIdo() {
+        TFrissAblakok a;
+        valasz([](QWidget& d) { kattint(d, "Button_Rendben1"); });
+        menu(a.form1, "Uj1");
+        QCOMPARE(a.allapot().Szemely.idoTipus, std::string("ZN"));
+        QVERIFY(panel(a.form1, 3).endsWith(" ZN"));
+    }
+
+    void aHelysegValtozasaKiigazitjaADatumotEsAHelyet() {
+        TFrissAblakok a;
+        valasz([](QWidget& d) {
+            gepel(d, "SpinEditEv1", "2000");
+            gepel(d, "SpinEditHo1", "4");
+            gepel(d, "SpinEditNap1", "31");
+            gepel(d, "ComboBoxHelyseg1", "Pécs");
+            QCOMPARE(ertek(d, "SpinEditHo1"), 5);
+            QCOMPARE(ertek(d, "SpinEditNap1"), 1);
+            QCOMPARE(ertek(d, "SpinEditNyariidosz1"), 1);
+            QCOMPARE(ertek(d, "SpinEditHosszFok1"), 18);  // 65691" is 18°14'
+            QCOMPARE(ertek(d, "SpinEditHosszPerc1"), 14);
+            QCOMPARE(ertek(d, "SpinEditSzelFok1"), 46);  // 165888" is 46°4'
+            QCOMPARE(ertek(d, "SpinEditSzelPerc1"), 4);
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Uj1");
+        // "Mégsem" leaves what the change of the place has written.
+        QCOMPARE(a.allapot().Keplet.helyseg, std::string("Pécs"));
+        QCOMPARE(a.allapot().Szemely.beirtHo, 5);
+    }
+
+    void ismeretlenHelyAzAlapertekeketAdjaDeAMezoFelulirhato() {
+        TFrissAblakok a;
+        valasz([](QWidget& d) {
+            gepel(d, "ComboBoxHelyseg1", "Xanadu");
+            QCOMPARE(ertek(d, "SpinEditHosszFok1"), 19);
+            gepel(d, "SpinEditHosszFok1", "-19");
+            kattint(d, "Button_Rendben1");
+        });
+        menu(a.form1, "Uj1");
+        QCOMPARE(a.allapot().Keplet.hosszusag, -68160);
+        QCOMPARE(panel(a.form1, 5), "18°56'Ny  47°30'É");
+        // Shown again, the minutes are cut towards zero and held at 0 by the field.
+        valasz([](QWidget& d) {
+            QCOMPARE(ertek(d, "SpinEditHosszFok1"), -18);
+            QCOMPARE(ertek(d, "SpinEditHosszPerc1"), 0);
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Szemely_adatok1");
+    }
+
+    void aHelysegekListajaMindenNyitaskorHosszabb() {
+        TFrissAblakok a;
+        for (const int szam : {3138, 6276}) {
+            valasz([szam](QWidget& d) {
+                QCOMPARE(vezerlo<QComboBox>(d, "ComboBoxHelyseg1")->count(), szam);
+                kattint(d, "Button_Megsem1");
+            });
+            menu(a.form1, "Szemely_adatok1");
+        }
+    }
+
+    void aSzemelyiAdatokAMarBeirtakatMutatja() {
+        TFrissAblakok a;
+        valasz([](QWidget& d) {
+            szuletesGepelese(d);
+            idoTipus(d, 1);
+            kattint(d, "Button_Rendben1");
+        });
+        menu(a.form1, "Uj1");
+        valasz([](QWidget& d) {
+            QCOMPARE(vezerlo<QLineEdit>(d, "EditNev1")->text(), "Minta Anna");
+            QCOMPARE(ertek(d, "SpinEditOra1"), 6);  // as typed, not as converted
+            QCOMPARE(ertek(d, "SpinEditPerc1"), 4);
+            QVERIFY(vezerlo<QGroupBox>(d, "RadioGroupIdovalaszto1")
+                        ->findChildren<QRadioButton*>()[1]
+                        ->isChecked());
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Szemely_adatok1");
+    }
+
+    void aKilepoBillentyuMegsem() {
+        TFrissAblakok a;
+        a.allapot().Megsem2 = false;
+        valasz([](QWidget& d) { QTest::keyClick(&d, Qt::Key_Escape); });
+        menu(a.form1, "Uj1");
+        QVERIFY(a.allapot().Megsem2);
+        QVERIFY(a.allapot().MostFut);
+    }
+
+    void azOraADialogusAlattIsJar() {
+        TFrissAblakok a;
+        a.vezerloOra()->start();
+        valasz([&a](QWidget& d) {
+            const int elobb = a.allapot().MostSzamlalo;
+            QTRY_VERIFY(a.allapot().MostSzamlalo > elobb);
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Uj1");
+    }
+};
+
+QTEST_MAIN(TForm2Teszt)
+#include "tform2_teszt.moc"

@@ -1,5 +1,6 @@
 #include "display/rendezett.h"
 
+#include <cmath>
 #include <utility>
 
 #include "tables/szamtan.h"
@@ -44,9 +45,17 @@ bool elsoParSzetlep(Tomb<TRendezettSor, 10>& sorok, int kuszob) {
     return false;
 }
 
+/// A moment far outside the tables extrapolates to many times the circle; the spreading would take a pass for each.
+void tavoliakBehajtasa(Tomb<TRendezettSor, 10>& sorok) {
+    constexpr double szelso = 3600;  // degrees
+    for (TRendezettSor& sor : sorok)
+        if (std::abs(sor.rendHossz) > szelso) sor.rendHossz = std::fmod(sor.rendHossz, 360);
+}
+
 }  // namespace
 
 void Szetteritas(Tomb<TRendezettSor, 10>& Rendezett) {
+    tavoliakBehajtasa(Rendezett);
     int kuszob = 1;
     while (kuszob <= legkisebbKoz) {
         rendezes(Rendezett);

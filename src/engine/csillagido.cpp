@@ -28,8 +28,8 @@ void CsillagIdo(std::int32_t ora, std::int32_t perc, std::int32_t mperc, double&
     const std::int64_t ls = hosszIdo % 3600 / 60;
 
     const TEfemeridaNap& sor = efemeridaNap(julianszam);
-    const std::int64_t s = (g + sor.csillagOra) * 3600 + (perc + sor.csillagPerc + lm) * 60 +
-                           (mperc + sor.csillagMasodperc + ls + ki);
+    const std::int64_t s = (g + sor.csillagOra) * 3600 + (std::int64_t{perc} + sor.csillagPerc + lm) * 60 +
+                           (std::int64_t{mperc} + sor.csillagMasodperc + ls + ki);
     armcOra = alsoBitek(s / 3600);
     armcPerc = static_cast<std::int32_t>(s % 3600 / 60);
     armcMperc = static_cast<double>(s % 60) + kf;

@@ -28,7 +28,7 @@ const TOrbisTabla OrbisAlap{{tengelyOrbis,
 
 void ElteresSzamitas(const TBolygok& Bolygok, TFenyszogMunka& munka) {
     for (int i = 1; i <= 10; ++i) {
-        munka.DekadKezdetek[i] = egesz(Bolygok[i] / 10) * 10;
+        munka.DekadKezdetek[i] = egesz(Bolygok[i] / 10) * 10.0;
         for (int j = 1; j <= 10; ++j) munka.Elteresek[i][j] = szogTavolsag(Bolygok[i], Bolygok[j]);
     }
 }

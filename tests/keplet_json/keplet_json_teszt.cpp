@@ -1,0 +1,172 @@
+// The engine's JSON tool as a program: one answer a line, in order, whatever comes in.
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+namespace {
+
+using TJson = nlohmann::json;
+
+/// A folder of the test's own, removed at its end.
+class TMappa {
+public:
+    TMappa()
+        : hely_(std::filesystem::temp_directory_path() /
+                ("korvend-" + std::to_string(std::random_device{}()))) {
+        std::filesystem::create_directories(hely_);
+    }
+    ~TMappa() { std::filesystem::remove_all(hely_); }
+    TMappa(const TMappa&) = delete;
+    TMappa& operator=(const TMappa&) = delete;
+
+    std::filesystem::path operator/(const char* fajl) const { return hely_ / fajl; }
+    std::string nev() const { return hely_.string(); }
+
+private:
+    std::filesystem::path hely_;
+};
+
+std::vector<std::string> valaszok(const std::vector<std::string>& kerelmek) {
+    const TMappa mappa;
+    {
+        std::ofstream be(mappa / "be");
+        for (const std::string& kerelem : kerelmek) be << kerelem << '\n';
+    }
+    const std::string parancs =
+        std::string(KEPLET_JSON) + " < " + (mappa / "be").string() + " > " + (mappa / "ki").string();
+    EXPECT_EQ(std::system(parancs.c_str()), 0);
+    std::ifstream ki(mappa / "ki");
+    std::vector<std::string> sorok;
+    for (std::string sor; std::getline(ki, sor);) sorok.push_back(sor);
+    return sorok;
+}
+
+TJson valasz(const std::string& kerelem) {
+    const auto sorok = valaszok({kerelem});
+    return sorok.size() == 1 ? TJson::parse(sorok[0]) : TJson();
+}
+
+TEST(KepletJson, RosszKerelemreHibaEsTovabb) {
+    const std::vector<std::string> rosszak{
+        "",
+        "nem json",
+        "[1, 2]",
+        "{}",
+        R"({"op": 5})",
+        R"({"op": "ismeretlen"})",
+        R"({"op": "datum"})",
+        R"({"op": "datum", "datum": [2000, 1]})",
+        R"({"op": "datum", "datum": [2000, 1, 1.5]})",
+        R"({"op": "datum", "datum": [2000, 1, "1"]})",
+        R"({"op": "datum", "datum": [2000, 1, 2147483648]})",
+        R"({"op": "datum", "datum": [-2147483649, 1, 1]})",
+        R"({"op": "datum", "datum": [99999999999999999999999, 1, 1]})",
+        R"({"op": "telepules", "nev": 3})",
+        R"({"op": "keplet", "pillanat": [2000, 1, 1, 12, 0, 0]})",
+        R"({"op": "keplet", "pillanat": [2000, 1, 1, 12, 0, 0], "hely": {"helyseg": "X", "idozona": 1}})",
+        R"({"op": "keplet", "pillanat": [2000, 1, 1, 12, 0, 0], "hely": {"helyseg": "X"}, "orbis": [[1]]})",
+        R"({"op": "rajz", "pillanat": [2000, 1, 1, 12, 0, 0], "hely": {"helyseg": "X"}, "tipus": 4, "felulet": [9, 9], "nyomtatas": false})",
+        R"({"op": "rajz", "pillanat": [2000, 1, 1, 12, 0, 0], "hely": {"helyseg": "X"}, "tipus": 1, "felulet": [-1, 9], "nyomtatas": false})",
+        "{\"op\": \"telepules\", \"nev\": \"\xff\xfe\"}",
+    };
+    std::vector<std::string> kerelmek;
+    for (const std::string& rossz : rosszak) {
+        kerelmek.push_back(rossz);
+        kerelmek.emplace_back(R"({"op": "datum", "datum": [1900, 1, 1]})");
+    }
+    const auto sorok = valaszok(kerelmek);
+    ASSERT_EQ(sorok.size(), kerelmek.size());
+    for (std::size_t i = 0; i < sorok.size(); i += 2) {
+        EXPECT_TRUE(TJson::parse(sorok[i]).contains("hiba")) << kerelmek[i];
+        EXPECT_EQ(TJson::parse(sorok[i + 1])["julianszam"], 2415020);
+    }
+}
+
+TEST(KepletJson, DatumABeirtEsAVisszaolvasottErtekekkel) {
+    const TJson v = valasz(R"({"op": "datum", "datum": [1899, 13, 40]})");
+    EXPECT_EQ(v["beirt"], TJson({1900, 12, 32}));
+    EXPECT_EQ(v["datum"], TJson({1901, 1, 1}));
+}
+
+TEST(KepletJson, ACsillagidoMintapeldaja) {
+    const TJson v =
+        valasz(R"({"op": "keplet", "pillanat": [1900, 1, 2, 0, 0, 0], "hely": {"helyseg": "Budapest"}})");
+    EXPECT_EQ(v["julianszam"], 2415020);
+    EXPECT_DOUBLE_EQ(v["napresz"], 82800 / 86400.0);
+    EXPECT_EQ(v["armc"][0], 7);
+    EXPECT_EQ(v["armc"][1], 0);
+    EXPECT_NEAR(v["armc"][2], 47.69854, 1e-5);
+    EXPECT_EQ(v["statuszsor"],
+              TJson({"ARMC:  07:00:47", "1900.01.02. 00:00:00 ZN", "Budapest", "19°4'K  47°30'É"}));
+    EXPECT_EQ(v["Rendezett"].size(), 10U);
+    EXPECT_EQ(v["panel"].size(), 16U);
+    EXPECT_EQ(v["FenyszogPontok"][9].size(), 16U);
+}
+
+TEST(KepletJson, AValosSzamok17JegyuekEsACsakNevvelAdottHelyKikeresheto) {
+    const auto sorok = valaszok(
+        {R"({"op": "keplet", "pillanat": [2000, 7, 1, 12, 0, 0], "hely": {"helyseg": "Szeged"}})",
+         R"({"op": "keplet", "pillanat": [2000, 7, 1, 12, 0, 0], "hely": {"helyseg": "Szeged", "idozona": 2, "nyariIdo": 0, "szelesseg": 150000, "hosszusag": -5}})"});
+    ASSERT_EQ(sorok.size(), 2U);
+    EXPECT_NE(sorok[0].find("\"napresz\":0.41666666666666669"), std::string::npos);
+    const TJson nevvel = TJson::parse(sorok[0]);
+    EXPECT_EQ(nevvel["nyariIdo"], 1);
+    EXPECT_EQ(nevvel["hosszusag"], 72586);
+    const TJson ertekekkel = TJson::parse(sorok[1]);
+    EXPECT_EQ(ertekekkel["nyariIdo"], 0);
+    EXPECT_EQ(ertekekkel["hosszusag"], -5);
+    EXPECT_EQ(ertekekkel["szelesseg"], 150000);
+}
+
+TEST(KepletJson, AzOrbisABeallitottTablaval) {
+    TJson kerelem = TJson::parse(
+        R"({"op": "keplet", "pillanat": [2000, 7, 1, 12, 0, 0], "hely": {"helyseg": "Szeged"}})");
+    kerelem["orbis"] = std::vector(12, std::vector(9, 180.0));
+    // With orbs of half a circle every pair is in opposition.
+    for (const auto& sor : valasz(kerelem.dump())["FenyszogRadix"])
+        EXPECT_EQ(std::count(sor.get_ref<const std::string&>().begin(),
+                             sor.get_ref<const std::string&>().end(), 'W'),
+                  9);
+}
+
+TEST(KepletJson, ARajzMuveletei) {
+    const TJson v = valasz(
+        R"({"op": "rajz", "pillanat": [1975, 3, 21, 6, 4, 9], "hely": {"helyseg": "Szeged"}, "tipus": 1, "felulet": [987, 644], "nyomtatas": false})");
+    const TJson& m = v["muveletek"];
+    EXPECT_EQ(m[0], TJson({"E", 342, 322, 258, 1, 0}));
+    EXPECT_EQ(m[1], TJson({"E", 342, 322, 249, 3, 0}));
+    EXPECT_EQ(m[6][0], "T");
+    EXPECT_EQ(m[6][3], " I");
+    EXPECT_EQ(m[6][4], "Ariel");
+    EXPECT_EQ(m[6][5], 59 - 37 - 8);
+}
+
+TEST(KepletJson, ATablakFajljai) {
+    const TMappa mappa;
+    ASSERT_EQ(std::system((std::string(KEPLET_JSON) + " --tablak " + mappa.nev()).c_str()), 0);
+    const auto meret = [&](const char* fajl) { return std::filesystem::file_size(mappa / fajl); };
+    EXPECT_EQ(meret("efemerida.bin"), 65536U * 72);
+    EXPECT_EQ(meret("mctabla.i32"), 361U * 4);
+    EXPECT_EQ(meret("haztabla.i32"), 19U * 361 * 5 * 4);
+    EXPECT_EQ(meret("ferde.i32"), 19U * 361 * 4);
+    EXPECT_EQ(meret("rekt.i32"), 2161U * 4);
+    EXPECT_EQ(meret("hossz.i32"), 2161U * 4);
+    EXPECT_EQ(meret("nyari.i32"), 116U * 4 * 4);
+    std::ifstream tsv(mappa / "telepulesek.tsv");
+    int sorok = 0;
+    for (std::string sor; std::getline(tsv, sor); ++sorok)
+        if (sorok == 1) EXPECT_EQ(sor, "Aba\t169323\t66689");
+    EXPECT_EQ(sorok, 3139);
+    EXPECT_NE(std::system((std::string(KEPLET_JSON) + " --tablak /nincs/ilyen 2> /dev/null").c_str()), 0);
+}
+
+}  // namespace

@@ -163,8 +163,11 @@ TEST(KepletJson, ATablakFajljai) {
     EXPECT_EQ(meret("nyari.i32"), 116U * 4 * 4);
     std::ifstream tsv(mappa / "telepulesek.tsv");
     int sorok = 0;
-    for (std::string sor; std::getline(tsv, sor); ++sorok)
-        if (sorok == 1) EXPECT_EQ(sor, "Aba\t169323\t66689");
+    for (std::string sor; std::getline(tsv, sor); ++sorok) {
+        if (sorok == 1) {
+            EXPECT_EQ(sor, "Aba\t169323\t66689");
+        }
+    }
     EXPECT_EQ(sorok, 3139);
     EXPECT_NE(std::system((std::string(KEPLET_JSON) + " --tablak /nincs/ilyen 2> /dev/null").c_str()), 0);
 }

@@ -1,8 +1,8 @@
 // Starts the program as it is, and ends when its picture has been painted.
 
 #include <QApplication>
-#include <QTimer>
 
+#include "elsofestes.h"
 #include "shell/ablakok.h"
 #include "shell/betumappak.h"
 
@@ -10,7 +10,7 @@ int main(int argc, char** argv) {
     const QApplication program(argc, argv);
     sajatBetukBetoltese();
     TAblakok ablakok;
+    const TElsoFestes vege(*ablakok.form1.centralWidget());
     ablakok.form1.show();
-    QTimer::singleShot(0, &program, &QApplication::quit);
     return QApplication::exec();
 }

@@ -2,13 +2,14 @@
 
 #include <QApplication>
 #include <QMainWindow>
-#include <QTimer>
+
+#include "elsofestes.h"
 
 int main(int argc, char** argv) {
     const QApplication program(argc, argv);
     QMainWindow ablak;
     ablak.resize(995, 717);
+    const TElsoFestes vege(ablak);
     ablak.show();
-    QTimer::singleShot(0, &program, &QApplication::quit);
     return QApplication::exec();
 }

@@ -230,6 +230,7 @@ void TForm1::Ujrafest() {
 }
 
 void TForm1::FormPaint(const QRegion& resz) {
+    megjelent_ = true;
     felulet_->torol(resz);
     if (allapot_.TeljesTorles) return;
     AblakGeometria(allapot_.Rajz, allapot_.Keplet.hazCsucs[1], felulet_->width(), felulet_->height());
@@ -240,7 +241,7 @@ void TForm1::FormPaint(const QRegion& resz) {
 void TForm1::FormResize() {
     panel1_->setGeometry(0, 0, panelSzelesseg, felulet_->height());
     allapot_.TeljesTorles = false;
-    if (!isVisible()) return;  // the first paint request draws
+    if (!megjelent_) return;  // the first paint request draws
     felulet_->torol();
     RajzolKeplet();
 }

@@ -76,5 +76,6 @@ private:
     QPushButton* valtGomb_ = nullptr;
     QPlainTextEdit* memo1_ = nullptr;
     QTimer* timer1_;
+    bool megjelent_ = false;  ///< the window has been painted once
     QString betutipus_;  ///< symbol font that the labels show
 };

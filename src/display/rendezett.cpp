@@ -45,7 +45,8 @@ bool elsoParSzetlep(Tomb<TRendezettSor, 10>& sorok, int kuszob) {
     return false;
 }
 
-/// A moment far outside the tables extrapolates to many times the circle; the spreading would take a pass for each.
+/// A moment far outside the tables extrapolates to many times the circle; the spreading would take a pass for
+/// each.
 void tavoliakBehajtasa(Tomb<TRendezettSor, 10>& sorok) {
     constexpr double szelso = 3600;  // degrees
     for (TRendezettSor& sor : sorok)

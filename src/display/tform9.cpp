@@ -1,7 +1,48 @@
 #include "display/tform9.h"
 
-TForm9::TForm9(Allapot& allapot, FoAblak& ablak, QWidget* fo)
-    : QDialog(fo), allapot_(allapot), ablak_(ablak) {
+#include <algorithm>
+
+#include <QGridLayout>
+#include <QPushButton>
+
+#include "shell/ablakelhelyezes.h"
+#include "shell/betumappak.h"
+
+TForm9::TForm9(Allapot& allapot, FoAblak&, QWidget* fo)
+    : QDialog(fo), allapot_(allapot), fo_(fo), comboBox1_(new QComboBox(this)) {
     setObjectName("TForm9");
     setWindowTitle("Szimbólumok");
+    comboBox1_->setObjectName("ComboBox1");
+    comboBox1_->setEditable(true);
+    comboBox1_->setMinimumContentsLength(20);
+    auto* rendben = new QPushButton("Rendben", this);
+    rendben->setObjectName("Button_Rendben1");
+    auto* megsem = new QPushButton("Mégsem", this);
+    megsem->setObjectName("Button_Megsem1");
+    auto* racs = new QGridLayout(this);
+    racs->addWidget(comboBox1_, 0, 0, 1, 2);
+    racs->addWidget(rendben, 1, 0);
+    racs->addWidget(megsem, 1, 1);
+    connect(rendben, &QPushButton::clicked, this, &TForm9::Button_Rendben1Click);
+    connect(megsem, &QPushButton::clicked, this, &TForm9::Button_Megsem1Click);
+}
+
+void TForm9::megmutat() {
+    comboBox1_->clear();
+    comboBox1_->addItems(szimbolumFontok());
+    adjustSize();
+    const int szel = std::min(width(), fo_->width());
+    move(fo_->x() + fo_->width() - szel, fo_->y() + 30);
+    exec();
+}
+
+void TForm9::Button_Rendben1Click() {
+    if (!comboBox1_->currentText().isEmpty()) allapot_.Rajz.szimbolumFont = szoveg(comboBox1_->currentText());
+    comboBox1_->clear();
+    accept();
+}
+
+void TForm9::Button_Megsem1Click() {
+    comboBox1_->clear();
+    reject();
 }

@@ -18,7 +18,7 @@
 /// All windows, created in the order of their numbers with the main window first. They live as long as the
 /// program runs and are only shown and hidden.
 struct TAblakok {
-    TAblakok() { form1.ablakokBeallitasa(this); }
+    TAblakok();
 
     TForm1 form1;
     TForm2 form2{form1.allapot(), form1, &form1};

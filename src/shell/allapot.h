@@ -159,6 +159,8 @@ struct Allapot {
     bool HangAktiv = false;  ///< the sound window's title runs
     bool MemoKicsi = true;   ///< `Memo1` is in its small position
     bool Megsem2 = true, Megsem3 = true, Megsem4 = true, Megsem14 = true;  ///< a dialog was left by "Mégsem"
+    bool JelszoRendben = true;   ///< the password has been given in this run, or there is none
+    int JelszoProba = 0;         ///< changes of the prompt's field so far
     bool TercierAblak = true;    ///< TForm3 serves tertiary directions, else the solar ingress
     int PontositasHatotav = 25;  ///< hundredths of a degree
     double TercierOrbisNap = 45.0;

@@ -34,3 +34,13 @@ void sajatBetukBetoltese() {
     // where none is there the system's default takes its place.
     QFont::insertSubstitutions(QString::fromUtf8(szovegFont), {"Arial", "Liberation Sans"});
 }
+
+QStringList szimbolumFontok() {
+    QStringList nevek;
+    for (const std::string& mappa : betuMappak())
+        for (const QFileInfo& fajl :
+             QDir(QString::fromStdString(mappa)).entryInfoList({"Astro*.ttf"}, QDir::Files))
+            nevek << fajl.completeBaseName();
+    nevek.removeDuplicates();
+    return nevek;
+}

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QInputDialog>
 #include <QLibraryInfo>
 #include <QTranslator>
 
@@ -14,6 +15,14 @@ int main(int argc, char** argv) {
     sajatBetukBetoltese();
 
     TAblakok ablakok;
+    if (ablakok.form11.elsoFutas()) {
+        bool ok = false;
+        const QString jelszo = QInputDialog::getText(
+            nullptr, "Korvend",
+            "Jelszó megadása:\nKis betűket használjon.\nHa nem akar jelszót használni, hagyja üresen.",
+            QLineEdit::Normal, {}, &ok);
+        if (ok) ablakok.form11.ujJelszo(jelszo);
+    }
     ablakok.form1.show();
     return QApplication::exec();
 }

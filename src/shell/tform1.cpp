@@ -13,11 +13,13 @@
 #include "display/betutipus.h"
 #include "display/geometria.h"
 #include "display/kepletrajz.h"
+#include "display/nyomtatas.h"
 #include "shell/ablakelhelyezes.h"
 #include "shell/ablakok.h"
 #include "shell/betumappak.h"
 #include "shell/datumformatum.h"
 #include "shell/indulas.h"
+#include "shell/kepletciklus.h"
 #include "shell/nezet.h"
 #include "shell/orajel.h"
 #include "tables/szotar.h"
@@ -53,8 +55,8 @@ constexpr TMenuSor menuSorok[]{
     {1, "Új", "Uj1", &TForm1::Uj1Click},
     {1, "Megnyitás", "Megnyitas1", nullptr},
     {1, "Mentés", "Mentes1", nullptr},
-    {1, "Nyomtat", "Nyomtat1", nullptr},
-    {1, "Nyomtatóbeállítás", "Nyomtato_beallitas1", nullptr},
+    {1, "Nyomtat", "Nyomtat1", &TForm1::Nyomtat1Click},
+    {1, "Nyomtatóbeállítás", "Nyomtato_beallitas1", &TForm1::Nyomtato_beallitas1Click},
     {1, "Kilépés", "Kilepes1", &TForm1::Kilepes1Click},
     {0, "Nézet", nullptr, nullptr},
     {1, "Horizont", "Horizont1", &TForm1::Horizont1Click},
@@ -85,10 +87,10 @@ constexpr TMenuSor menuSorok[]{
     {1, "Tercier direkció", "Tercier1", nullptr},
     {1, "Szolár ingresszió", "Szolaringresszio11", nullptr},
     {0, "Beállítások", nullptr, nullptr},
-    {1, "Léptet", "Radixlepteto1", nullptr},
-    {1, "Orbisok", "Orbisok1", nullptr},
+    {1, "Léptet", "Radixlepteto1", &TForm1::Radixlepteto1Click},
+    {1, "Orbisok", "Orbisok1", &TForm1::Orbisok1Click},
     {1, "Mundánházas pontosítás", "Mundnhzaspontosts1", nullptr},
-    {1, "Szimbólumok", "Szimbolumok1", nullptr},
+    {1, "Szimbólumok", "Szimbolumok1", &TForm1::Szimbolumok1Click},
 };
 
 constexpr std::array<int, 7> statuszSzelessegek{48, 90, 150, 135, 150, 90, 750};
@@ -127,7 +129,10 @@ void TForm1::menuEpites() {
         QAction* pont = menuk[szint - 1]->addAction(sor.felirat);
         pont->setObjectName(sor.nev);
         pont->setEnabled(sor.kezelo != nullptr);
-        if (sor.kezelo != nullptr) connect(pont, &QAction::triggered, this, sor.kezelo);
+        if (sor.kezelo == nullptr) continue;
+        connect(pont, &QAction::triggered, this, [this, kezelo = sor.kezelo] {
+            if (kezelo == &TForm1::Kilepes1Click || JelszoKeres()) (this->*kezelo)();
+        });
     }
 }
 
@@ -137,7 +142,10 @@ void TForm1::gombEpites(int hely, const char* nev, const QString& felirat, TKeze
     gomb->setGeometry(0, hely * gombMagassag, panelSzelesseg, gombMagassag);
     gomb->setFocusPolicy(Qt::NoFocus);
     gomb->setEnabled(kezelo != nullptr);
-    if (kezelo != nullptr) connect(gomb, &QPushButton::clicked, this, kezelo);
+    if (kezelo == nullptr) return;
+    connect(gomb, &QPushButton::clicked, this, [this, kezelo] {
+        if (JelszoKeres()) (this->*kezelo)();
+    });
 }
 
 void TForm1::panelSorEpites(int sor) {
@@ -170,8 +178,8 @@ void TForm1::panelEpites() {
 
     gombEpites(0, "PanelButton2_Most", qszoveg(allapot_.Feliratok.mostGomb), &TForm1::PanelButton2_MostClick);
     gombEpites(1, "PanelButton3_Valt", qszoveg(allapot_.Feliratok.valtGomb), &TForm1::PanelButton3_ValtClick);
-    gombEpites(2, "PanelButton4Leptet", "Léptet", nullptr);
-    gombEpites(3, "PanelButton5Orbis", "Orbis", nullptr);
+    gombEpites(2, "PanelButton4Leptet", "Léptet", &TForm1::Radixlepteto1Click);
+    gombEpites(3, "PanelButton5Orbis", "Orbis", &TForm1::Orbisok1Click);
     gombEpites(4, "PanelButton6MHP", "MHP", nullptr);
     gombEpites(5, "PanelButton7Tercier", "Tercier", nullptr);
     mostGomb_ = panel1_->findChild<QPushButton*>("PanelButton2_Most");
@@ -320,6 +328,10 @@ void TForm1::szemelyiAblak(bool ujKeplet) {
     if (!allapot_.Megsem2) BevittKepletMutatasa(allapot_, *this);
 }
 
+bool TForm1::JelszoKeres() {
+    return ablakok_ == nullptr || ablakok_->form11.JelszoKeres();
+}
+
 void TForm1::Szemely_adatok1Click() {
     szemelyiAblak(false);
 }
@@ -345,12 +357,76 @@ void TForm1::PanelButton3_ValtClick() {
     ValtParancs(allapot_, *this);
 }
 
+void TForm1::Radixlepteto1Click() {
+    felulKozepre(ablakok_->form7, *this);
+    ablakok_->form7.show();
+    ablakok_->form7.raise();
+}
+
+void TForm1::Orbisok1Click() {
+    ablakok_->form6.megmutat();
+    TKeplet& k = allapot_.Keplet;
+    k.Bolygok = k.bolygo;
+    k.Mozgasok = k.mozgas;
+    k.Hazcsucsok = k.hazCsucs;
+    FenyszogCiklus(allapot_);
+    Ervenytelenit();
+    allapot_.TeljesTorles = false;
+    RajzolKeplet();
+}
+
+void TForm1::Szimbolumok1Click() {
+    ablakok_->form9.megmutat();
+    RajzolKeplet();
+}
+
+void TForm1::Nyomtato_beallitas1Click() {
+    allapot_.MostFut = false;
+    allapot_.Feliratok.mostGomb = "Most";
+    Mutat();
+    parbeszed_->nyomtatoBeallitas(this, nyomtato_);
+}
+
+void TForm1::nyomtatas() {
+    const bool fajlba = !nyomtato_.outputFileName().isEmpty();
+    if (!fajlba && !parbeszed_->vanNyomtato() && !parbeszed_->nyomtatoBeallitas(this, nyomtato_)) return;
+    const QString nev = parbeszed_->bekeres(this, "Nyomtatás", "Kérek egy megnevezést:");
+    if (nev.isEmpty()) return;
+    NyomtatasNezete(allapot_, szoveg(nev));
+    Mutat();
+    const QSize lap = nyomtato_.pageRect(QPrinter::DevicePixel).size().toSize();
+    QPainter festo;
+    if (!festo.begin(&nyomtato_)) {
+        parbeszed_->uzenet(this, "A nyomtatás nem indítható el.");
+        return;
+    }
+    QtVaszon vaszon(festo);
+    LapRajz(vaszon, allapot_, FejlecSzoveg(allapot_.Keplet, szoveg(nev)), lap.width(), lap.height());
+}
+
+void TForm1::Nyomtat1Click() {
+    allapot_.Rajz.nyomtatasMod = true;
+    allapot_.MostFut = false;
+    allapot_.Feliratok.mostGomb = "Most";
+    Mutat();
+    nyomtatas();
+    allapot_.Rajz.nyomtatasMod = false;
+    allapot_.TeljesTorles = false;
+    felulet_->torol();
+    RajzolKeplet();
+}
+
 void TForm1::memoHely() {
     const TMemoHely hely = allapot_.MemoKicsi ? kicsiMemo : nagyMemo;
     memo1_->setGeometry(0, hely.tetej, panelSzelesseg, hely.magassag);
 }
 
+void TForm1::FormMouseDown() {
+    JelszoKeres();
+}
+
 void TForm1::Panel1Click() {
+    if (!JelszoKeres()) return;
     allapot_.MemoKicsi = !allapot_.MemoKicsi;
     memoHely();
 }
@@ -361,6 +437,7 @@ void TForm1::Memo1Change() {
 }
 
 bool TForm1::eventFilter(QObject* targy, QEvent* esemeny) {
+    if (targy == felulet_ && esemeny->type() == QEvent::MouseButtonPress) FormMouseDown();
     if (esemeny->type() == QEvent::MouseButtonRelease) {
         if (targy == panel1_) Panel1Click();
         if (targy == memo1_->viewport()) Memo1Change();

@@ -11,6 +11,7 @@
 #include "shell/allapot.h"
 #include "shell/foablak.h"
 #include "shell/kepletfelulet.h"
+#include "shell/parbeszed.h"
 
 struct TAblakok;
 
@@ -25,6 +26,9 @@ public:
     void ablakokBeallitasa(TAblakok* ablakok) { ablakok_ = ablakok; }
 
     Allapot& allapot() { return allapot_; }
+
+    /// Other dialogs in place of the toolkit's, for tests.
+    void parbeszedBeallitasa(TParbeszed& parbeszed) { parbeszed_ = &parbeszed; }
 
     void Ujrafest() override;
     void Ervenytelenit() override { felulet_->ervenytelenit(); }
@@ -41,15 +45,21 @@ public slots:
 
     void Szemely_adatok1Click();
     void Uj1Click();
+    void Nyomtat1Click();
+    void Nyomtato_beallitas1Click();
     void Kilepes1Click();
     void Horizont1Click();
     void Mundan1Click();
     void Dekad1Click();
+    void Radixlepteto1Click();
+    void Orbisok1Click();
+    void Szimbolumok1Click();
 
     void PanelButton2_MostClick();
     void PanelButton3_ValtClick();
     void Panel1Click();
     void Memo1Change();
+    void FormMouseDown();
 
 private:
     void FormCreate();
@@ -62,11 +72,16 @@ private:
     void panelSorEpites(int sor);
     void gombEpites(int hely, const char* nev, const QString& felirat, void (TForm1::*kezelo)());
     void oldalPanelMutatas();
+    bool JelszoKeres();
+    void nyomtatas();
     void szemelyiAblak(bool ujKeplet);
     void memoHely();
     bool eventFilter(QObject* targy, QEvent* esemeny) override;
 
     Allapot allapot_;
+    TParbeszed alapParbeszed_;
+    TParbeszed* parbeszed_ = &alapParbeszed_;
+    QPrinter nyomtato_{QPrinter::HighResolution};
     TAblakok* ablakok_ = nullptr;
     KepletFelulet* felulet_;
     QFrame* panel1_;
@@ -77,5 +92,5 @@ private:
     QPlainTextEdit* memo1_ = nullptr;
     QTimer* timer1_;
     bool megjelent_ = false;  ///< the window has been painted once
-    QString betutipus_;  ///< symbol font that the labels show
+    QString betutipus_;       ///< symbol font that the labels show
 };

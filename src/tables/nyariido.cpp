@@ -14,9 +14,13 @@ constexpr std::int32_t napSzam(year_month_day datum) {
     return static_cast<std::int32_t>((sys_days{datum} - elsoNap).count()) + julianszamAlap + 1;
 }
 
-constexpr std::int32_t napSzam(int ev, unsigned ho, unsigned nap) { return napSzam(year{ev} / month{ho} / day{nap}); }
+constexpr std::int32_t napSzam(int ev, unsigned ho, unsigned nap) {
+    return napSzam(year{ev} / month{ho} / day{nap});
+}
 
-constexpr std::int32_t utolsoVasarnap(int ev, month ho) { return napSzam(sys_days{year{ev} / ho / Sunday[last]}); }
+constexpr std::int32_t utolsoVasarnap(int ev, month ho) {
+    return napSzam(sys_days{year{ev} / ho / Sunday[last]});
+}
 
 struct TDatum {
     int ev;
@@ -53,8 +57,8 @@ constexpr int utolsoSzabalyosEv = 2078;
 constexpr TRendhagyo utolsoIdoszak{{2079, 3, 26}, 2, {2079, 6, 6}, 23};
 
 constexpr TNyariIdoszak idoszak(const TRendhagyo& r) {
-    return {napSzam(r.kezdo.ev, r.kezdo.ho, r.kezdo.nap), napSzam(r.vege.ev, r.vege.ho, r.vege.nap), r.kezdoOra,
-            r.vegeOra};
+    return {napSzam(r.kezdo.ev, r.kezdo.ho, r.kezdo.nap), napSzam(r.vege.ev, r.vege.ho, r.vege.nap),
+            r.kezdoOra, r.vegeOra};
 }
 
 constexpr std::array<TNyariIdoszak, 116> osszesIdoszak() {
@@ -62,7 +66,8 @@ constexpr std::array<TNyariIdoszak, 116> osszesIdoszak() {
     std::size_t n = 0;
     for (const TRendhagyo& r : rendhagyoIdoszakok) sorok[n++] = idoszak(r);
     for (int ev = elsoSzabalyosEv; ev <= utolsoSzabalyosEv; ++ev)
-        sorok[n++] = {utolsoVasarnap(ev, March), utolsoVasarnap(ev, ev < elsoOktoberesEv ? September : October), 2, 3};
+        sorok[n++] = {utolsoVasarnap(ev, March),
+                      utolsoVasarnap(ev, ev < elsoOktoberesEv ? September : October), 2, 3};
     sorok[n] = idoszak(utolsoIdoszak);
     return sorok;
 }

@@ -1,0 +1,5 @@
+#include "shell/ablakok.h"
+
+TAblakok::TAblakok() {
+    form1.ablakokBeallitasa(this);
+}

@@ -1,0 +1,146 @@
+// Orbs and symbols.
+
+#include <QMenu>
+
+#include "ablakteszt.h"
+
+namespace {
+
+QPushButton* cella(const QWidget& d, int sor, int oszlop) {
+    return vezerlo<QPushButton>(d, qPrintable(QStringLiteral("BOrbis_%1_%2").arg(sor).arg(oszlop)));
+}
+
+}  // namespace
+
+class BeallitasokTeszt : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { sajatBetukBetoltese(); }
+
+    void aRacsAzOrbisTablavalEpul() {
+        TFrissAblakok a;
+        valasz([](QWidget& d) {
+            int gombok = 0;
+            for (const auto* g : d.findChildren<QPushButton*>())
+                gombok += g->objectName().startsWith("BOrbis_");
+            QCOMPARE(gombok, 12 * 9 - 2 * 4);
+            QVERIFY(d.findChild<QPushButton*>("BOrbis_1_2") == nullptr);
+            QVERIFY(d.findChild<QPushButton*>("BOrbis_2_8") == nullptr);
+            QCOMPARE(cella(d, 3, 1)->text(), "15");
+            QCOMPARE(cella(d, 4, 9)->text(), "12");
+            QCOMPARE(cella(d, 1, 1)->geometry(), QRect(295 - 32 * 8, 140 - 26 * 3, 30, 24));
+            QCOMPARE(cella(d, 12, 9)->geometry(), QRect(295, 140 + 26 * 8, 30, 24));
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Orbisok1");
+        QCOMPARE(a.form6.findChildren<QPushButton*>().size() >= 6, true);
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCOMPARE(a.form6.findChildren<QPushButton*>().size(), 6);
+    }
+
+    void aKattintasLepEsKiemel() {
+        TFrissAblakok a;
+        valasz([](QWidget& d) {
+            kattint(d, "BOrbis_3_1");
+            QCOMPARE(cella(d, 3, 1)->text(), "15.5");
+            QCOMPARE(cella(d, 3, 1)->font().pointSize(), 16);
+            QCOMPARE(cella(d, 3, 2)->font().pointSize(), 10);
+            kattint(d, "Button_minusz2");
+            QCOMPARE(vezerlo<QPushButton>(d, "Button_minusz2")->font().pointSize(), 16);
+            QCOMPARE(vezerlo<QPushButton>(d, "Button_plusz1")->font().pointSize(), 8);
+            kattint(d, "BOrbis_3_1");
+            kattint(d, "BOrbis_3_1");
+            QCOMPARE(cella(d, 3, 1)->text(), "14.5");
+            kattint(d, "Button_Rendben1");
+        });
+        menu(a.form1, "Orbisok1");
+        QCOMPARE(a.allapot().OrbisTabla[3][1], 14.5);
+        // The step stays when the dialog is opened again.
+        valasz([](QWidget& d) {
+            QCOMPARE(vezerlo<QPushButton>(d, "Button_minusz2")->font().pointSize(), 16);
+            kattint(d, "BOrbis_3_1");
+            QCOMPARE(cella(d, 3, 1)->text(), "14");
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Orbisok1");
+        QCOMPARE(a.allapot().OrbisTabla[3][1], 14.5);
+    }
+
+    void nullaAlaNemMegy() {
+        TFrissAblakok a;
+        a.allapot().OrbisTabla[5][2] = 0;
+        a.allapot().OrbisTabla[5][3] = 0.3;
+        valasz([](QWidget& d) {
+            kattint(d, "Button_minusz2");
+            kattint(d, "BOrbis_5_2");
+            QCOMPARE(cella(d, 5, 2)->text(), "0");
+            QCOMPARE(cella(d, 5, 2)->font().pointSize(), 16);
+            QCOMPARE(cella(d, 5, 3)->text(), "0.3");
+            kattint(d, "BOrbis_5_3");
+            QCOMPARE(cella(d, 5, 3)->text(), "0");
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Orbisok1");
+        QCOMPARE(a.allapot().OrbisTabla[5][3], 0.3);
+    }
+
+    void azElozoEsAzInduloBeallitas() {
+        TFrissAblakok a;
+        a.allapot().OrbisTabla[3][1] = 9;
+        valasz([&a](QWidget& d) {
+            kattint(d, "BOrbis_3_1");
+            kattint(d, "Button_vissza3");
+            QCOMPARE(cella(d, 3, 1)->text(), "9");
+            QCOMPARE(cella(d, 3, 1)->font().pointSize(), 10);
+            kattint(d, "Button_vissza4");
+            QCOMPARE(cella(d, 3, 1)->text(), "15");
+            QCOMPARE(a.allapot().OrbisTabla[3][1], 9.0);  // only "Rendben" writes the table
+            kattint(d, "Button_Rendben1");
+        });
+        menu(a.form1, "Orbisok1");
+        QVERIFY(a.allapot().OrbisTabla == OrbisAlap);
+    }
+
+    void azOrbisUtanAFenyszogekUjraszamolodnak() {
+        TFrissAblakok a;
+        valasz([&a](QWidget& d) {
+            for (int i = 1; i <= 12; ++i) a.allapot().OrbisTabla[i].tolt(180);
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Orbisok1");
+        QCOMPARE(a.allapot().FenyszogRadix[1][2], 'W');
+    }
+
+    void aSzimbolumokAFelsoroltBetukkel() {
+        TFrissAblakok a;
+        valasz([](QWidget& d) {
+            auto* lista = vezerlo<QComboBox>(d, "ComboBox1");
+            QVERIFY(lista->findText("Astro Symbols") >= 0);
+            gepel(d, "ComboBox1", "Valami");
+            kattint(d, "Button_Rendben1");
+        });
+        menu(a.form1, "Szimbolumok1");
+        QCOMPARE(a.allapot().Rajz.szimbolumFont, std::string("Valami"));
+        QCOMPARE(vezerlo<QLabel>(a.form1, "Label1")->font().family(), "Valami");
+    }
+
+    void uresenVagyMegsemmelMarad() {
+        TFrissAblakok a;
+        valasz([](QWidget& d) {
+            vezerlo<QComboBox>(d, "ComboBox1")->setEditText("");
+            kattint(d, "Button_Rendben1");
+        });
+        menu(a.form1, "Szimbolumok1");
+        QCOMPARE(a.allapot().Rajz.szimbolumFont, std::string("Astro Symbols"));
+        valasz([](QWidget& d) {
+            gepel(d, "ComboBox1", "Valami");
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Szimbolumok1");
+        QCOMPARE(a.allapot().Rajz.szimbolumFont, std::string("Astro Symbols"));
+    }
+};
+
+QTEST_MAIN(BeallitasokTeszt)
+#include "beallitasok_teszt.moc"

@@ -1,0 +1,105 @@
+#include <gtest/gtest.h>
+
+#include "engine/csillagido.h"
+#include "tables/efemerida.h"
+
+namespace {
+
+struct TEredmeny {
+    double napresz = -1;
+    std::int32_t napEltolas = 0;
+    std::int32_t ora = -1, perc = -1;
+    double mperc = -1;
+};
+
+struct THely {
+    std::int32_t hosszusag = 68640;
+    std::int32_t nyariIdo = 0;
+    std::int32_t idozona = 1;
+};
+
+TEredmeny szamit(std::int32_t ev, std::int32_t ho, std::int32_t nap, int ora, int perc, int mperc,
+                 THely hely = {}) {
+    TEredmeny e;
+    const std::int32_t kezdet = DatumbolJulianszam(ev, ho, nap);
+    std::int32_t julianszam = kezdet;
+    CsillagIdo(ora, perc, mperc, e.napresz, julianszam, hely.hosszusag, e.mperc, e.perc, e.ora, hely.nyariIdo,
+               hely.idozona);
+    e.napEltolas = julianszam - kezdet;
+    return e;
+}
+
+TEST(CsillagIdo, BudapestEzerkilencszazJanuarMasodikanEjfelkor) {
+    const TEredmeny e = szamit(1900, 1, 2, 0, 0, 0);
+    EXPECT_EQ(e.napEltolas, -1);
+    EXPECT_DOUBLE_EQ(e.napresz, 82800.0 / 86400);
+    // 111647 s is 31:00:47, less 24 hours; the fraction is that of 82800 x 0.0027379050925925926 =
+    // 226.6985416…
+    EXPECT_EQ(e.ora, 7);
+    EXPECT_EQ(e.perc, 0);
+    EXPECT_NEAR(e.mperc, 47.69854, 1e-5);
+    EXPECT_NEAR(e.mperc, 47 + (82800 * 0.0027379050925925926 - 226), 1e-9);
+}
+
+TEST(CsillagIdo, NullaOraNyariIdovelAzElozoNap22Ora) {
+    const TEredmeny e = szamit(2000, 7, 2, 0, 0, 0, {68640, 1, 1});
+    EXPECT_EQ(e.napEltolas, -1);
+    EXPECT_DOUBLE_EQ(e.napresz, 22.0 / 24);
+}
+
+TEST(CsillagIdo, NyugatiZonabanANapreszEgyFolottEsNincsAtvitel) {
+    const TEredmeny e = szamit(2000, 1, 1, 23, 0, 0, {0, 0, -5});
+    EXPECT_EQ(e.napEltolas, 0);
+    EXPECT_DOUBLE_EQ(e.napresz, 28.0 / 24);
+    // 6:39:51 at 0h, 28 hours and 275 s of gain: 34:44:26, less one day.
+    EXPECT_EQ(e.ora, 10);
+    EXPECT_EQ(e.perc, 44);
+    EXPECT_EQ(static_cast<int>(e.mperc), 26);
+}
+
+TEST(CsillagIdo, CsakEgyHuszonnegyOratVeszLe) {
+    // 22:39 at 0h in September, 28 hours later: 50 hours; 26 remain.
+    const TEredmeny e = szamit(2000, 9, 1, 23, 0, 0, {0, 0, -5});
+    EXPECT_EQ(e.ora, 26);
+}
+
+TEST(CsillagIdo, ANyugatiHosszusagLevonodik) {
+    // 15 degrees are an hour of time.
+    const TEredmeny kelet = szamit(2000, 1, 1, 12, 0, 0, {54000, 0, 0});
+    const TEredmeny nulla = szamit(2000, 1, 1, 12, 0, 0, {0, 0, 0});
+    const TEredmeny nyugat = szamit(2000, 1, 1, 12, 0, 0, {-54000, 0, 0});
+    EXPECT_EQ(kelet.ora, nulla.ora + 1);
+    EXPECT_EQ(nyugat.ora, nulla.ora - 1);
+    EXPECT_EQ(nyugat.perc, nulla.perc);
+    EXPECT_DOUBLE_EQ(nyugat.mperc, nulla.mperc);
+}
+
+TEST(CsillagIdo, AHosszusagEgyMasodpercnelRovidebbReszeElvesz) {
+    // 15 arcseconds are a second of time.
+    const TEredmeny tizenot = szamit(2000, 1, 1, 12, 0, 0, {15, 0, 0});
+    const TEredmeny tizennegy = szamit(2000, 1, 1, 12, 0, 0, {14, 0, 0});
+    const TEredmeny nulla = szamit(2000, 1, 1, 12, 0, 0, {0, 0, 0});
+    EXPECT_DOUBLE_EQ(tizennegy.mperc, nulla.mperc);
+    EXPECT_DOUBLE_EQ(tizenot.mperc, nulla.mperc + 1);
+}
+
+TEST(CsillagIdo, AzElsoNapElottATablaElsoSoraAll) {
+    // 1899-12-31 23:00 in Greenwich reads the copy of row 1, 6:40:45.
+    const TEredmeny e = szamit(1900, 1, 1, 0, 0, 0);
+    EXPECT_EQ(e.napEltolas, -1);
+    // 23 h + 6:40:45 + 76 min 16 s + 226 s = 31:00:47.
+    EXPECT_EQ(e.ora, 7);
+    EXPECT_EQ(e.perc, 0);
+    EXPECT_EQ(static_cast<int>(e.mperc), 47);
+}
+
+TEST(CsillagIdo, ANegativIdoMegtartjaCsonkitottReszeit) {
+    // Zone 12 and 180 degrees west: on 2000-01-01 at 12:10 the clock of Greenwich shows 0:10, the sidereal
+    // sum 6:39:51 + 0:10 - 12 h + 1 s is -5:10:08 and keeps its sign in all parts.
+    const TEredmeny e = szamit(2000, 1, 1, 12, 10, 0, {-648000, 0, 12});
+    EXPECT_EQ(e.ora, -5);
+    EXPECT_EQ(e.perc, -10);
+    EXPECT_NEAR(e.mperc, -8 + (600 * 0.0027379050925925926 - 1), 1e-9);
+}
+
+}  // namespace

@@ -1,0 +1,192 @@
+#include <gtest/gtest.h>
+
+#include "engine/fenyszogek.h"
+
+namespace {
+
+/// Ten bodies far from any aspect with one another where the test sets none: decans and orbs kept apart by
+/// hand.
+struct TKep {
+    TBolygok b;
+    TFenyszogMunka munka;
+    TOrbisTabla orbis = OrbisAlap;
+
+    char jel(int i, int j) {
+        ElteresSzamitas(b, munka);
+        Fenyszogek(orbis, munka);
+        EXPECT_EQ(munka.FenyszogMatrix[i][j], munka.FenyszogMatrix[j][i]);
+        return munka.FenyszogMatrix[i][j];
+    }
+    double orb(int i, int j) const { return munka.FenyszogOrbis[i][j]; }
+};
+
+TEST(Elteresek, ARovidebbIvEsADekadKezdete) {
+    TKep k;
+    k.b[1] = 350;
+    k.b[2] = 15;
+    k.b[3] = 170;
+    ElteresSzamitas(k.b, k.munka);
+    EXPECT_DOUBLE_EQ(k.munka.Elteresek[1][2], 25);
+    EXPECT_DOUBLE_EQ(k.munka.Elteresek[2][1], 25);
+    EXPECT_DOUBLE_EQ(k.munka.Elteresek[1][3], 180);
+    EXPECT_DOUBLE_EQ(k.munka.DekadKezdetek[1], 350);
+    EXPECT_DOUBLE_EQ(k.munka.DekadKezdetek[2], 10);
+}
+
+TEST(Fenyszogek, AzOrbisHataraHozzatartozik) {
+    TKep k;
+    k.b[1] = 101;
+    k.b[2] = 114.5;  // Sun and Moon: (15 + 12) / 2 is 13.5
+    EXPECT_EQ(k.jel(1, 2), 'M');
+    EXPECT_DOUBLE_EQ(k.orb(1, 2), 13.5);
+    k.b[2] = 114.75;
+    EXPECT_EQ(k.jel(1, 2), '.');
+}
+
+TEST(Fenyszogek, ADekadOrbisNelkulIsAdFenyszoget) {
+    TKep k;
+    k.b[3] = 121;
+    k.b[4] = 157;  // 36 apart; decans from 120 and 150
+    EXPECT_EQ(k.jel(3, 4), 'N');
+    EXPECT_DOUBLE_EQ(k.orb(3, 4), 0);
+    k.b[3] = 129;
+    k.b[4] = 165;  // decans from 120 and 160
+    EXPECT_EQ(k.jel(3, 4), '.');
+}
+
+TEST(Fenyszogek, ANapJupiterNegyzetEsHatvan) {
+    TKep k;
+    k.b[1] = 5;
+    k.b[6] = 88;  // 83: inside 82..98
+    EXPECT_EQ(k.jel(1, 6), 'R');
+    k.b[1] = 5;
+    k.b[6] = 70.5;  // 65.5: outside 55.5..64.5 and 82..98; decans 0 and 70
+    EXPECT_EQ(k.jel(1, 6), '.');
+    k.b[6] = 69.5;  // 64.5: the bound of the sextile
+    EXPECT_EQ(k.jel(1, 6), 'P');
+}
+
+TEST(Fenyszogek, MindenFenyszogSajatBetuvel) {
+    const std::pair<double, char> fenyszogek[]{{0, 'M'},   {30, 'N'},  {45, 'O'},  {60, 'P'}, {90, 'R'},
+                                               {120, 'S'}, {135, 'T'}, {150, 'V'}, {180, 'W'}};
+    for (const auto& [szog, betu] : fenyszogek) {
+        TKep k;
+        k.b[3] = 7;
+        k.b[4] = 7 + szog;
+        EXPECT_EQ(k.jel(3, 4), betu);
+    }
+}
+
+TEST(Fenyszogek, NullaOrbisPontosTalalatraTalal) {
+    TKep k;
+    k.orbis = {};
+    k.b[3] = 7;
+    k.b[4] = 52;
+    EXPECT_EQ(k.jel(3, 4), 'O');
+    k.b[4] = 52.01;
+    EXPECT_EQ(k.jel(3, 4), '.');
+}
+
+TEST(Fenyszogek, AtfedoOrbisnalANagyobbSzogGyoz) {
+    TKep k;
+    k.orbis[5][3] = k.orbis[6][3] = 10;  // 45: 35..55
+    k.orbis[5][4] = k.orbis[6][4] = 10;  // 60: 50..70
+    k.b[3] = 7;
+    k.b[4] = 59;  // 52
+    EXPECT_EQ(k.jel(3, 4), 'P');
+}
+
+TEST(Fenyszogek, ATengelyekSoraitNemOlvassa) {
+    TKep k;
+    k.orbis[1].tolt(90);
+    k.orbis[2].tolt(90);
+    k.b[1] = 101;
+    k.b[2] = 117;
+    EXPECT_EQ(k.jel(1, 2), '.');
+}
+
+TEST(Fenyszogek, AzAtloPont) {
+    TKep k;
+    k.jel(1, 2);
+    for (int i = 1; i <= 10; ++i) {
+        EXPECT_EQ(k.munka.FenyszogMatrix[i][i], '.');
+        EXPECT_EQ(k.munka.FenyszogOrbis[i][i], 0);
+    }
+}
+
+TEST(OrbisAlap, AGyariErtekek) {
+    EXPECT_EQ(OrbisAlap[1][1], 5);
+    EXPECT_EQ(OrbisAlap[2][2], 0);
+    EXPECT_EQ(OrbisAlap[3], (Tomb<double, 9>{{15, 4, 4, 5, 8, 10, 4, 4, 15}}));
+    EXPECT_EQ(OrbisAlap[4], (Tomb<double, 9>{{12, 4, 4, 5, 8, 8, 4, 4, 12}}));
+    for (const int sor : {5, 6, 7, 10, 11, 12})
+        EXPECT_EQ(OrbisAlap[sor], (Tomb<double, 9>{{8, 2, 2, 3, 5, 5, 2, 2, 8}}));
+    for (const int sor : {8, 9}) EXPECT_EQ(OrbisAlap[sor], (Tomb<double, 9>{{10, 3, 3, 4, 8, 8, 3, 3, 10}}));
+}
+
+TJelMatrix ures() {
+    TJelMatrix m;
+    for (auto& sor : m) sor.tolt('.');
+    return m;
+}
+
+void par(TJelMatrix& m, int i, int j, char betu) {
+    m[i][j] = m[j][i] = betu;
+}
+
+TEST(EgyuttallasLanc, ALancMindenTagjaEgyuttall) {
+    TJelMatrix m = ures();
+    par(m, 1, 2, 'M');
+    par(m, 2, 5, 'M');
+    par(m, 3, 4, 'R');
+    EgyuttallasLanc(m);
+    EXPECT_EQ(m[1][2], 'M');
+    EXPECT_EQ(m[2][5], 'M');
+    EXPECT_EQ(m[1][5], 'M');
+    EXPECT_EQ(m[5][1], 'M');
+    EXPECT_EQ(m[3][4], '.');
+    for (int i = 1; i <= 10; ++i) EXPECT_EQ(m[i][i], '+');
+}
+
+TEST(EgyuttallasLanc, ATizTaguLancIsOsszeer) {
+    TJelMatrix m = ures();
+    for (int i = 1; i < 10; ++i) par(m, i, i + 1, 'M');
+    EgyuttallasLanc(m);
+    for (int i = 1; i <= 10; ++i)
+        for (int j = 1; j <= 10; ++j) EXPECT_EQ(m[i][j], i == j ? '+' : 'M');
+}
+
+TEST(EgyuttallasLanc, EgyuttallasNelkulUres) {
+    TJelMatrix m = ures();
+    par(m, 1, 2, 'S');
+    EgyuttallasLanc(m);
+    EXPECT_EQ(m[1][2], '.');
+    EXPECT_EQ(m[1][1], '+');
+}
+
+char oldal(double p, double q) {
+    TBolygok b;
+    b[1] = p;
+    b[2] = q;
+    TJelMatrix m = ures();
+    m[1][2] = 'R';
+    AlsoFelso(b, m);
+    EXPECT_EQ(m[2][1], '.');
+    EXPECT_EQ(m[1][1], '+');
+    return m[1][2];
+}
+
+TEST(AlsoFelso, FelsoHaFelkornelKevesebbelElore) {
+    EXPECT_EQ(oldal(350, 10), 'F');
+    EXPECT_EQ(oldal(10, 100), 'F');
+}
+
+TEST(AlsoFelso, AlsoHaMogotte_EgyuttVagySzemben) {
+    EXPECT_EQ(oldal(10, 350), 'A');
+    EXPECT_EQ(oldal(100, 280), 'A');
+    EXPECT_EQ(oldal(280, 100), 'A');
+    EXPECT_EQ(oldal(100, 100), 'A');
+    EXPECT_EQ(oldal(100, 10), 'A');
+}
+
+}  // namespace

@@ -1,0 +1,105 @@
+#include <gtest/gtest.h>
+
+#include "engine/hazak.h"
+#include "tables/haztablak.h"
+
+namespace {
+
+THazcsucsok csucsok(int ora, int perc, double mperc, int szelesseg) {
+    THazcsucsok h;
+    Hazak(ora, perc, mperc, h, szelesseg);
+    return h;
+}
+
+constexpr int fok(int f, int p = 0) {
+    return f * 3600 + p * 60;
+}
+
+double cella(int szelesseg, int ramc, std::size_t oszlop) {
+    return HazTabla[static_cast<std::size_t>(szelesseg - 42)][static_cast<std::size_t>(ramc)][oszlop] / 60.0;
+}
+
+TEST(Hazak, AszcendensKetSzelessegKozott) {
+    EXPECT_NEAR(csucsok(0, 0, 0, 171000)[1], 113.46667, 1e-5);
+    EXPECT_DOUBLE_EQ(csucsok(0, 0, 0, 171000)[1], (6786 + 44 * 1800 / 3600.0) / 60);
+}
+
+TEST(Hazak, RacspontonATablaCellaja) {
+    const THazcsucsok h = csucsok(0, 0, 0, fok(42));
+    EXPECT_DOUBLE_EQ(h[1], 6583 / 60.0);
+    EXPECT_DOUBLE_EQ(h[2], 7736 / 60.0);
+    EXPECT_DOUBLE_EQ(h[3], 9080 / 60.0);
+    EXPECT_DOUBLE_EQ(h[11], 2194 / 60.0);
+    EXPECT_DOUBLE_EQ(h[12], 4558 / 60.0);
+    EXPECT_DOUBLE_EQ(h[10], 0);
+    EXPECT_DOUBLE_EQ(csucsok(0, 4, 0, fok(42))[1], 6631 / 60.0);
+}
+
+TEST(Hazak, EgyFokRamcNegyPercCsillagido) {
+    // Two minutes past the grid: half way between the rows 0 and 1.
+    const THazcsucsok h = csucsok(0, 2, 0, fok(42));
+    EXPECT_DOUBLE_EQ(h[1], (6583 + 6631) / 2.0 / 60);
+    EXPECT_DOUBLE_EQ(h[10], 3924 / 2.0 / 3600);
+}
+
+TEST(Hazak, ElobbASzelessegAztanAzIdo) {
+    const THazcsucsok h = csucsok(0, 1, 30, fok(42, 15));
+    // (6621 - 6583) x 900 / 3600 at row 0, then 90 of 240 s towards row 1.
+    const double a = (6621 - 6583) * 900 / 3600.0 + 6583;
+    const double b = (HazTabla[1][1][0] - 6631) * 900 / 3600.0 + 6631;
+    EXPECT_DOUBLE_EQ(h[1], ((b - a) * 90 / 240 + a) / 60);
+}
+
+TEST(Hazak, HatvanFoknalAzUtolsoBlokk) {
+    EXPECT_DOUBLE_EQ(csucsok(0, 0, 0, fok(60))[1], 7474 / 60.0);
+    EXPECT_DOUBLE_EQ(csucsok(0, 0, 0, fok(60))[12], 5533 / 60.0);
+}
+
+TEST(Hazak, ASavonKivuliSzelessegASavSzelere) {
+    EXPECT_EQ(csucsok(5, 6, 7, fok(41, 59)), csucsok(5, 6, 7, fok(42)));
+    EXPECT_EQ(csucsok(5, 6, 7, -fok(33)), csucsok(5, 6, 7, fok(42)));
+    EXPECT_EQ(csucsok(5, 6, 7, fok(75)), csucsok(5, 6, 7, fok(60)));
+}
+
+TEST(Hazak, ASzemkoztiHazakPontosan180Fokra) {
+    for (int ora = 0; ora < 24; ++ora) {
+        const THazcsucsok h = csucsok(ora, 17, 31.5, 171000);
+        for (int i = 1; i <= 3; ++i) EXPECT_DOUBLE_EQ(h[i + 6], h[i] < 180 ? h[i] + 180 : h[i] - 180);
+        for (int i = 10; i <= 12; ++i) EXPECT_DOUBLE_EQ(h[i - 6], h[i] < 180 ? h[i] + 180 : h[i] - 180);
+    }
+}
+
+TEST(Hazak, Az359SorUtanANullasJon) {
+    const THazcsucsok h = csucsok(23, 58, 0, fok(42));
+    EXPECT_DOUBLE_EQ(h[10], (1292076 + (1296000 - 1292076) / 2.0) / 3600);
+    EXPECT_DOUBLE_EQ(h[1], (cella(42, 359, 0) + cella(42, 0, 0)) / 2);
+}
+
+TEST(Hazak, ACsucs360FoleKerulhet) {
+    // At 58 degrees house 2 stands at 21599 minutes at RAMC 240 and past Aries 0 at 241: the later row is
+    // lifted.
+    const int b = HazTabla[16][241][1];
+    ASSERT_GT(b, 2);
+    ASSERT_LT(b, 200);
+    const THazcsucsok h = csucsok(16, 3, 0, fok(58));
+    EXPECT_DOUBLE_EQ(h[2], ((b + 21600 - 21599) * 180 / 240.0 + 21599) / 60);
+    EXPECT_GT(h[2], 360);
+    EXPECT_DOUBLE_EQ(h[8], h[2] - 180);
+}
+
+TEST(Hazak, Ramc240NelASzelessegekKozottNincsAtfordulas) {
+    // House 2 stands at 0, 21599, 0, 21599 minutes for 57 to 60 degrees.
+    EXPECT_DOUBLE_EQ(csucsok(16, 0, 0, fok(57, 30))[2], 21599 / 2.0 / 60);
+    EXPECT_DOUBLE_EQ(csucsok(16, 0, 0, fok(58, 30))[2], 21599 / 2.0 / 60);
+    EXPECT_DOUBLE_EQ(csucsok(16, 0, 0, fok(59, 30))[2], 21599 / 2.0 / 60);
+    EXPECT_DOUBLE_EQ(csucsok(16, 0, 0, fok(56, 30))[2], 0);
+}
+
+TEST(Hazak, ANegativCsillagidoSoraKorbeer) {
+    // -1 h is RAMC -15, row 345, also for 23 h.
+    EXPECT_EQ(csucsok(-1, 0, 0, 171000), csucsok(23, 0, 0, 171000));
+    // 26 h is row 30, as for 2 h.
+    EXPECT_EQ(csucsok(26, 0, 0, 171000), csucsok(2, 0, 0, 171000));
+}
+
+}  // namespace

@@ -1,0 +1,170 @@
+// Summer time and gazetteer.
+
+#include <set>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "tables/efemerida.h"
+#include "tables/nyariido.h"
+#include "tables/telepulesek.h"
+
+namespace {
+
+int nap(std::int32_t ev, std::int32_t ho, std::int32_t n) {
+    return DatumbolJulianszam(ev, ho, n);
+}
+
+int nyari(int ev, int ho, int n, int ora, int perc = 0, int mperc = 0) {
+    return NyariIdoE(nap(ev, ho, n), ora, perc, mperc);
+}
+
+TEST(NyariIdoszakok, ASzamukOsszegukEsRendjuk) {
+    std::int64_t osszeg = 0;
+    for (const TNyariIdoszak& i : NyariIdoszakok) osszeg += i.kezdoNap + i.vegeNap + i.kezdoOra + i.vegeOra;
+    EXPECT_EQ(osszeg, 570268135);
+    for (std::size_t i = 1; i < NyariIdoszakok.size(); ++i)
+        EXPECT_LT(NyariIdoszakok[i - 1].vegeNap, NyariIdoszakok[i].kezdoNap);
+    EXPECT_EQ(NyariIdoszakok[0].kezdoNap, 2420983);
+    EXPECT_EQ(NyariIdoszakok[0].vegeNap, 2421137);
+}
+
+TEST(NyariIdoszakok, ASzabalyosEvekVasarnapjai) {
+    const auto& elso = NyariIdoszakok[20];
+    EXPECT_EQ(elso.kezdoNap, nap(1984, 3, 25));
+    EXPECT_EQ(elso.vegeNap, nap(1984, 9, 30));
+    const auto& utolsoSzeptemberi = NyariIdoszakok[31];
+    EXPECT_EQ(utolsoSzeptemberi.kezdoNap, nap(1995, 3, 26));
+    EXPECT_EQ(utolsoSzeptemberi.vegeNap, nap(1995, 9, 24));
+    EXPECT_EQ(NyariIdoszakok[32].vegeNap, nap(1996, 10, 27));
+    for (std::size_t i = 20; i < 115; ++i) {
+        EXPECT_EQ(NyariIdoszakok[i].kezdoOra, 2);
+        EXPECT_EQ(NyariIdoszakok[i].vegeOra, 3);
+        // 2000-03-26 was a Sunday.
+        EXPECT_EQ((NyariIdoszakok[i].kezdoNap - nap(2000, 3, 26)) % 7, 0);
+        EXPECT_EQ((NyariIdoszakok[i].vegeNap - nap(2000, 3, 26)) % 7, 0);
+    }
+    EXPECT_EQ(NyariIdoszakok[115].kezdoNap, nap(2078, 12, 32) + 84);  // 2079-03-26
+    EXPECT_EQ(NyariIdoszakok[115].vegeNap, 2480555);
+    EXPECT_EQ(NyariIdoszakok[115].vegeOra, 23);
+}
+
+TEST(NyariIdo, EzerkilencszaztizenhatEleje_Vege) {
+    EXPECT_EQ(nyari(1916, 4, 30, 22, 59, 59), 0);
+    EXPECT_EQ(nyari(1916, 4, 30, 23), 1);
+    EXPECT_EQ(nyari(1916, 9, 30, 23, 59, 59), 1);
+    EXPECT_EQ(nyari(1916, 10, 1, 0), 0);
+}
+
+TEST(NyariIdo, ARendhagyoIdoszakokHatarai) {
+    struct THatar {
+        int ev, ho, nap, ora;
+    };
+    constexpr std::pair<THatar, THatar> idoszakok[]{
+        {{1917, 4, 16, 3}, {1917, 6, 17, 2}},  {{1918, 4, 15, 3}, {1918, 9, 16, 2}},
+        {{1919, 4, 15, 3}, {1919, 11, 24, 2}}, {{1941, 4, 7, 23}, {1942, 11, 2, 2}},
+        {{1943, 3, 29, 2}, {1943, 10, 4, 2}},  {{1944, 4, 3, 2}, {1944, 10, 2, 2}},
+        {{1946, 3, 31, 2}, {1946, 10, 6, 0}},  {{1947, 4, 6, 2}, {1947, 10, 5, 3}},
+        {{1948, 4, 4, 2}, {1948, 10, 3, 3}},   {{1949, 4, 10, 2}, {1949, 10, 2, 3}},
+        {{1954, 5, 23, 0}, {1954, 10, 2, 2}},  {{1955, 5, 22, 2}, {1955, 10, 2, 2}},
+        {{1956, 6, 3, 2}, {1956, 9, 30, 3}},   {{1957, 6, 2, 2}, {1957, 9, 29, 3}},
+        {{1980, 4, 6, 0}, {1980, 9, 28, 0}},   {{1981, 3, 29, 0}, {1981, 9, 27, 1}},
+        {{1982, 3, 28, 0}, {1982, 9, 26, 1}},  {{1983, 3, 27, 0}, {1983, 9, 25, 1}}};
+    for (const auto& [k, v] : idoszakok) {
+        EXPECT_EQ(nyari(k.ev, k.ho, k.nap, k.ora), 1) << k.ev;
+        EXPECT_EQ(NyariIdoE(nap(k.ev, k.ho, k.nap), k.ora, 0, -1), 0) << k.ev;
+        EXPECT_EQ(nyari(v.ev, v.ho, v.nap, v.ora), 0) << v.ev;
+        EXPECT_EQ(NyariIdoE(nap(v.ev, v.ho, v.nap), v.ora, 0, -1), 1) << v.ev;
+    }
+}
+
+TEST(NyariIdo, EzerkilencszaznegyvenotHuszonharomkorKezdodik) {
+    EXPECT_EQ(nyari(1945, 5, 1, 22, 59, 59), 0);
+    EXPECT_EQ(nyari(1945, 5, 1, 23), 1);
+    EXPECT_EQ(nyari(1945, 5, 2, 0), 1);
+    EXPECT_EQ(nyari(1945, 11, 1, 0), 0);
+}
+
+TEST(NyariIdo, EzerkilencszaznegyvenegyTelenAtTart) {
+    EXPECT_EQ(nyari(1941, 12, 31, 12), 1);
+    EXPECT_EQ(nyari(1942, 1, 15, 0), 1);
+}
+
+TEST(NyariIdo, EzerkilencszaznyolcvanUtolsoNapja) {
+    for (int ora = 0; ora < 24; ++ora) EXPECT_EQ(nyari(1980, 9, 28, ora), 0);
+    EXPECT_EQ(nyari(1980, 9, 27, 23, 59, 59), 1);
+}
+
+TEST(NyariIdo, AzOrakatallitasOraiKetezerben) {
+    EXPECT_EQ(nyari(2000, 10, 29, 2, 59, 59), 1);
+    EXPECT_EQ(nyari(2000, 10, 29, 3), 0);
+    EXPECT_EQ(nyari(2000, 3, 26, 2, 30), 1);
+    EXPECT_EQ(nyari(2000, 3, 26, 1, 59, 59), 0);
+}
+
+TEST(NyariIdo, IdoszakNelkuliEvekben_Nincs) {
+    for (const int ev : {1900, 1915, 1920, 1940, 1950, 1953, 1958, 1979})
+        EXPECT_EQ(nyari(ev, 7, 1, 12), 0) << ev;
+    EXPECT_EQ(NyariIdoE(2480555, 22, 59, 59), 1);
+    EXPECT_EQ(NyariIdoE(2480555, 23, 0, 0), 0);
+    EXPECT_EQ(NyariIdoE(2480556, 0, 0, 0), 0);
+}
+
+struct THely {
+    std::int32_t idozona = 0, szelesseg = 0, hosszusag = 0;
+    char hosszusagJel = 0, szelessegJel = 0;
+};
+
+THely hely(const char* nev) {
+    THely h;
+    TelepulesKeres(nev, h.idozona, h.szelesseg, h.hosszusagJel, h.szelessegJel, h.hosszusag);
+    return h;
+}
+
+TEST(Telepulesek, AJellemzoSorok) {
+    struct TSor {
+        const char* nev;
+        int szelesseg, hosszusag;
+    };
+    for (const auto& [nev, szelesseg, hosszusag] :
+         {TSor{"Aba", 169323, 66689}, TSor{"Budapest", 171000, 68640}, TSor{"Debrecen", 171103, 77893},
+          TSor{"Győr", 171676, 63478}, TSor{"Miskolc", 173173, 74877}, TSor{"Pécs", 165888, 65691},
+          TSor{"Szeged", 166497, 72586}, TSor{"Zubogy", 174168, 74081}, TSor{"Róma", 151200, 45000},
+          TSor{"Wadowice", 179520, 70200}}) {
+        const THely h = hely(nev);
+        EXPECT_EQ(h.szelesseg, szelesseg) << nev;
+        EXPECT_EQ(h.hosszusag, hosszusag) << nev;
+        EXPECT_EQ(h.idozona, 1);
+        EXPECT_EQ(h.szelessegJel, 'N');
+        EXPECT_EQ(h.hosszusagJel, 'E');
+    }
+}
+
+TEST(Telepulesek, HaromezerszazharmincnyolcKulonbozoNev) {
+    std::set<std::string> nevek;
+    for (const TTelepules& t : Telepulesek) {
+        nevek.insert(std::string(t.nev));
+        EXPECT_EQ(t.idozona, 1);
+        if (t.nev == "Róma" || t.nev == "Wadowice") continue;
+        EXPECT_TRUE(t.szelesseg >= 164799 && t.szelesseg <= 174824) << t.nev;
+        EXPECT_TRUE(t.hosszusag >= 58182 && t.hosszusag <= 82420) << t.nev;
+    }
+    EXPECT_EQ(nevek.size(), 3138U);
+    EXPECT_EQ(Telepulesek[0].nev, "Aba");
+    EXPECT_EQ(Telepulesek[1].nev, "Abádszalók");
+    EXPECT_EQ(Telepulesek[2].nev, "Abaliget");
+    EXPECT_EQ(Telepulesek[3136].nev, "Zsurk");
+    EXPECT_EQ(Telepulesek[3137].nev, "Zubogy");
+}
+
+TEST(Telepulesek, IsmeretlenNevreBudapestErtekei) {
+    for (const char* nev : {"Xanadu", "", "budapest", "szeged", "SZEGED", "Szeged ", "Szege", "Pecs"}) {
+        const THely h = hely(nev);
+        EXPECT_EQ(h.szelesseg, 171000) << nev;
+        EXPECT_EQ(h.hosszusag, 68640) << nev;
+        EXPECT_EQ(h.idozona, 1);
+        EXPECT_EQ(h.szelessegJel, 'N');
+    }
+}
+
+}  // namespace

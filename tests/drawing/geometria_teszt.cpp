@@ -1,0 +1,134 @@
+#include <gtest/gtest.h>
+
+#include "display/betutipus.h"
+#include "display/kerek.h"
+#include "rajzteszt.h"
+
+namespace {
+
+TRajz ablak(int szelesseg, int magassag) {
+    TRajz r;
+    AblakGeometria(r, 90, szelesseg, magassag);
+    return r;
+}
+
+TEST(Geometria, AKilencszaznyolcvanhetszerHatszaznegyvennegyesFelulet) {
+    const TRajz r = ablak(987, 644);
+    EXPECT_EQ(r.kozpontX, 342);
+    EXPECT_EQ(r.kozpontY, 322);
+    EXPECT_EQ(r.kerekSugar, 258);
+    EXPECT_DOUBLE_EQ(r.forgatas, 3.141592653589793 / 2);
+    const TSugarak s = GyuruSugarak(258, false);
+    EXPECT_EQ(s.kulso, 258);
+    EXPECT_EQ(s.skala, 249);
+    EXPECT_EQ(s.bolygo, 194);
+    EXPECT_EQ(s.haz, 59);
+    EXPECT_EQ(s.belso, 37);
+    EXPECT_EQ(s.mag, 4);
+    EXPECT_EQ(TollVastagsag(2, 258), 2);
+    EXPECT_EQ(TollVastagsag(3, 258), 3);
+    EXPECT_EQ(TollVastagsag(4, 258), 3);
+    const TKisKerekek k = KisKerekGeometria(r);
+    EXPECT_EQ(k.kisSugar, 120);
+    EXPECT_EQ(k.kis1X, 803);
+    EXPECT_EQ(k.kis1Y, 161);
+    EXPECT_EQ(k.kis2X, 803);
+    EXPECT_EQ(k.kis2Y, 483);
+    const TSugarak kicsi = GyuruSugarak(120, false);
+    EXPECT_EQ(kicsi.skala, 115);
+    EXPECT_EQ(kicsi.bolygo, 73);
+    EXPECT_EQ(kicsi.haz, 41);
+    EXPECT_EQ(kicsi.belso, 21);
+    EXPECT_EQ(kicsi.mag, 2);
+}
+
+TEST(Geometria, ALegkisebbKerekGyuruiKeresztezikEgymast) {
+    const TSugarak s = GyuruSugarak(45, false);
+    EXPECT_EQ(s.skala, 42);
+    EXPECT_EQ(s.bolygo, 8);
+    EXPECT_EQ(s.haz, 31);
+    EXPECT_EQ(s.belso, 11);
+    EXPECT_EQ(s.mag, 1);
+}
+
+TEST(Geometria, AKeskenyAblakbanAKerekKozepen) {
+    const TRajz r = ablak(500, 900);
+    EXPECT_EQ(r.kozpontX, 250);
+    EXPECT_EQ(r.kerekSugar, 200);
+    // (500 - 480) div 2 is 10, round(0.8 x 10) is 8.
+    EXPECT_EQ(KisKerekGeometria(r).kisSugar, 8);
+    EXPECT_LT(KisKerekGeometria(ablak(300, 900)).kisSugar, 45);
+}
+
+TEST(Geometria, NyomtatasnalMasGyuruk) {
+    const TSugarak s = GyuruSugarak(300, true);
+    EXPECT_EQ(s.skala, 290);
+    EXPECT_EQ(s.bolygo, 290 - 88);  // 45 x 290 / 300 + 45 is 88.5, to the even 88
+    EXPECT_EQ(s.haz, 107);          // 69 + 38
+    EXPECT_EQ(s.belso, 107 - 49);   // 12.84 + 36
+    EXPECT_EQ(s.mag, 6);            // 5.8
+}
+
+TEST(Geometria, NyomtatasnalAKisKerekekAlulEgymasMellett) {
+    TRajz r;
+    r.nyomtatasMod = true;
+    LapGeometria(r, 2000, 3000);
+    EXPECT_EQ(r.kozpontX, 1000);
+    EXPECT_EQ(r.kozpontY, 1000);  // not 1500: the wheel stands at the top
+    EXPECT_EQ(r.kerekSugar, 750);
+    const TKisKerekek k = KisKerekGeometria(r);
+    // (3000 - 2000) div 2 is 500; 4.3 x 500 is above 2000, so round(2000 / 4.3) is 465.
+    EXPECT_EQ(k.kis1Y, 3000 - 465 - 100);
+    EXPECT_EQ(k.kis1X, 500);
+    EXPECT_EQ(k.kisSugar, 372);
+    EXPECT_EQ(k.kis2X, 1500);
+    EXPECT_EQ(k.kis2Y, k.kis1Y);
+}
+
+TEST(Geometria, AFekvoLapKozepeMarad) {
+    TRajz r;
+    r.nyomtatasMod = true;
+    LapGeometria(r, 3000, 2000);
+    EXPECT_EQ(r.kozpontX, 1500);
+    EXPECT_EQ(r.kozpontY, 1000);
+    EXPECT_EQ(r.kerekSugar, 750);
+    EXPECT_EQ(KisKerekGeometria(r).kisSugar, 0);  // no room below: (2000 - 2000) div 2
+}
+
+TEST(Kerek, AzAszcendensBaloldaltAHosszusagBalraForog) {
+    RogzitoVaszon v;
+    const TKerek kerek(v, 500, 400, 3.141592653589793 * 75 / 180);
+    const auto pont = [&](double hossz) { return kerek.pont(100, kerek.szog(hossz)); };
+    EXPECT_EQ(pont(75).x, 400);
+    EXPECT_EQ(pont(75).y, 400);
+    EXPECT_EQ(pont(165).x, 500);
+    EXPECT_EQ(pont(165).y, 500);  // 90 degrees on stands below: counter-clockwise from the left
+    EXPECT_EQ(pont(255).x, 600);
+    EXPECT_EQ(pont(345).y, 300);
+}
+
+using TFajlok = std::vector<std::string>;
+
+TFajlVan van(TFajlok fajlok) {
+    return [fajlok = std::move(fajlok)](const std::string& f) {
+        return std::find(fajlok.begin(), fajlok.end(), f) != fajlok.end();
+    };
+}
+
+TEST(SzimbolumFont, ARendszerMeghajtoMindkettotKeri) {
+    EXPECT_EQ(RendszerMeghajtoKeres(van({})), 'C');
+    EXPECT_EQ(RendszerMeghajtoKeres(van({"D:\\WINDOWS\\Fonts\\times.ttf", "F:\\WINDOWS\\Fonts\\times.ttf",
+                                         "F:\\WINDOWS\\Fonts\\arial.ttf"})),
+              'F');
+    EXPECT_EQ(RendszerMeghajtoKeres(van({"D:\\WINDOWS\\Fonts\\times.ttf", "E:\\WINDOWS\\Fonts\\arial.ttf"})),
+              'C');
+    EXPECT_EQ(RendszerMeghajtoKeres(van({"I:\\WINDOWS\\Fonts\\times.ttf", "I:\\WINDOWS\\Fonts\\arial.ttf"})),
+              'C');
+}
+
+TEST(SzimbolumFont, AzAstroSymbolsHaMegvanMaskulonbenAPot) {
+    EXPECT_EQ(SzimbolumFontValaszt({"/a/", "/b/"}, van({"/b/Astro Symbols.ttf"})), "Astro Symbols");
+    EXPECT_EQ(SzimbolumFontValaszt({"/a/", "/b/"}, van({"/c/Astro Symbols.ttf"})), "AstroMidget Bold");
+}
+
+}  // namespace

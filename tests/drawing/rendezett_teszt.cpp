@@ -1,0 +1,111 @@
+#include <random>
+
+#include <gtest/gtest.h>
+
+#include "display/rendezett.h"
+#include "rajzteszt.h"
+
+namespace {
+
+using TRendezett = Tomb<TRendezettSor, 10>;
+
+/// Spreads bodies at these longitudes; the rest stand far from them, 10 degrees apart from 100 on.
+TRendezett szetterit(std::vector<double> hosszak) {
+    TBolygok b;
+    TMozgasok m;
+    m.tolt('D');
+    for (int i = 1; i <= 10; ++i) b[i] = 100 + 12 * i;
+    for (std::size_t i = 0; i < hosszak.size(); ++i) b[static_cast<int>(i) + 1] = hosszak[i];
+    TRendezett r;
+    RendezettEpites(r, b, m);
+    Szetteritas(r);
+    return r;
+}
+
+double hely(const TRendezett& r, char jel) {
+    for (const TRendezettSor& sor : r)
+        if (sor.rendJel == jel) return sor.rendHossz;
+    return -1000;
+}
+
+TEST(Rendezett, AzonosHelyrolNegyFoknyira) {
+    const TRendezett r = szetterit({50, 50});
+    EXPECT_DOUBLE_EQ(hely(r, 'A'), 46);
+    EXPECT_DOUBLE_EQ(hely(r, 'B'), 54);
+}
+
+TEST(Rendezett, AKosPontjaKorulHajtodikVissza) {
+    // 2 apart: at the threshold 3 they move to 357 and 3, which is 6 and passes.
+    const TRendezett r = szetterit({359, 1});
+    EXPECT_DOUBLE_EQ(hely(r, 'A'), 357);
+    EXPECT_DOUBLE_EQ(hely(r, 'B'), 3);
+}
+
+TEST(Rendezett, PontosanHatFokElfogadhato) {
+    const TRendezett r = szetterit({50, 56});
+    EXPECT_DOUBLE_EQ(hely(r, 'A'), 50);
+    EXPECT_DOUBLE_EQ(hely(r, 'B'), 56);
+    const TRendezett kozelebb = szetterit({50, 55.5});
+    EXPECT_DOUBLE_EQ(hely(kozelebb, 'A'), 48);
+    EXPECT_DOUBLE_EQ(hely(kozelebb, 'B'), 57.5);
+}
+
+TEST(Rendezett, AFokEsAPercAzIgaziHelye) {
+    const TRendezett r = szetterit({40.5, 41.25});
+    for (const TRendezettSor& sor : r) {
+        if (sor.rendJel == 'A') {
+            EXPECT_DOUBLE_EQ(sor.rendFok, 10.5);
+            EXPECT_DOUBLE_EQ(sor.rendPerc, 30);
+            EXPECT_NE(sor.rendHossz, 40.5);
+        }
+    }
+}
+
+TEST(Rendezett, ANullaAlaTolodottElolAll) {
+    // 1 and 2.5: they move to -1 and 4.5 at the threshold 2, and -1 is the first row of the next pass. At the
+    // wrap the last body is greater, so the row takes 360 and stands at 359.
+    TBolygok b;
+    TMozgasok m;
+    m.tolt('D');
+    for (int i = 1; i <= 10; ++i) b[i] = 20 * i;
+    b[1] = 1;
+    b[2] = 3;
+    TRendezett r;
+    RendezettEpites(r, b, m);
+    Szetteritas(r);
+    EXPECT_DOUBLE_EQ(std::fmod(hely(r, 'A') + 360, 360), 359);
+    EXPECT_DOUBLE_EQ(hely(r, 'B'), 5);
+}
+
+TEST(Rendezett, BarmelyKepletbenLegalabbHatFok) {
+    std::mt19937 veletlen(7);
+    std::uniform_real_distribution<double> kor(0, 360);
+    std::uniform_real_distribution<double> halmaz(0, 25);
+    for (int keplet = 0; keplet < 3000; ++keplet) {
+        std::vector<double> hosszak;
+        const double kozep = kor(veletlen);
+        for (int i = 0; i < 10; ++i)
+            hosszak.push_back(keplet % 2 == 0 ? kor(veletlen) : std::fmod(kozep + halmaz(veletlen), 360));
+        const TRendezett r = szetterit(hosszak);
+        std::vector<double> helyek;
+        std::string jelek;
+        for (const TRendezettSor& sor : r) {
+            helyek.push_back(std::fmod(sor.rendHossz + 720, 360));
+            jelek += sor.rendJel;
+        }
+        std::sort(helyek.begin(), helyek.end());
+        for (std::size_t i = 0; i < 10; ++i) {
+            const double koz = i + 1 < 10 ? helyek[i + 1] - helyek[i] : helyek[0] + 360 - helyek[9];
+            ASSERT_GE(koz, 6 - 1e-9) << keplet;
+        }
+        std::sort(jelek.begin(), jelek.end());
+        ASSERT_EQ(jelek, "ABCDEFGHIJ");
+    }
+}
+
+TEST(Rendezett, ATavoliErtekSemPorgetiAVegtelenbe) {
+    const TRendezett r = szetterit({1e12, -1e12});
+    EXPECT_LT(std::abs(hely(r, 'A')), 4000);
+}
+
+}  // namespace

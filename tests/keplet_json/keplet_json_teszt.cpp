@@ -132,10 +132,11 @@ TEST(KepletJson, AzOrbisABeallitottTablaval) {
         R"({"op": "keplet", "pillanat": [2000, 7, 1, 12, 0, 0], "hely": {"helyseg": "Szeged"}})");
     kerelem["orbis"] = std::vector(12, std::vector(9, 180.0));
     // With orbs of half a circle every pair is in opposition.
-    for (const auto& sor : valasz(kerelem.dump())["FenyszogRadix"])
-        EXPECT_EQ(std::count(sor.get_ref<const std::string&>().begin(),
-                             sor.get_ref<const std::string&>().end(), 'W'),
-                  9);
+    const TJson v = valasz(kerelem.dump());
+    for (const auto& sor : v["FenyszogRadix"]) {
+        const auto& betuk = sor.get_ref<const std::string&>();
+        EXPECT_EQ(std::count(betuk.begin(), betuk.end(), 'W'), 9);
+    }
 }
 
 TEST(KepletJson, ARajzMuveletei) {

@@ -384,19 +384,24 @@ void TForm1::Nyomtato_beallitas1Click() {
     allapot_.MostFut = false;
     allapot_.Feliratok.mostGomb = "Most";
     Mutat();
-    parbeszed_->nyomtatoBeallitas(this, nyomtato_);
+    parbeszed_->nyomtatoBeallitas(this, nyomtato());
+}
+
+QPrinter& TForm1::nyomtato() {
+    if (!nyomtato_) nyomtato_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    return *nyomtato_;
 }
 
 void TForm1::nyomtatas() {
-    const bool fajlba = !nyomtato_.outputFileName().isEmpty();
-    if (!fajlba && !parbeszed_->vanNyomtato() && !parbeszed_->nyomtatoBeallitas(this, nyomtato_)) return;
+    const bool fajlba = !nyomtato().outputFileName().isEmpty();
+    if (!fajlba && !parbeszed_->vanNyomtato() && !parbeszed_->nyomtatoBeallitas(this, nyomtato())) return;
     const QString nev = parbeszed_->bekeres(this, "Nyomtatás", "Kérek egy megnevezést:");
     if (nev.isEmpty()) return;
     NyomtatasNezete(allapot_, szoveg(nev));
     Mutat();
-    const QSize lap = nyomtato_.pageRect(QPrinter::DevicePixel).size().toSize();
+    const QSize lap = nyomtato().pageRect(QPrinter::DevicePixel).size().toSize();
     QPainter festo;
-    if (!festo.begin(&nyomtato_)) {
+    if (!festo.begin(&nyomtato())) {
         parbeszed_->uzenet(this, "A nyomtatás nem indítható el.");
         return;
     }

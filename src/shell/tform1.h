@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <memory>
 
 #include <QLabel>
 #include <QMainWindow>
@@ -74,6 +75,8 @@ private:
     void oldalPanelMutatas();
     bool JelszoKeres();
     void nyomtatas();
+    /// Made at the first use: asking the system for its printers takes longer than the whole start.
+    QPrinter& nyomtato();
     void szemelyiAblak(bool ujKeplet);
     void memoHely();
     bool eventFilter(QObject* targy, QEvent* esemeny) override;
@@ -81,7 +84,7 @@ private:
     Allapot allapot_;
     TParbeszed alapParbeszed_;
     TParbeszed* parbeszed_ = &alapParbeszed_;
-    QPrinter nyomtato_{QPrinter::HighResolution};
+    std::unique_ptr<QPrinter> nyomtato_;
     TAblakok* ablakok_ = nullptr;
     KepletFelulet* felulet_;
     QFrame* panel1_;

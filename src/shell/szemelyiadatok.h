@@ -5,6 +5,7 @@
 
 #include "shell/allapot.h"
 #include "shell/foablak.h"
+#include "tables/szamtan.h"
 
 /// Entering a chart: what the personal-data dialog does with its fields.
 
@@ -30,7 +31,7 @@ constexpr TFokPerc fokPercre(std::int32_t ivmasodperc) {
 
 /// Arcseconds; the minutes add to negative degrees too, so -19 and 4 is -68160, that is -18°56'.
 constexpr std::int32_t ivmasodpercre(std::int32_t fok, std::int32_t perc) {
-    return fok * 3600 + perc * 60;
+    return alsoBitek(std::int64_t{fok} * 3600 + std::int64_t{perc} * 60);
 }
 
 /// Turns an "LMT" or "GMT" clock into zone time; "ZN" stays. Summer time plays no part.

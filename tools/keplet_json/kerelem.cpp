@@ -187,6 +187,60 @@ TJson kepletValasz(Allapot& allapot) {
     return v;
 }
 
+namespace {
+
+struct TSzovegMezo {
+    const char* nev;
+    std::string TEletesemeny::*mezo;
+};
+constexpr TSzovegMezo esemenySzovegek[]{{"esemeny", &TEletesemeny::esemeny},
+                                        {"analogia", &TEletesemeny::analogia},
+                                        {"helyseg", &TEletesemeny::helyseg}};
+
+struct TSzamMezo {
+    const char* nev;
+    std::int32_t TEletesemeny::*mezo;
+};
+constexpr TSzamMezo esemenySzamok[]{{"ev", &TEletesemeny::ev},
+                                    {"ho", &TEletesemeny::ho},
+                                    {"nap", &TEletesemeny::nap},
+                                    {"ora", &TEletesemeny::ora},
+                                    {"perc", &TEletesemeny::perc},
+                                    {"mperc", &TEletesemeny::mperc},
+                                    {"idozona", &TEletesemeny::idozona},
+                                    {"nyariIdo", &TEletesemeny::nyariIdo},
+                                    {"hosszFok", &TEletesemeny::hosszFok},
+                                    {"hosszPerc", &TEletesemeny::hosszPerc},
+                                    {"szelFok", &TEletesemeny::szelFok},
+                                    {"szelPerc", &TEletesemeny::szelPerc},
+                                    {"solarNap", &TEletesemeny::solarNap}};
+
+}  // namespace
+
+TEletesemeny esemenyErtek(const TJson& ertek) {
+    if (!ertek.is_object()) throw THiba("esemeny: objektum kell");
+    TEletesemeny e;
+    for (const auto& [nev, mezo] : esemenySzovegek)
+        if (ertek.contains(nev)) e.*mezo = szovegMezo(ertek, nev);
+    for (const auto& [nev, mezo] : esemenySzamok)
+        if (ertek.contains(nev)) e.*mezo = egeszMezo(ertek, nev);
+    return e;
+}
+
+void esemenyekMezo(const TJson& kerelem, TEsemenyTar& tar) {
+    const TJson& tomb = mezo(kerelem, "esemenyek");
+    if (!tomb.is_array() || tomb.size() > esemenyHelyek) throw THiba("esemenyek: legfeljebb húsz");
+    tar.EsemenyDb = 0;
+    for (const TJson& elem : tomb) tar.esemenyek[++tar.EsemenyDb] = esemenyErtek(elem);
+}
+
+TJson esemenyValasz(const TEletesemeny& e) {
+    TJson v;
+    for (const auto& [nev, mezo] : esemenySzovegek) v[nev] = e.*mezo;
+    for (const auto& [nev, mezo] : esemenySzamok) v[nev] = e.*mezo;
+    return v;
+}
+
 TJson pillanatTomb(const TPillanat& p) {
     return TJson::array({p.ev, p.ho, p.nap, p.ora, p.perc, p.mperc});
 }

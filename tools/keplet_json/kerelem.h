@@ -38,6 +38,12 @@ Allapot allapotKerelembol(const TJson& kerelem);
 /// The whole chart of the state, its cycle done.
 TJson kepletValasz(Allapot& allapot);
 
+/// An event record of a request; a field that is not there keeps its default.
+TEletesemeny esemenyErtek(const TJson& ertek);
+/// The array of event records of a field, at most twenty.
+void esemenyekMezo(const TJson& kerelem, TEsemenyTar& tar);
+TJson esemenyValasz(const TEletesemeny& esemeny);
+
 TJson pillanatTomb(const TPillanat& pillanat);
 
 template <typename TTomb>

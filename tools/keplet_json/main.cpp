@@ -16,9 +16,17 @@ struct TMuveletNev {
 };
 
 constexpr std::array muveletTabla{
-    TMuveletNev{"datum", datumMuvelet},         TMuveletNev{"nyariido", nyariIdoMuvelet},
-    TMuveletNev{"telepules", telepulesMuvelet}, TMuveletNev{"ido", idoMuvelet},
-    TMuveletNev{"keplet", kepletMuvelet},       TMuveletNev{"rajz", rajzMuvelet},
+    TMuveletNev{"datum", datumMuvelet},
+    TMuveletNev{"nyariido", nyariIdoMuvelet},
+    TMuveletNev{"telepules", telepulesMuvelet},
+    TMuveletNev{"ido", idoMuvelet},
+    TMuveletNev{"keplet", kepletMuvelet},
+    TMuveletNev{"rajz", rajzMuvelet},
+    TMuveletNev{"lepes", lepesMuvelet},
+    TMuveletNev{"kvh_olvas", kvhOlvasMuvelet},
+    TMuveletNev{"kvh_ir", kvhIrMuvelet},
+    TMuveletNev{"analogia", analogiaMuvelet},
+    TMuveletNev{"eletesemeny", eletesemenyMuvelet},
 };
 
 TJson valasz(const std::string& sor) {

@@ -10,3 +10,9 @@ TJson telepulesMuvelet(const TJson& kerelem);
 TJson idoMuvelet(const TJson& kerelem);
 TJson kepletMuvelet(const TJson& kerelem);
 TJson rajzMuvelet(const TJson& kerelem);
+
+TJson lepesMuvelet(const TJson& kerelem);
+TJson kvhOlvasMuvelet(const TJson& kerelem);
+TJson kvhIrMuvelet(const TJson& kerelem);
+TJson analogiaMuvelet(const TJson& kerelem);
+TJson eletesemenyMuvelet(const TJson& kerelem);

@@ -1,0 +1,112 @@
+#include "events/eletesemenyek.h"
+
+#include "engine/bolygohelyek.h"
+#include "engine/csillagido.h"
+#include "engine/hazak.h"
+#include "engine/uralkodok.h"
+#include "predictive/solarkereses.h"
+#include "shell/szemelyiadatok.h"
+#include "tables/efemerida.h"
+#include "tables/szamtan.h"
+#include "tables/szotar.h"
+#include "tables/szoveg.h"
+
+TPillanat EsemenyGmt(const TEletesemeny& e) {
+    TPillanat p{e.ev, e.ho, e.nap, e.ora, e.perc, e.mperc};
+    int nap = DatumbolJulianszam(p.ev, p.ho, p.nap);
+    p.ora = alsoBitek(std::int64_t{e.ora} - e.idozona - e.nyariIdo);
+    if (p.ora > 23) {
+        p.ora -= 24;
+        ++nap;
+    } else if (p.ora < 0) {
+        p.ora += 24;
+        --nap;
+    }
+    JulianszambolDatum(nap, p.ev, p.ho, p.nap);
+    return p;
+}
+
+namespace {
+
+double natalisNap(const TSzuletes& sz, TBolygok& bolygok) {
+    TPillanat p = sz.pillanat;
+    std::int32_t julianszam = DatumbolJulianszam(p.ev, p.ho, p.nap);
+    double napresz = 0;
+    double armcMperc = 0;
+    std::int32_t armcPerc = 0;
+    std::int32_t armcOra = 0;
+    CsillagIdo(p.ora, p.perc, p.mperc, napresz, julianszam, sz.hosszusag, armcMperc, armcPerc, armcOra,
+               sz.nyariIdo, sz.idozona);
+    TMozgasok mozgasok;
+    BolygoHelyek(julianszam, napresz, bolygok, mozgasok);
+    return bolygok[1] * 3600;
+}
+
+}  // namespace
+
+std::int32_t EsemenySolarNap(const TSzuletes& szuletes, const TEletesemeny& esemeny) {
+    TBolygok bolygok;
+    const double nap = natalisNap(szuletes, bolygok);
+    TPillanat gmt = EsemenyGmt(esemeny);
+    const int esemenyNap = DatumbolJulianszam(gmt.ev, gmt.ho, gmt.nap) - julianszamAlap;
+    const TSolar solar = SolarKereses(nap, esemenyNap);
+
+    std::int32_t julianszam = solar.napsorszam + julianszamAlap;
+    double napresz = 0;
+    double armcMperc = 0;
+    std::int32_t armcPerc = 0;
+    std::int32_t armcOra = 0;
+    CsillagIdo(solar.ora, solar.perc, solar.mperc, napresz, julianszam,
+               ivmasodpercre(esemeny.hosszFok, esemeny.hosszPerc), armcMperc, armcPerc, armcOra, 0, 0);
+    THazcsucsok csucsok;
+    Hazak(armcOra, armcPerc, armcMperc, csucsok, ivmasodpercre(esemeny.szelFok, esemeny.szelPerc));
+    TMozgasok mozgasok;
+    BolygoHelyek(julianszam, napresz, bolygok, mozgasok);
+    TBolygoHazak hazak;
+    HazBesorolas(bolygok, csucsok, hazak);
+    return hazak[1];
+}
+
+bool EsemenyFelvetel(TEsemenyTar& tar, int& kijelolt, const TEletesemeny& esemeny) {
+    if (tar.EsemenyDb >= esemenyHelyek || esemeny.esemeny.empty()) return false;
+    tar.esemenyek[kijelolt != 0 ? kijelolt : ++tar.EsemenyDb] = esemeny;
+    kijelolt = 0;
+    return true;
+}
+
+void EsemenyTorles(TEsemenyTar& tar, int& kijelolt) {
+    if (kijelolt < 1 || kijelolt > tar.EsemenyDb) return;
+    for (int i = kijelolt; i < tar.EsemenyDb; ++i) tar.esemenyek[i] = tar.esemenyek[i + 1];
+    --tar.EsemenyDb;
+    kijelolt = 0;
+}
+
+int EsemenyKijeloles(const TEsemenyTar& tar, const std::string& felirat) {
+    if (felirat.empty()) return 0;
+    for (int i = tar.EsemenyDb; i >= 1; --i) {
+        const TEletesemeny& e = tar.esemenyek[i];
+        if (felirat == std::to_string(i) || felirat == e.esemeny || felirat == e.analogia) return i;
+    }
+    return 0;
+}
+
+std::array<std::string, esemenyOszlopok> EsemenySor(const TEsemenyTar& tar, int sor) {
+    if (sor > tar.EsemenyDb) return {};
+    const TEletesemeny& e = tar.esemenyek[sor];
+    const TPillanat p = EsemenyGmt(e);
+    return {std::to_string(sor),
+            e.esemeny,
+            e.analogia,
+            std::to_string(p.ev) + ".",
+            ketJegy(p.ho) + ".",
+            ketJegy(p.nap),
+            ketJegy(p.ora) + ":",
+            ketJegy(p.perc) + ":",
+            ketJegy(p.mperc),
+            e.helyseg,
+            std::to_string(e.hosszFok) + "°",
+            std::to_string(e.hosszPerc) + "'",
+            std::to_string(e.szelFok) + "°",
+            std::to_string(e.szelPerc) + "'",
+            std::string(HazCimke(e.solarNap))};
+}

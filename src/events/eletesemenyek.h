@@ -1,0 +1,43 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "shell/allapot.h"
+
+/// The life events: the store's operations, the texts of the list, and the solar return before an event.
+
+/// Event time in Greenwich: the hour less zone and summer time, at most one day carried.
+TPillanat EsemenyGmt(const TEletesemeny& esemeny);
+
+/// What a natal Sun is worked out from.
+struct TSzuletes {
+    TPillanat pillanat;
+    std::int32_t nyariIdo = 0;
+    std::int32_t idozona = 1;
+    std::int32_t hosszusag = 0;  ///< arcseconds
+};
+
+/// House 1..12 of the natal Sun in the solar chart of the last return before an event, cast for the event's
+/// place; 0 if it fits none.
+std::int32_t EsemenySolarNap(const TSzuletes& szuletes, const TEletesemeny& esemeny);
+
+/// Adds an event, or replaces the selected one.
+/// @param kijelolt  1..20, or 0 for a new one; becomes 0 when the event was taken
+/// @return false if nothing was done: twenty are listed already, which counts first and bars replacing too,
+/// or the
+///         event's text is empty
+bool EsemenyFelvetel(TEsemenyTar& tar, int& kijelolt, const TEletesemeny& esemeny);
+
+/// Takes the selected event out; the later ones move up. `kijelolt` becomes 0.
+void EsemenyTorles(TEsemenyTar& tar, int& kijelolt);
+
+/// The event that a clicked label's text selects: the rows from 20 down to 1, first by number, then by event
+/// text, then by analogies; 0 if none matches. Of two events with the same text it is the later one.
+int EsemenyKijeloles(const TEsemenyTar& tar, const std::string& felirat);
+
+inline constexpr int esemenyOszlopok = 15;
+
+/// The fifteen texts of a row; all empty above the count. The time stands in Greenwich time.
+/// @param sor  1..20
+std::array<std::string, esemenyOszlopok> EsemenySor(const TEsemenyTar& tar, int sor);

@@ -1,5 +1,16 @@
 #include "shell/ablakok.h"
 
+namespace {
+
+/// The birth as it stands in the fields of the personal-data dialog.
+TSzuletes szuletes(const TForm2& form2) {
+    const TSzemelyiAdatok m = form2.mezok();
+    return {m.ido, m.nyariIdo, m.idozona, ivmasodpercre(m.hosszFok, m.hosszPerc)};
+}
+
+}  // namespace
+
 TAblakok::TAblakok() {
     form1.ablakokBeallitasa(this);
+    form2.eletesemenyek = [this] { form10.megmutat([this] { return szuletes(form2); }); };
 }

@@ -1,5 +1,6 @@
 #include "shell/tform1.h"
 
+#include <QCloseEvent>
 #include <QDate>
 #include <QFrame>
 #include <QLocale>
@@ -20,6 +21,7 @@
 #include "shell/datumformatum.h"
 #include "shell/indulas.h"
 #include "shell/kepletciklus.h"
+#include "shell/kvhfajl.h"
 #include "shell/nezet.h"
 #include "shell/orajel.h"
 #include "tables/szotar.h"
@@ -53,8 +55,8 @@ constexpr TMenuSor menuSorok[]{
     {0, "Horoszkóp", nullptr, nullptr},
     {1, "Személyi adatok", "Szemely_adatok1", &TForm1::Szemely_adatok1Click},
     {1, "Új", "Uj1", &TForm1::Uj1Click},
-    {1, "Megnyitás", "Megnyitas1", nullptr},
-    {1, "Mentés", "Mentes1", nullptr},
+    {1, "Megnyitás", "Megnyitas1", &TForm1::Megnyitas1Click},
+    {1, "Mentés", "Mentes1", &TForm1::Mentes1Click},
     {1, "Nyomtat", "Nyomtat1", &TForm1::Nyomtat1Click},
     {1, "Nyomtatóbeállítás", "Nyomtato_beallitas1", &TForm1::Nyomtato_beallitas1Click},
     {1, "Kilépés", "Kilepes1", &TForm1::Kilepes1Click},
@@ -355,6 +357,36 @@ void TForm1::PanelButton2_MostClick() {
 }
 void TForm1::PanelButton3_ValtClick() {
     ValtParancs(allapot_, *this);
+}
+
+namespace {
+const QString kvhSzuro = QStringLiteral("Kvh files (*.kvh)");
+}
+
+void TForm1::Mentes1Click() {
+    allapot_.Modositott = false;
+    const QString fajl = parbeszed_->mentendo(this, kvhSzuro, qszoveg(allapot_.Szemely.nev) + ".kvh");
+    if (fajl.isEmpty()) return;
+    if (const auto hiba = KepletMentes(allapot_, szoveg(fajl))) parbeszed_->uzenet(this, qszoveg(*hiba));
+}
+
+void TForm1::Megnyitas1Click() {
+    allapot_.Modositott = false;
+    const QString fajl = parbeszed_->megnyitando(this, kvhSzuro);
+    if (fajl.isEmpty()) return;
+    const auto hiba = KepletMegnyitas(allapot_, *this, szoveg(fajl), [this] { ablakok_->form5.HangLink(); });
+    if (hiba) parbeszed_->uzenet(this, qszoveg(*hiba));
+}
+
+void TForm1::closeEvent(QCloseEvent* esemeny) {
+    const QString kerdes = "Valóban ki akar lépni?";
+    const bool modositott = allapot_.Modositott;
+    if (!parbeszed_->igen(this, modositott ? "Kilépés és adatok mentése" : "Kilépés", kerdes)) {
+        esemeny->ignore();
+        return;
+    }
+    if (modositott) Mentes1Click();
+    esemeny->accept();
 }
 
 void TForm1::Radixlepteto1Click() {

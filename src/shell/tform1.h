@@ -46,6 +46,8 @@ public slots:
 
     void Szemely_adatok1Click();
     void Uj1Click();
+    void Megnyitas1Click();
+    void Mentes1Click();
     void Nyomtat1Click();
     void Nyomtato_beallitas1Click();
     void Kilepes1Click();
@@ -74,6 +76,7 @@ private:
     void gombEpites(int hely, const char* nev, const QString& felirat, void (TForm1::*kezelo)());
     void oldalPanelMutatas();
     bool JelszoKeres();
+    void closeEvent(QCloseEvent* esemeny) override;
     void nyomtatas();
     /// Made at the first use: asking the system for its printers takes longer than the whole start.
     QPrinter& nyomtato();

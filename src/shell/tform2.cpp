@@ -204,4 +204,6 @@ void TForm2::Button_Megsem1Click() {
     reject();
 }
 
-void TForm2::Button_Eletesemenyek1Click() {}
+void TForm2::Button_Eletesemenyek1Click() {
+    if (eletesemenyek) eletesemenyek();
+}

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <array>
+#include <functional>
 
 #include <QComboBox>
 #include <QDialog>
@@ -25,6 +25,9 @@ public:
 
     /// The fields as they stand.
     TSzemelyiAdatok mezok() const;
+
+    /// What the button "Életesemények" opens.
+    std::function<void()> eletesemenyek;
 
 private slots:
     void Button_Rendben1Click();

@@ -5,14 +5,10 @@
 #include "shell/allapot.h"
 #include "shell/foablak.h"
 
-/// Stepper.
+/// Stepper: sixteen buttons beside the main window, made from the table of steps.
 class TForm7 : public QDialog {
     Q_OBJECT
 
 public:
     TForm7(Allapot& allapot, FoAblak& ablak, QWidget* fo);
-
-private:
-    Allapot& allapot_;
-    FoAblak& ablak_;
 };

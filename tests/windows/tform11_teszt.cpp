@@ -6,6 +6,7 @@
 #include <QStandardPaths>
 
 #include "ablakteszt.h"
+#include "probaparbeszed.h"
 
 namespace {
 
@@ -135,7 +136,12 @@ private slots:
     void aKilepesNemKerdez() {
         TJelszoTar(tarFajl()).ment("ab");
         TFrissAblakok a;
+        TProbaParbeszed p;
+        p.igenre = false;
+        a.form1.parbeszedBeallitasa(p);
         menu(a.form1, "Kilepes1");  // a prompt would wait for an answer here
+        QCOMPARE(p.kerdesek, QStringList({"Kilépés", "Valóban ki akar lépni?"}));
+        QVERIFY(a.form1.isVisible());
         QVERIFY(!a.allapot().JelszoRendben);
     }
 };

@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTest>
@@ -42,6 +43,7 @@ inline void gepel(QWidget& ablak, const char* mezo, const char* szoveg) {
     hely->setFocus();
     if (auto* szam = qobject_cast<QSpinBox*>(hely)) szam->selectAll();
     if (auto* sor = qobject_cast<QLineEdit*>(hely)) sor->selectAll();
+    if (auto* memo = qobject_cast<QPlainTextEdit*>(hely)) memo->selectAll();
     if (auto* lista = qobject_cast<QComboBox*>(hely)) lista->lineEdit()->selectAll();
     for (const QChar c : QString::fromUtf8(szoveg)) {
         QKeyEvent leutes(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));

@@ -12,5 +12,6 @@ TSzuletes szuletes(const TForm2& form2) {
 
 TAblakok::TAblakok() {
     form1.ablakokBeallitasa(this);
+    form5.parbeszedBeallitasa(form1.parbeszed());
     form2.eletesemenyek = [this] { form10.megmutat([this] { return szuletes(form2); }); };
 }

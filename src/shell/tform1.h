@@ -30,6 +30,7 @@ public:
 
     /// Other dialogs in place of the toolkit's, for tests.
     void parbeszedBeallitasa(TParbeszed& parbeszed) { parbeszed_ = &parbeszed; }
+    TParbeszed& parbeszed() { return *parbeszed_; }
 
     void Ujrafest() override;
     void Ervenytelenit() override { felulet_->ervenytelenit(); }

@@ -64,6 +64,7 @@ void TForm5::HangLink() {
     lejatszo().stop();
     lejatszo().setSource(QUrl());
     lejatszo().setSource(QUrl::fromLocalFile(qszoveg(fajl)));
+    lejatszo().play();
     felulKozepre(*this, *fo_);
     show();
     allapot_.HangCim = allapot_.Szemely.nev + "   ";

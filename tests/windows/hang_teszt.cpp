@@ -1,0 +1,127 @@
+// The sound of a chart, with a file that the test makes.
+
+#include <cmath>
+
+#include <QDir>
+#include <QFile>
+#include <QMediaPlayer>
+#include <QTemporaryDir>
+
+#include "ablakteszt.h"
+#include "probaparbeszed.h"
+#include "shell/hang.h"
+#include "shell/kvhfajl.h"
+
+namespace {
+
+/// A tone of half a second as a WAV file.
+void hangFajl(const QString& fajl) {
+    constexpr int mintak = 4000;
+    constexpr int mintavetel = 8000;
+    QByteArray adat;
+    for (int i = 0; i < mintak; ++i) adat.append(static_cast<char>(128 + 60 * std::sin(i * 0.3)));
+    const auto szam = [](quint32 ertek, int bajtok) {
+        QByteArray b;
+        for (int i = 0; i < bajtok; ++i) b.append(static_cast<char>(ertek >> (8 * i) & 0xFFU));
+        return b;
+    };
+    QFile ki(fajl);
+    QVERIFY(ki.open(QIODevice::WriteOnly));
+    ki.write("RIFF" + szam(36 + mintak, 4) + "WAVEfmt " + szam(16, 4) + szam(1, 2) + szam(1, 2) +
+             szam(mintavetel, 4) + szam(mintavetel, 4) + szam(1, 2) + szam(8, 2) + "data" + szam(mintak, 4) +
+             adat);
+}
+
+}  // namespace
+
+class HangTeszt : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() {
+        sajatBetukBetoltese();
+        regiKonyvtar_ = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(mappa_.path()));
+        hangFajl(mappa_.filePath("Szép hang.mpe"));
+        QFile szemet(mappa_.filePath("Rossz.mpe"));
+        QVERIFY(szemet.open(QIODevice::WriteOnly));
+        szemet.write("ez nem hang");
+    }
+    void cleanupTestCase() { QDir::setCurrent(regiKonyvtar_); }
+
+    void jelEsFajlEgyuttNyitjaALejatszot() {
+        TFrissAblakok a;
+        TProbaParbeszed p;
+        a.form1.parbeszedBeallitasa(p);
+        a.form5.parbeszedBeallitasa(p);
+        a.allapot().Szemely.nev = "Szép hang";
+        a.allapot().Szemely.hangJel = "H";
+        QVERIFY(!KepletMentes(a.allapot(), mappa_.filePath("a.kvh").toStdString()));
+        p.fajl = mappa_.filePath("a.kvh");
+        menu(a.form1, "Megnyitas1");
+        QVERIFY(a.form5.isVisible());
+        QCOMPARE(a.form5.size(), QSize(208, 30));
+        QVERIFY(a.allapot().HangAktiv);
+        QCOMPARE(a.allapot().HangCim, std::string("Szép hang   "));
+        a.orajelek(1);
+        QCOMPARE(a.form5.windowTitle(), "zép hang   S");
+        auto* lejatszo = a.form5.findChild<QMediaPlayer*>("MediaPlayer1");
+        QTRY_VERIFY(lejatszo->duration() >= 450 && lejatszo->duration() <= 550);
+        kattint(a.form5, "Lejatszas1");
+        QTRY_COMPARE(lejatszo->playbackState(), QMediaPlayer::PlayingState);
+        kattint(a.form5, "Szunet1");
+        QTRY_COMPARE(lejatszo->playbackState(), QMediaPlayer::PausedState);
+        kattint(a.form5, "Megallitas1");
+        QTRY_COMPARE(lejatszo->playbackState(), QMediaPlayer::StoppedState);
+        QVERIFY(p.uzenetek.isEmpty());
+    }
+
+    void jelVagyFajlNelkulSemmi() {
+        TFrissAblakok a;
+        a.allapot().Szemely.nev = "Szép hang";
+        a.form5.HangLink();
+        QVERIFY(!a.form5.isVisible());
+        a.allapot().Szemely.hangJel = "H";
+        a.allapot().Szemely.nev = "Nincs ilyen";
+        a.form5.HangLink();
+        QVERIFY(!a.form5.isVisible());
+        QVERIFY(!a.allapot().HangAktiv);
+    }
+
+    void aRosszFajlUzenetetAdDeAzAblakLatszik() {
+        TFrissAblakok a;
+        TProbaParbeszed p;
+        a.form5.parbeszedBeallitasa(p);
+        a.allapot().Szemely.nev = "Rossz";
+        a.allapot().Szemely.hangJel = "H";
+        a.form5.HangLink();
+        QVERIFY(a.form5.isVisible());
+        QTRY_VERIFY(!p.uzenetek.isEmpty());
+        QVERIFY(p.uzenetek[0].startsWith("Hibakód: "));
+        QVERIFY(p.uzenetek[0].contains("\r\n"));
+    }
+
+    void aKeresesSorrendje() {
+        const auto mappak = HangMappak("/ide", "/otthon", false);
+        QCOMPARE(mappak, (std::vector<std::string>{"/ide/", "/otthon/Korvend/", "/otthon/"}));
+        const auto meghajtok = HangMappak("D:\\ide", "", true);
+        QCOMPARE(meghajtok.size(), 15U);
+        QCOMPARE(meghajtok[0], std::string("D:\\ide\\"));
+        QCOMPARE(meghajtok[1], std::string("C:\\Korvend\\"));
+        QCOMPARE(meghajtok[2], std::string("C:\\"));
+        QCOMPARE(meghajtok[14], std::string("I:\\"));
+        const auto van = [](const std::string& f) {
+            return f == "/otthon/N.mpe" || f == "/otthon/Korvend/N.mpe";
+        };
+        QCOMPARE(HangFajlKeres("N", mappak, van), std::string("/otthon/Korvend/N.mpe"));
+        QCOMPARE(HangFajlKeres("M", mappak, van), std::string());
+        QCOMPARE(HangFajlKeres("Korvend/N", mappak, van), std::string());
+    }
+
+private:
+    QTemporaryDir mappa_;
+    QString regiKonyvtar_;
+};
+
+QTEST_MAIN(HangTeszt)
+#include "hang_teszt.moc"

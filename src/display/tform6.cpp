@@ -18,7 +18,18 @@ constexpr int kisMeret = 8;
 void betuMeret(QWidget& vezerlo, int meret) {
     QFont betu = vezerlo.font();
     betu.setPointSize(meret);
+    betu.setStretch(QFont::Unstretched);
     vezerlo.setFont(betu);
+}
+
+/// Narrows the letters until the text fits in its button.
+void beszorit(QPushButton& gomb) {
+    constexpr int keret = 6;  // pixels
+    const int szelesseg = gomb.fontMetrics().horizontalAdvance(gomb.text());
+    if (szelesseg <= gomb.width() - keret) return;
+    QFont betu = gomb.font();
+    betu.setStretch(100 * (gomb.width() - keret) / szelesseg);
+    gomb.setFont(betu);
 }
 
 QString szamSzoveg(double ertek) {
@@ -126,6 +137,7 @@ void TForm6::BOrbisClick(QPushButton* gomb) {
     const double ertek = szam(gomb->text()) + lepes_;
     gomb->setText(szamSzoveg(ertek < 0 ? 0 : ertek));
     betuMeret(*gomb, kiemeltMeret);
+    beszorit(*gomb);
     gomb->clearFocus();
 }
 

@@ -191,6 +191,29 @@ private slots:
         QCOMPARE(memo->geometry(), QRect(0, 600, 49, 281));
     }
 
+    void aJegyzetProgrambolValoValtozasaIsHelyetValt() {
+        TFrissAblakok a;
+        auto* memo = vezerlo<QPlainTextEdit>(a.form1, "Memo1");
+        a.allapot().MostFut = false;
+        a.allapot().Feliratok.memo = "jegyzet";
+        a.form1.Mutat();
+        QCOMPARE(memo->geometry().top(), 144);
+        a.allapot().MostFut = true;
+        a.orajelek(1);  // the running clock empties it
+        QCOMPARE(memo->toPlainText(), "");
+        QCOMPARE(memo->geometry().top(), 600);
+        a.orajelek(5);  // and leaves an empty one alone
+        QCOMPARE(memo->geometry().top(), 600);
+    }
+
+    void aKerekreKattintvaSemmiSemTortenik() {
+        TFrissAblakok a;
+        const QImage elobb = a.kep();
+        QTest::mouseClick(a.form1.findChild<KepletFelulet*>("Felulet"), Qt::LeftButton, {}, QPoint(360, 350));
+        QVERIFY(a.kep() == elobb);
+        QVERIFY(a.allapot().MemoKicsi);
+    }
+
     void azOldalPanelABolygokatEsCsucsokatMutatja() {
         TFrissAblakok a;
         const TKeplet& k = a.allapot().Keplet;

@@ -95,6 +95,18 @@ struct TEsemenyTar {
     int EsemenyDb = 0;
 };
 
+/// One return: its moment in Greenwich time, and the direction letter of its day.
+struct TVisszateres {
+    TPillanat pillanat;
+    char mozgas = 'D';
+};
+
+/// The hits of the last search; rows above the count hold what older searches left.
+struct TVisszateresek {
+    Tomb<TVisszateres, 1000> sorok;
+    int szamlalo = 0;
+};
+
 /// A row of the table from which the bodies are placed on a wheel.
 struct TRendezettSor {
     double rendHossz = 0;   ///< longitude after spreading, degrees; may fall a little below 0
@@ -166,6 +178,7 @@ struct Allapot {
     double TercierOrbisNap = 45.0;
 
     TEsemenyTar Esemenyek;
+    TVisszateresek Visszateresek;
     TOrbisTabla OrbisTabla = OrbisAlap;
 
     // Kept tables of the chart on screen and the aspect routines' work tables.

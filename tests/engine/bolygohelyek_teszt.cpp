@@ -1,3 +1,6 @@
+#include <array>
+#include <string>
+
 #include <gtest/gtest.h>
 
 #include "engine/bolygohelyek.h"
@@ -29,6 +32,43 @@ TEST(BolygoHelyek, EgyNapreszAKovetkezoSorig) {
     const TPoz p = helyek(2415020, 0.5);
     EXPECT_DOUBLE_EQ(p.b[1], (1008552 + 1012223) / 2.0 / 3600);
     EXPECT_DOUBLE_EQ(p.b[9], (306780 + 306660) / 2.0 / 3600);  // Neptune, retrograde
+}
+
+TEST(BolygoHelyek, MindATizBolygoANapNegyedeben) {
+    // Rows 1 and 2 of the ephemeris, three parts of the first and one of the second.
+    constexpr std::array elso{1008552, 980700, 932400, 1102920, 1021920,
+                              868080,  963780, 900480, 306780,  270900};
+    constexpr std::array masodik{1012223, 1032780, 937020, 1107420, 1024680,
+                                 868800,  964200,  900720, 306660,  270840};
+    const TPoz p = helyek(2415020, 0.25);
+    for (std::size_t i = 0; i < 10; ++i)
+        EXPECT_DOUBLE_EQ(p.b[static_cast<int>(i) + 1], (3.0 * elso[i] + masodik[i]) / 4 / 3600) << i;
+}
+
+TEST(BolygoHelyek, ANulladikNapEgeszenAzElsoSoronAll) {
+    const TPoz p = helyek(2415019, 0.75);
+    EXPECT_DOUBLE_EQ(p.b[1], 1008552 / 3600.0);
+    EXPECT_DOUBLE_EQ(p.b[10], 270900 / 3600.0);
+    EXPECT_EQ(std::string(p.m.begin(), p.m.end()), "DDDDDDDDRR");
+}
+
+TEST(BolygoHelyek, AzUtolsoElottiNapMegATablabanVan) {
+    const TPoz p = helyek(2480554, 1);
+    EXPECT_DOUBLE_EQ(p.b[1], 271855 / 3600.0);
+    EXPECT_DOUBLE_EQ(p.b[2], 575220 / 3600.0);
+    EXPECT_DOUBLE_EQ(p.b[6], 1029420 / 3600.0);  // Jupiter, retrograde
+    EXPECT_EQ(std::string(p.m.begin(), p.m.end()), "DDDDDRRRDD");
+}
+
+TEST(BolygoHelyek, EgyFolottANapreszARetrogradotIsTovabbviszi) {
+    EXPECT_DOUBLE_EQ(KoztesHossz(1000, 880, 1.25, 'R'), 850);
+    EXPECT_DOUBLE_EQ(KoztesHossz(1270000, 24000, 1.5, 'D'), 1270000 + 50000 * 1.5 - 1296000);
+}
+
+TEST(BolygoHelyek, AzAtfordulasElottAzErtekMarad) {
+    EXPECT_DOUBLE_EQ(KoztesHossz(1295000, 20000, 0.04, 'D'), 1295840);
+    EXPECT_DOUBLE_EQ(KoztesHossz(0, 21000, 0, 'D'), 0);
+    EXPECT_DOUBLE_EQ(KoztesHossz(0, 1295940, 0, 'R'), 1296000);
 }
 
 TEST(BolygoHelyek, AHoldAKosFolyamatanAtfordul) {

@@ -58,9 +58,68 @@ TEST(CsillagIdo, NyugatiZonabanANapreszEgyFolottEsNincsAtvitel) {
 }
 
 TEST(CsillagIdo, CsakEgyHuszonnegyOratVeszLe) {
-    // 22:39 at 0h in September, 28 hours later: 50 hours; 26 remain.
+    // 2000-09-01 is 244 days after the 6:39:51 of January 1: 22:41:50 at 0h. 28 hours and 275 s later it is
+    // 50:46:26; 26 hours remain.
     const TEredmeny e = szamit(2000, 9, 1, 23, 0, 0, {0, 0, -5});
     EXPECT_EQ(e.ora, 26);
+    EXPECT_EQ(e.perc, 46);
+    EXPECT_DOUBLE_EQ(e.napresz, 28.0 / 24);
+}
+
+TEST(CsillagIdo, PontosanHuszonnegyOraNullaLesz) {
+    // From 6:40:45 at 0h on 1900-01-01, 17:16:25 and its gain of 170 s make 24:00:00.
+    const TEredmeny teli = szamit(1900, 1, 1, 17, 16, 25, {0, 0, 0});
+    EXPECT_EQ(teli.napEltolas, 0);
+    EXPECT_EQ(teli.ora, 0);
+    EXPECT_EQ(teli.perc, 0);
+    EXPECT_NEAR(teli.mperc, 62185 * 0.0027379050925925926 - 170, 1e-9);
+    const TEredmeny elotte = szamit(1900, 1, 1, 17, 16, 24, {0, 0, 0});
+    EXPECT_EQ(elotte.ora, 23);
+    EXPECT_EQ(elotte.perc, 59);
+    EXPECT_NEAR(elotte.mperc, 59 + (62184 * 0.0027379050925925926 - 170), 1e-9);
+}
+
+TEST(CsillagIdo, EjfelkorGreenwichbenASorIdeje) {
+    const TEredmeny e = szamit(1900, 1, 2, 0, 0, 0, {0, 0, 0});
+    EXPECT_EQ(e.napEltolas, 0);
+    EXPECT_DOUBLE_EQ(e.napresz, 0);
+    EXPECT_EQ(e.ora, 6);
+    EXPECT_EQ(e.perc, 44);
+    EXPECT_DOUBLE_EQ(e.mperc, 42);
+}
+
+TEST(CsillagIdo, EgyNapAlatt236MasodpercAGyarapodas) {
+    // 12 hours gain half of 236.555 s: 6:40:45 + 12 h + 118.2775 s.
+    const TEredmeny e = szamit(1900, 1, 1, 12, 0, 0, {0, 0, 0});
+    EXPECT_EQ(e.ora, 18);
+    EXPECT_EQ(e.perc, 42);
+    EXPECT_NEAR(e.mperc, 43.2775, 1e-7);
+}
+
+TEST(CsillagIdo, BudapestNyugatiTukorkepe) {
+    // 68640 seconds of arc are 76 min 16 s of time: 6:40:45 less that is 5:24:29.
+    const TEredmeny e = szamit(1900, 1, 1, 0, 0, 0, {-68640, 0, 0});
+    EXPECT_EQ(e.ora, 5);
+    EXPECT_EQ(e.perc, 24);
+    EXPECT_DOUBLE_EQ(e.mperc, 29);
+}
+
+TEST(CsillagIdo, ANyugatiHosszusagTortMasodperceIsElvesz) {
+    // The remainder is cut towards zero on both sides of Greenwich: 29 seconds of arc are one second of time.
+    const TEredmeny nyugat = szamit(1900, 1, 1, 0, 0, 0, {-29, 0, 0});
+    EXPECT_DOUBLE_EQ(nyugat.mperc, 44);
+    const TEredmeny kozel = szamit(1900, 1, 1, 0, 0, 0, {-14, 0, 0});
+    EXPECT_DOUBLE_EQ(kozel.mperc, 45);
+}
+
+TEST(CsillagIdo, ANyariIdoEgyOratVeszEl) {
+    const TEredmeny teli = szamit(2000, 7, 1, 12, 0, 0, {68640, 0, 1});
+    const TEredmeny nyari = szamit(2000, 7, 1, 13, 0, 0, {68640, 1, 1});
+    EXPECT_DOUBLE_EQ(nyari.napresz, 11.0 / 24);
+    EXPECT_DOUBLE_EQ(nyari.napresz, teli.napresz);
+    EXPECT_EQ(nyari.ora, teli.ora);
+    EXPECT_EQ(nyari.perc, teli.perc);
+    EXPECT_DOUBLE_EQ(nyari.mperc, teli.mperc);
 }
 
 TEST(CsillagIdo, ANyugatiHosszusagLevonodik) {

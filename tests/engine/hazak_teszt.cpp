@@ -50,7 +50,46 @@ TEST(Hazak, ElobbASzelessegAztanAzIdo) {
     EXPECT_DOUBLE_EQ(h[1], ((b - a) * 90 / 240 + a) / 60);
 }
 
-TEST(Hazak, HatvanFoknalAzUtolsoBlokk) {
+TEST(Hazak, ANegyPercenBeluliPercAMaradekbaMegy) {
+    // 5:43:30 stands 210 seconds past row 85 (5:40).
+    const THazcsucsok h = csucsok(5, 43, 30, fok(50));
+    EXPECT_DOUBLE_EQ(h[1], cella(50, 85, 0) + (cella(50, 86, 0) - cella(50, 85, 0)) * 210 / 240);
+    EXPECT_DOUBLE_EQ(h[3], cella(50, 85, 2) + (cella(50, 86, 2) - cella(50, 85, 2)) * 210 / 240);
+    EXPECT_DOUBLE_EQ(h[12], cella(50, 85, 4) + (cella(50, 86, 4) - cella(50, 85, 4)) * 210 / 240);
+    EXPECT_DOUBLE_EQ(h[10], (McTabla[85] + (McTabla[86] - McTabla[85]) * 210 / 240.0) / 3600);
+}
+
+TEST(Hazak, MindenRacspontATablaSajatErteke) {
+    constexpr int hazak[]{1, 2, 3, 11, 12};
+    for (int f = 42; f <= 60; f += 6) {
+        for (int r = 0; r < 360; ++r) {
+            const THazcsucsok h = csucsok(r / 15, r % 15 * 4, 0, fok(f));
+            for (std::size_t c = 0; c < 5; ++c)
+                ASSERT_DOUBLE_EQ(h[hazak[c]], cella(f, r, c)) << f << ' ' << r << ' ' << c;
+            ASSERT_DOUBLE_EQ(h[10], McTabla[static_cast<std::size_t>(r)] / 3600.0) << r;
+        }
+    }
+}
+
+TEST(Hazak, BudapestElsoRacsonKivuliKepe) {
+    // The local sidereal time 7:00:47.69854 of Budapest, 47 degrees 30 minutes: 47.69854 s past row 105.
+    const THazcsucsok h = csucsok(7, 0, 47.69854, 171000);
+    const double a = (cella(47, 105, 0) + cella(48, 105, 0)) / 2;
+    const double b = (cella(47, 106, 0) + cella(48, 106, 0)) / 2;
+    EXPECT_NEAR(h[1], a + (b - a) * 47.69854 / 240, 1e-9);
+    EXPECT_NEAR(h[10], (McTabla[105] + (McTabla[106] - McTabla[105]) * 47.69854 / 240) / 3600, 1e-9);
+}
+
+TEST(Hazak, NegyvenketFoknalAzElsoBlokk) {
+    EXPECT_DOUBLE_EQ(csucsok(0, 0, 0, fok(42))[12], 4558 / 60.0);
+    EXPECT_DOUBLE_EQ(csucsok(0, 0, 0, fok(42, 30))[12], (4558 + 4591) / 2.0 / 60);
+}
+
+TEST(Hazak, AzUtolsoFokFeleutonKetBlokkKozott) {
+    EXPECT_DOUBLE_EQ(csucsok(0, 0, 0, fok(59, 30))[11], (cella(59, 0, 3) + 2517 / 60.0) / 2);
+}
+
+TEST(Hazak, HatvanFoknalAzUtolsoBlokkJon) {
     EXPECT_DOUBLE_EQ(csucsok(0, 0, 0, fok(60))[1], 7474 / 60.0);
     EXPECT_DOUBLE_EQ(csucsok(0, 0, 0, fok(60))[12], 5533 / 60.0);
 }
@@ -93,6 +132,14 @@ TEST(Hazak, Ramc240NelASzelessegekKozottNincsAtfordulas) {
     EXPECT_DOUBLE_EQ(csucsok(16, 0, 0, fok(58, 30))[2], 21599 / 2.0 / 60);
     EXPECT_DOUBLE_EQ(csucsok(16, 0, 0, fok(59, 30))[2], 21599 / 2.0 / 60);
     EXPECT_DOUBLE_EQ(csucsok(16, 0, 0, fok(56, 30))[2], 0);
+}
+
+TEST(Hazak, Ramc240NelARosszMasodikHazIdovelSemJavul) {
+    // Half way from 57 to 58 degrees the false 10799.5 minutes of RAMC 240 is followed by the true, small
+    // value of 241, which is lifted above it: the cusp runs through half of the circle in four minutes.
+    const double a = 21599 / 2.0;
+    const double b = (cella(57, 241, 1) + cella(58, 241, 1)) / 2 * 60 + 21600;
+    EXPECT_DOUBLE_EQ(csucsok(16, 2, 0, fok(57, 30))[2], (a + (b - a) / 2) / 60);
 }
 
 TEST(Hazak, ANegativCsillagidoSoraKorbeer) {

@@ -1,3 +1,7 @@
+#include <algorithm>
+#include <cmath>
+#include <string>
+
 #include <gtest/gtest.h>
 
 #include "engine/uralkodok.h"
@@ -45,25 +49,61 @@ TEST(HazBesorolas, AKosPontjanAtIs) {
     EXPECT_EQ(haz(344, h), 12);
 }
 
-TEST(HazBesorolas, AmiSehovaSemIllikMegtartjaASzamat) {
-    // House 12 begins after the end of its own space: cusps 12 and 1 closer than the difference of the
-    // shifts.
-    THazcsucsok h = egyenloHazak(0);
-    h[12] = 358.5;  // boundary 355.5, above that of house 1, 355
+TEST(HazBesorolas, MindATizenketHazHatara) {
+    for (const double elso : {0.0, 4.0, 100.0, 333.5}) {
+        const THazcsucsok h = egyenloHazak(elso);
+        for (int i = 1; i <= 12; ++i) {
+            const bool sarok = i == 1 || i == 4 || i == 7 || i == 10;
+            const int elozo = i == 1 ? 12 : i - 1;
+            const auto elotte = [&](double fok) { return std::fmod(h[i] - fok + 360, 360); };
+            EXPECT_EQ(haz(h[i], h), i) << elso;
+            EXPECT_EQ(haz(elotte(2.5), h), i) << elso;
+            EXPECT_EQ(haz(elotte(sarok ? 5 : 3), h), i) << elso;
+            EXPECT_EQ(haz(elotte(4), h), sarok ? i : elozo) << elso;
+            EXPECT_EQ(haz(elotte(5.25), h), elozo) << elso;
+        }
+    }
+}
+
+TEST(HazBesorolas, A360FelettiCsucsHataraAKorbenMarad) {
+    THazcsucsok h = egyenloHazak(330);
+    h[2] = 360.5;  // boundary 357.5
+    EXPECT_EQ(haz(357.25, h), 1);
+    EXPECT_EQ(haz(357.5, h), 2);
+    EXPECT_EQ(haz(2, h), 2);
+}
+
+TEST(HazBesorolas, AHaztKeresoHosszNemValtozik) {
     TBolygok b;
-    b.tolt(355.2);
+    b.tolt(2);
+    const TBolygok elotte = b;
+    TBolygoHazak hazak;
+    HazBesorolas(b, egyenloHazak(350), hazak);
+    EXPECT_EQ(b, elotte);
+}
+
+TEST(HazBesorolas, AmiSehovaSemIllikMegtartjaASzamat) {
+    // The first house begins at 5 - 5 = 0, the circle closes at 360, and a retrograde body may stand at 360
+    // exactly, above the last bound.
+    TBolygok b;
+    b.tolt(360);
     TBolygoHazak hazak;
     hazak.tolt(7);
-    HazBesorolas(b, h, hazak);
+    HazBesorolas(b, egyenloHazak(5), hazak);
+    EXPECT_EQ(hazak[1], 7);
+    b.tolt(0);
+    HazBesorolas(b, egyenloHazak(5), hazak);
     EXPECT_EQ(hazak[1], 1);
-    // A body that no interval holds: house 2's boundary at house 1's own makes house 1 a whole circle wide;
-    // so take bodies outside the circle.
-    b.tolt(1000);
-    HazBesorolas(b, h, hazak);
-    EXPECT_EQ(hazak[1], 1);
-    TBolygoHazak friss;
-    HazBesorolas(b, h, friss);
-    EXPECT_EQ(friss[1], 0);
+}
+
+TEST(HazBesorolas, AtfedoHazaknalAKesobbiAll) {
+    // Cusps 12 and 1 closer than the difference of the shifts: house 12 begins at 355.5, above the 355 of
+    // house 1, is not lifted and runs round the whole circle.
+    THazcsucsok h = egyenloHazak(0);
+    h[12] = 358.5;
+    EXPECT_EQ(haz(355.25, h), 1);
+    EXPECT_EQ(haz(355.5, h), 12);
+    EXPECT_EQ(haz(100, h), 12);
 }
 
 struct TRend {
@@ -138,6 +178,82 @@ TEST(UralkodoSzamitas, AHarmasLancAzUranusszalNem) {
     EXPECT_TRUE(csakUranusz.u.Forditott[3]);
 }
 
+TEST(UralkodoSzamitas, ALancAKulsoBolygokMindegyikevelSemFordit) {
+    for (const int kulso : {8, 9, 10}) {
+        TRend r;
+        r.egyutt(3, 2);
+        r.egyutt(3, kulso);
+        r.egyutt(2, kulso);
+        r.szamit();
+        EXPECT_FALSE(r.u.Forditott[2]) << kulso;
+        EXPECT_FALSE(r.u.Forditott[3]) << kulso;
+        EXPECT_TRUE(r.u.Forditott[kulso]) << kulso;  // its own row holds no outer body
+    }
+    TRend belso;
+    belso.egyutt(3, 2);
+    belso.egyutt(3, 7);  // Saturn is none of the three
+    belso.szamit();
+    EXPECT_TRUE(belso.u.Forditott[3]);
+}
+
+TEST(UralkodoSzamitas, AParatlanJegyMindATizenketJegyben) {
+    for (int jegy = 1; jegy <= 12; ++jegy) {
+        TRend egyedul;
+        egyedul.b.tolt(jegyben(jegy));
+        egyedul.szamit();
+        TRend parban;
+        parban.b.tolt(jegyben(jegy));
+        parban.egyutt(3, 4);
+        parban.szamit();
+        EXPECT_EQ(egyedul.u.PratlanJegy[3], jegy % 2 == 1) << jegy;
+        EXPECT_EQ(parban.u.PratlanJegy[3], jegy % 2 == 0) << jegy;
+        EXPECT_EQ(parban.u.PratlanJegy[5], jegy % 2 == 1) << jegy;
+    }
+}
+
+TEST(UralkodoSzamitas, AMerkurABikabanAzIkreketUraNelkulHagyja) {
+    TRend r;
+    r.b.tolt(jegyben(2));
+    r.szamit();
+    EXPECT_EQ(r.u.HazUra[3], 0);
+    EXPECT_EQ(r.u.HazUra[6], 2);
+}
+
+TEST(UralkodoSzamitas, ATizenketMondatTeljesen) {
+    // All in Aries but Mars in Leo, houses from Aries 0: the odd signs' rulers, all in house 1, Mars in 5.
+    TRend r;
+    r.b.tolt(jegyben(1));
+    r.b[5] = jegyben(5);
+    r.szamit();
+    EXPECT_EQ(r.u.UralkodoSzoveg,
+              "Az  I-es ház ura a  5-ben. Az  2-es háznak nincs ura. Az  3-es ház ura a  I-ben. "
+              "Az IV-es ház ura a  I-ben. Az  5-es ház ura a  I-ben. Az  6-es háznak nincs ura. "
+              "Az VII-es ház ura a  I-ben. Az  8-es háznak nincs ura. Az  9-es ház ura a  I-ben. "
+              "Az  X-es háznak nincs ura. Az 11-es ház ura a  I-ben. Az 12-es háznak nincs ura. ");
+    EXPECT_EQ(r.u.MundanUralkodoSzoveg,
+              "Az  I-es mundán ház ura a  5-ben. Az  2-es mundán háznak nincs ura. "
+              "Az  3-es mundán ház ura a  I-ben. Az IV-es mundán ház ura a  I-ben. "
+              "Az  5-es mundán ház ura a  I-ben. Az  6-es mundán háznak nincs ura. "
+              "Az VII-es mundán ház ura a  I-ben. Az  8-es mundán háznak nincs ura. "
+              "Az  9-es mundán ház ura a  I-ben. Az  X-es mundán háznak nincs ura. "
+              "Az 11-es mundán ház ura a  I-ben. Az 12-es mundán háznak nincs ura. ");
+}
+
+TEST(UralkodoSzamitas, AHorizontACsucsokatAMundanAJegyeketNezi) {
+    // Houses from Cancer 0: the tenth cusp stands in Aries, which Mars rules from Leo, the second house.
+    TRend r;
+    r.h = egyenloHazak(90);
+    r.b.tolt(jegyben(1));
+    r.b[5] = jegyben(5);
+    r.szamit();
+    EXPECT_EQ(r.u.HazJegy[1], 4);
+    EXPECT_EQ(r.u.HazJegy[10], 1);
+    EXPECT_EQ(r.u.HazUra[10], 2);
+    EXPECT_EQ(r.u.HazUra[1], 10);  // the Moon in Aries
+    EXPECT_EQ(r.u.MundanHazUra[1], 5);
+    EXPECT_EQ(r.u.MundanHazUra[4], 1);
+}
+
 TEST(UralkodoSzamitas, APlanetakKetJegye) {
     const int paratlan[]{5, 4, 3, 7, 1, 9, 11, 11, 12, 8};
     const int paros[]{5, 4, 6, 2, 8, 12, 10, 11, 12, 8};
@@ -199,6 +315,17 @@ TEST(Dekad, AMasodikDekadAzOtodikAHarmadikAKilencedikJegy) {
     EXPECT_EQ(DekadHazSzamitas(10), 5);
     EXPECT_EQ(DekadHazSzamitas(9.999), 1);
     EXPECT_EQ(DekadHazSzamitas(225), 12);  // Scorpio's second decan: 8 + 4
+}
+
+TEST(Dekad, AHarminchatDekad) {
+    for (int jegy = 1; jegy <= 12; ++jegy) {
+        for (int dekad = 0; dekad < 3; ++dekad) {
+            const int vart = (jegy - 1 + 4 * dekad) % 12 + 1;
+            EXPECT_EQ(DekadHazSzamitas(jegyben(jegy, 10 * dekad)), vart) << jegy << ' ' << dekad;
+            EXPECT_EQ(DekadHazSzamitas(jegyben(jegy, 10 * dekad + 9.5)), vart) << jegy << ' ' << dekad;
+        }
+    }
+    EXPECT_EQ(DekadHazSzamitas(360), 1);  // where a retrograde body may stand
 }
 
 TEST(Dekad, ASzovegekBolygosorrendben) {

@@ -1,11 +1,14 @@
+#include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstring>
+#include <cstdint>
+#include <limits>
 #include <map>
 #include <string>
 
 #include <gtest/gtest.h>
 
+#include "ellenorzoosszeg.h"
 #include "tables/efemerida.h"
 
 namespace {
@@ -153,14 +156,76 @@ TEST(Efemerida, ATablaSzeleiMasolatok) {
 }
 
 TEST(Efemerida, ATablaEllenorzoOsszege) {
-    // Guards the kept data against an unmeant change: FNV-1a over all records as they stand in the image.
-    std::uint64_t fnv = 14695981039346656037ULL;
+    EllenorzoOsszeg osszeg;
     for (int sor = 1; sor <= efemeridaSorok; ++sor) {
-        std::array<unsigned char, sizeof(TEfemeridaNap)> bajtok{};
-        std::memcpy(bajtok.data(), &Efemerida[sor], bajtok.size());
-        for (const unsigned char b : bajtok) fnv = (fnv ^ b) * 1099511628211ULL;
+        const TEfemeridaNap& n = Efemerida[sor];
+        for (const int x : {n.ev, n.ho, n.nap, n.csillagOra, n.csillagPerc, n.csillagMasodperc})
+            osszeg.szam(x);
+        for (std::size_t b = 0; b < 10; ++b) osszeg.szam(hossz(sor, b));
+        for (const char betu : n.mozgas) osszeg.bajt(static_cast<unsigned char>(betu));
     }
-    EXPECT_EQ(fnv, 0x838a760c41e59aeULL) << std::hex << fnv;
+    EXPECT_EQ(osszeg.ertek(), 0x838a760c41e59aeULL) << std::hex << osszeg.ertek();
+}
+
+TEST(Efemerida, KetezerElsoNapja) {
+    // The unrounded longitudes are 1007493.157, 782255.859, 976002.510, 867461.067, 1179271.684, 90839.432,
+    // 145461.101, 1133222.868, 1091430.854 and 905173.512, the sidereal time 23991.419: the Sun and the time
+    // to the second, the others to the minute.
+    constexpr std::array vart{1007493, 782280, 976020,  867480,  1179300,
+                              90840,   145440, 1133220, 1091460, 905160};
+    EXPECT_EQ((std::array{Efemerida[36525].ev, Efemerida[36525].ho, Efemerida[36525].nap}),
+              (std::array{2000, 1, 1}));
+    EXPECT_EQ(csillagido(36525), 23991);
+    for (std::size_t b = 0; b < 10; ++b) EXPECT_EQ(hossz(36525, b), vart[b]) << b;
+}
+
+TEST(Efemerida, AMozdulatlanNapokAFordulotKeresikMindketOldalon) {
+    // A zero step inside a phase keeps its letter; between two phases it is 'S'. The ends of the table, where
+    // the steps outside it would be needed, are left out.
+    for (std::size_t b = 2; b < 10; ++b) {
+        int elozo = 0;  // last step that was not zero
+        for (int sor = 1; sor < efemeridaSorok; ++sor) {
+            const int d = lepes(sor, b);
+            if (d != 0) {
+                elozo = d;
+                continue;
+            }
+            int utana = sor + 1;
+            while (utana < efemeridaSorok && lepes(utana, b) == 0) ++utana;
+            if (elozo == 0 || utana == efemeridaSorok) continue;
+            const int kovetkezo = lepes(utana, b);
+            const char vart = (elozo > 0) != (kovetkezo > 0) ? 'S' : elozo > 0 ? 'D' : 'R';
+            ASSERT_EQ(Efemerida[sor].mozgas[b - 2], vart) << sor << ' ' << b;
+        }
+    }
+}
+
+TEST(Efemerida, ANullaLepesekEsALeghosszabbAllasok) {
+    struct TSzamok {
+        int d, r, leghosszabb;
+    };
+    constexpr TSzamok vart[]{{0, 0, 1},     {0, 0, 1},        {2, 5, 3},        {289, 291, 6},
+                             {798, 812, 8}, {2065, 2138, 12}, {3712, 3882, 15}, {4831, 5122, 18}};
+    for (std::size_t b = 0; b < 8; ++b) {
+        std::map<char, int> nullaLepes;
+        int allas = 0;
+        int leghosszabb = 0;
+        for (int sor = 1; sor < efemeridaSorok; ++sor) {
+            const char betu = Efemerida[sor].mozgas[b];
+            if (lepes(sor, b + 2) == 0) ++nullaLepes[betu];
+            allas = betu == 'S' ? allas + 1 : 0;
+            leghosszabb = std::max(leghosszabb, allas);
+        }
+        EXPECT_EQ(nullaLepes['D'], vart[b].d) << b;
+        EXPECT_EQ(nullaLepes['R'], vart[b].r) << b;
+        EXPECT_EQ(leghosszabb, vart[b].leghosszabb) << b;
+    }
+}
+
+TEST(Efemerida, ATablaVegenTuliSorokATablaVegenekAzErtekeivel) {
+    EXPECT_EQ(efemeridaNap(2415019).nap_hossz, 1008552);
+    EXPECT_EQ(efemeridaNap(2480556).nap_hossz, 271855);
+    EXPECT_EQ(efemeridaNap(2480556).pluto_hossz, 50220);
 }
 
 int julianszam(std::int32_t ev, std::int32_t ho, std::int32_t nap) {
@@ -212,6 +277,37 @@ TEST(Datum, KetezerhetvenkilencreCsakADecemberHarminckettedikevel) {
     EXPECT_EQ(visszaolvasva(2079, 1, 1), (TDatum{2078, 1, 1}));
     std::int32_t ev = 0, ho = 0, nap = 0;
     JulianszambolDatum(2480555, ev, ho, nap);
+    EXPECT_EQ((TDatum{ev, ho, nap}), (TDatum{2079, 6, 6}));
+}
+
+TEST(Datum, A2079EsEvElsoNapjanakASzama) {
+    // 2079-06-06 is the 157th day of its year and 2480555.
+    EXPECT_EQ(julianszam(2078, 12, 32), 2480555 - 156);
+    EXPECT_EQ(julianszam(2078, 12, 31), 2480555 - 157);
+}
+
+TEST(Datum, AKorlatokASzamabrazolasSzelein) {
+    constexpr std::int32_t also = std::numeric_limits<std::int32_t>::min();
+    constexpr std::int32_t felso = std::numeric_limits<std::int32_t>::max();
+    EXPECT_EQ(julianszam(also, also, also), 2415020);
+    EXPECT_EQ(julianszam(felso, felso, felso), 2480555 - 156);
+}
+
+TEST(Datum, MindenEvJanuarElseje) {
+    // The first of January of each year: 365 days, 366 in leap years.
+    int vart = 2415020;
+    for (int ev = 1900; ev <= 2078; ++ev) {
+        EXPECT_EQ(julianszam(ev, 1, 1), vart) << ev;
+        vart += ev % 4 == 0 && ev != 1900 ? 366 : 365;
+    }
+    EXPECT_EQ(vart, 2480555 - 156);
+}
+
+TEST(Datum, ATablanTuliSzamATablaSzelsoNapja) {
+    std::int32_t ev = 0, ho = 0, nap = 0;
+    JulianszambolDatum(2415019, ev, ho, nap);
+    EXPECT_EQ((TDatum{ev, ho, nap}), (TDatum{1900, 1, 1}));
+    JulianszambolDatum(2480556, ev, ho, nap);
     EXPECT_EQ((TDatum{ev, ho, nap}), (TDatum{2079, 6, 6}));
 }
 

@@ -1,10 +1,13 @@
 // Summer time and gazetteer.
 
+#include <algorithm>
+#include <array>
 #include <set>
 #include <string>
 
 #include <gtest/gtest.h>
 
+#include "ellenorzoosszeg.h"
 #include "tables/efemerida.h"
 #include "tables/nyariido.h"
 #include "tables/telepulesek.h"
@@ -49,6 +52,66 @@ TEST(NyariIdoszakok, ASzabalyosEvekVasarnapjai) {
     EXPECT_EQ(NyariIdoszakok[115].vegeOra, 23);
 }
 
+struct TIdoszakDatum {
+    std::array<int, 3> kezdo;
+    int kezdoOra;
+    std::array<int, 3> vege;
+    int vegeOra;
+    bool operator==(const TIdoszakDatum&) const = default;
+};
+
+std::array<int, 3> datum(int julianszam) {
+    std::array<std::int32_t, 3> d{};
+    JulianszambolDatum(julianszam, d[0], d[1], d[2]);
+    return d;
+}
+
+TIdoszakDatum idoszakDatum(std::size_t sor) {
+    const TNyariIdoszak& i = NyariIdoszakok[sor - 1];
+    return {datum(i.kezdoNap), i.kezdoOra, datum(i.vegeNap), i.vegeOra};
+}
+
+TEST(NyariIdoszakok, ASzabalyosEvekElottiSorokNaptariNappal) {
+    const TIdoszakDatum vart[]{{{1916, 4, 30}, 23, {1916, 10, 1}, 0}, {{1917, 4, 16}, 3, {1917, 6, 17}, 2},
+                               {{1918, 4, 15}, 3, {1918, 9, 16}, 2},  {{1919, 4, 15}, 3, {1919, 11, 24}, 2},
+                               {{1941, 4, 7}, 23, {1942, 11, 2}, 2},  {{1943, 3, 29}, 2, {1943, 10, 4}, 2},
+                               {{1944, 4, 3}, 2, {1944, 10, 2}, 2},   {{1945, 5, 1}, 23, {1945, 11, 1}, 0},
+                               {{1946, 3, 31}, 2, {1946, 10, 6}, 0},  {{1947, 4, 6}, 2, {1947, 10, 5}, 3},
+                               {{1948, 4, 4}, 2, {1948, 10, 3}, 3},   {{1949, 4, 10}, 2, {1949, 10, 2}, 3},
+                               {{1954, 5, 23}, 0, {1954, 10, 2}, 2},  {{1955, 5, 22}, 2, {1955, 10, 2}, 2},
+                               {{1956, 6, 3}, 2, {1956, 9, 30}, 3},   {{1957, 6, 2}, 2, {1957, 9, 29}, 3},
+                               {{1980, 4, 6}, 0, {1980, 9, 28}, 0},   {{1981, 3, 29}, 0, {1981, 9, 27}, 1},
+                               {{1982, 3, 28}, 0, {1982, 9, 26}, 1},  {{1983, 3, 27}, 0, {1983, 9, 25}, 1}};
+    static_assert(std::size(vart) == 20);
+    for (std::size_t sor = 1; sor <= 20; ++sor) EXPECT_EQ(idoszakDatum(sor), vart[sor - 1]) << sor;
+}
+
+/// Day of the month of the last Sunday, counted from the Sunday 1900-01-07.
+int utolsoVasarnap(int ev, int ho, int hoHossza) {
+    int n = hoHossza;
+    while ((nap(ev, ho, n) - nap(1900, 1, 7)) % 7 != 0) --n;
+    return n;
+}
+
+TEST(NyariIdoszakok, AzUtolsoVasarnapokSzeptemberigMajdOktoberig) {
+    for (int ev = 1984; ev <= 2078; ++ev) {
+        const int vegeHo = ev <= 1995 ? 9 : 10;
+        const TIdoszakDatum vart{{ev, 3, utolsoVasarnap(ev, 3, 31)},
+                                 2,
+                                 {ev, vegeHo, utolsoVasarnap(ev, vegeHo, vegeHo == 9 ? 30 : 31)},
+                                 3};
+        EXPECT_EQ(idoszakDatum(static_cast<std::size_t>(ev - 1984 + 21)), vart) << ev;
+    }
+    EXPECT_EQ(idoszakDatum(116), (TIdoszakDatum{{2079, 3, 26}, 2, {2079, 6, 6}, 23}));
+}
+
+TEST(NyariIdoszakok, AzEllenorzoOsszeg) {
+    EllenorzoOsszeg osszeg;
+    for (const TNyariIdoszak& i : NyariIdoszakok)
+        for (const int x : {i.kezdoNap, i.vegeNap, i.kezdoOra, i.vegeOra}) osszeg.szam(x);
+    EXPECT_EQ(osszeg.ertek(), 0xea931b74ed2640d8ULL) << std::hex << osszeg.ertek();
+}
+
 TEST(NyariIdo, EzerkilencszaztizenhatEleje_Vege) {
     EXPECT_EQ(nyari(1916, 4, 30, 22, 59, 59), 0);
     EXPECT_EQ(nyari(1916, 4, 30, 23), 1);
@@ -82,6 +145,7 @@ TEST(NyariIdo, EzerkilencszaznegyvenotHuszonharomkorKezdodik) {
     EXPECT_EQ(nyari(1945, 5, 1, 22, 59, 59), 0);
     EXPECT_EQ(nyari(1945, 5, 1, 23), 1);
     EXPECT_EQ(nyari(1945, 5, 2, 0), 1);
+    EXPECT_EQ(nyari(1945, 10, 31, 23, 59, 59), 1);
     EXPECT_EQ(nyari(1945, 11, 1, 0), 0);
 }
 
@@ -157,6 +221,54 @@ TEST(Telepulesek, HaromezerszazharmincnyolcKulonbozoNev) {
     EXPECT_EQ(Telepulesek[3137].nev, "Zubogy");
 }
 
+TEST(Telepulesek, AJelekMindenSorbanEgyformak) {
+    for (const TTelepules& t : Telepulesek) {
+        EXPECT_EQ(t.szelessegJel, 'N') << t.nev;
+        EXPECT_EQ(t.hosszusagJel, 'E') << t.nev;
+    }
+}
+
+TEST(Telepulesek, ANevekEsARendjuk) {
+    // The 3138 names in table order, each followed by a line feed.
+    EllenorzoOsszeg nevek;
+    for (const TTelepules& t : Telepulesek) {
+        nevek.szoveg(t.nev);
+        nevek.szoveg("\n");
+    }
+    EXPECT_EQ(nevek.ertek(), 0xc095589bdd081cd1ULL) << std::hex << nevek.ertek();
+    EXPECT_EQ(Telepulesek[3].nev, "Abasár");
+}
+
+TEST(Telepulesek, AKoordinatakEllenorzoOsszege) {
+    EllenorzoOsszeg koordinatak;
+    for (const TTelepules& t : Telepulesek) {
+        koordinatak.szam(t.szelesseg);
+        koordinatak.szam(t.hosszusag);
+    }
+    EXPECT_EQ(koordinatak.ertek(), 0x21f0ae4833bb62ffULL) << std::hex << koordinatak.ertek();
+}
+
+TEST(Telepulesek, ALegtobbKoordinataNemEgeszPerc) {
+    const auto egeszPerc = std::count_if(Telepulesek.begin(), Telepulesek.end(), [](const TTelepules& t) {
+        return t.szelesseg % 60 == 0 || t.hosszusag % 60 == 0;
+    });
+    EXPECT_LT(egeszPerc, 3138 / 2);
+}
+
+TEST(Telepulesek, MindenHelyAHaztablakSavjaban) {
+    // 42 degrees exactly to 49.87 degrees.
+    for (const TTelepules& t : Telepulesek)
+        EXPECT_TRUE(t.szelesseg >= 42 * 3600 && t.szelesseg < 60 * 3600) << t.nev;
+}
+
+TEST(TelepulesKeres, MindenNevASajatSoratAdja) {
+    for (const TTelepules& t : Telepulesek) {
+        const THely h = hely(std::string(t.nev).c_str());
+        ASSERT_EQ(h.szelesseg, t.szelesseg) << t.nev;
+        ASSERT_EQ(h.hosszusag, t.hosszusag) << t.nev;
+    }
+}
+
 TEST(Telepulesek, IsmeretlenNevreBudapestErtekei) {
     for (const char* nev : {"Xanadu", "", "budapest", "szeged", "SZEGED", "Szeged ", "Szege", "Pecs"}) {
         const THely h = hely(nev);
@@ -164,6 +276,7 @@ TEST(Telepulesek, IsmeretlenNevreBudapestErtekei) {
         EXPECT_EQ(h.hosszusag, 68640) << nev;
         EXPECT_EQ(h.idozona, 1);
         EXPECT_EQ(h.szelessegJel, 'N');
+        EXPECT_EQ(h.hosszusagJel, 'E');
     }
 }
 

@@ -27,6 +27,12 @@ constexpr std::array muveletTabla{
     TMuveletNev{"kvh_ir", kvhIrMuvelet},
     TMuveletNev{"analogia", analogiaMuvelet},
     TMuveletNev{"eletesemeny", eletesemenyMuvelet},
+    TMuveletNev{"revolucio", revolucioMuvelet},
+    TMuveletNev{"personar", personarMuvelet},
+    TMuveletNev{"tercier", tercierMuvelet},
+    TMuveletNev{"ingresszio", ingresszioMuvelet},
+    TMuveletNev{"primer", primerMuvelet},
+    TMuveletNev{"solarhaz", solarHazMuvelet},
 };
 
 TJson valasz(const std::string& sor) {

@@ -16,3 +16,10 @@ TJson kvhOlvasMuvelet(const TJson& kerelem);
 TJson kvhIrMuvelet(const TJson& kerelem);
 TJson analogiaMuvelet(const TJson& kerelem);
 TJson eletesemenyMuvelet(const TJson& kerelem);
+
+TJson revolucioMuvelet(const TJson& kerelem);
+TJson personarMuvelet(const TJson& kerelem);
+TJson tercierMuvelet(const TJson& kerelem);
+TJson ingresszioMuvelet(const TJson& kerelem);
+TJson primerMuvelet(const TJson& kerelem);
+TJson solarHazMuvelet(const TJson& kerelem);

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+#include "shell/allapot.h"
+
+/// Half-width of the solar ingress, degrees: half a day of the year's circle.
+inline constexpr long double IngresszioTures = 0.4931506849315068L;
+
+/// Solar ingress of a date: pairs of bodies of the last solar chart before it whose distance equals the angle
+/// that the date has come in the solar year. A pair is " AMB"; each body pairs with itself near the return.
+/// Leaves the natal moment and `Bolygok` recomputed and the work `Elteresek` of the solar chart.
+std::string IngresszioKeres(Allapot& allapot, const TPillanat& szuletes, const TPillanat& esemeny,
+                            const std::string& helyseg);

@@ -1,0 +1,18 @@
+#include "predictive/natalis.h"
+
+#include "engine/bolygohelyek.h"
+#include "shell/kepletciklus.h"
+#include "tables/efemerida.h"
+
+void NatalisBolygok(Allapot& allapot, const TPillanat& pillanat, const std::string& helyseg) {
+    TKeplet& k = allapot.Keplet;
+    const TPillanat kepernyo = k.pillanat();
+    const std::string kepernyoHely = k.helyseg;
+    k.pillanat(pillanat);
+    k.helyseg = helyseg;
+    DatumRendezes(k);
+    IdoAdatok(allapot);
+    BolygoHelyek(k.julianszam, k.napresz, k.Bolygok, k.Mozgasok);
+    k.pillanat(kepernyo);
+    k.helyseg = kepernyoHely;
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "shell/allapot.h"
+#include "shell/foablak.h"
+#include "tables/szotar.h"
+
+/// Returns: the moments at which a body comes back to its Radix longitude (revolutions), or the Sun passes a
+/// point of the Radix (personars). Both are one search over `Efemerida`, one table, one dialog and one way of
+/// making the chart; what differs stands in a row of `VisszateresFajta`.
+
+enum class VisszateresPont { bolygo, csucs };
+
+struct TVisszateresFajta {
+    TCim cim;              ///< caption of the dialog; text of status panel 0
+    const char* listaCim;  ///< heading of the list
+    VisszateresPont pont;  ///< the target: a Radix body as recomputed, or a cusp of the chart on screen
+    int szam;              ///< body 1..10 or house
+    int bolygo;            ///< the body whose way is walked
+    int legfeljebb;        ///< rows at most
+    bool mozgasJel;        ///< rows carry the direction letter
+};
+
+/// Kind of a revolution 1..7 or of a personar 1..11, in menu order.
+TVisszateresFajta RevolucioFajta(int fajta);
+TVisszateresFajta PersonarFajta(int fajta);
+
+inline constexpr int revolucioFajtak = 7;
+inline constexpr int personarFajtak = 11;
+
+/// The start of the search: the Radix date less one day.
+TPillanat VisszateresKezdo(const Allapot& allapot);
+
+/// Recomputes the Radix bodies with the chart's own place and summer time looked up anew, and returns the
+/// target in arcseconds. Writes the day number, `nyariIdo`, `napresz`, the ARMC fields and the engine's work
+/// tables, which nothing restores after a cancel; what the picture shows stays.
+double VisszateresCel(Allapot& allapot, const TVisszateresFajta& fajta);
+
+/// One forward pass from the start day; fills `Allapot::Visszateresek` from row 1 on and sets its count.
+///
+/// Meant so: on the day on which a direct body passes 0 degrees of Aries the target is compared with 360
+/// although it is in arcseconds, so a target between the day's longitude and the end of Pisces is missed; a
+/// day without a step is a hit for any target, but not with the letter 'S'; a target exactly on the day's
+/// longitude gives a fraction of the day far above 1.
+void VisszateresKereses(Allapot& allapot, const TVisszateresFajta& fajta, double cel);
+
+/// Texts of the list, as in "1975.03.21. 06:04:09 GMT", with " R" behind it for a retrograde crossing.
+std::vector<std::string> VisszateresSorok(const Allapot& allapot, const TVisszateresFajta& fajta);
+
+/// Makes a row of the table the chart on screen, cast for a place one arcminute east and one north of the
+/// stated one, without summer time: meant so.
+/// @param sor  from 1; with an empty list row 1 of the table as the last search left it
+void VisszateresKeplet(Allapot& allapot, FoAblak& ablak, const TVisszateresFajta& fajta, int sor,
+                       const std::string& helyseg);

@@ -10,7 +10,7 @@
 #include "tables/szoveg.h"
 
 std::string FejlecSzoveg(const TKeplet& k, const std::string& megnevezes) {
-    const std::string datum = std::to_string(k.ev) + "." + ketJegy(k.ho) + "." + ketJegy(k.nap) + ".";
+    const std::string datum = datumSzoveg(k.pillanat());
     const std::string ido = std::to_string(k.ora) + ":" + ketJegy(k.perc) + ":" + ketJegy(k.mperc);
     const std::string armc =
         std::to_string(k.armcOra) + ":" + ketJegy(k.armcPerc) + ":" + std::to_string(egesz(k.armcMperc));

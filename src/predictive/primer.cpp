@@ -7,11 +7,11 @@
 #include "engine/hazak.h"
 #include "engine/uralkodok.h"
 #include "predictive/solarkereses.h"
+#include "shell/statuszsor.h"
 #include "tables/efemerida.h"
 #include "tables/haztablak.h"
 #include "tables/szamtan.h"
 #include "tables/szotar.h"
-#include "tables/szoveg.h"
 
 namespace {
 
@@ -117,8 +117,7 @@ std::string sorSzoveg(const TKeplet& k, std::int32_t julianszam, std::size_t osz
     JulianszambolDatum(julianszam, p.ev, p.ho, p.nap);
     const int haz = SolarHaz(k.bolygo, julianszam, k.hosszusag, k.szelesseg);
     const std::string_view jel = haz >= 1 && haz <= 12 ? HazCimkeSzimbolum[haz] : std::string_view{};
-    return std::to_string(p.ev) + "." + ketJegy(p.ho) + "." + ketJegy(p.nap) + ".   " + std::string(jel) +
-           std::string(oszlopKoz[oszlop], ' ') + szoveg;
+    return datumSzoveg(p).append("   ").append(jel).append(oszlopKoz[oszlop], ' ').append(szoveg);
 }
 
 }  // namespace

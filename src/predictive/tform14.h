@@ -1,18 +1,51 @@
 #pragma once
 
+#include <array>
+#include <string>
+#include <vector>
+
+#include <QComboBox>
 #include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QSpinBox>
 
-#include "shell/allapot.h"
-#include "shell/foablak.h"
+#include "predictive/visszateresek.h"
 
-/// List of returns and Sun transits.
+/// List of returns or Sun transits. Only the list's row and the place are read; the rest is display.
 class TForm14 : public QDialog {
     Q_OBJECT
 
 public:
     TForm14(Allapot& allapot, FoAblak& ablak, QWidget* fo);
 
+    /// Fills the dialog for a kind: captions, start date, the chart's place and coordinates; the list is
+    /// empty.
+    void kitoltes(const TVisszateresFajta& fajta, const TPillanat& kezdo);
+    /// Shows the rows and waits for the user's choice.
+    void megmutat(const std::vector<std::string>& sorok);
+
+    int sor() const { return sor_; }  ///< from 1
+    std::string helyseg() const;
+
+private slots:
+    void Button_Rendben1Click();
+    void Button_Megsem1Click();
+    void ListBox1Click();
+    void ComboBoxHelyseg1Change();
+
 private:
+    void koordinatak(std::int32_t hosszusag, std::int32_t szelesseg);
+
     Allapot& allapot_;
-    FoAblak& ablak_;
+    QWidget* fo_;
+    QLabel* label1_;
+    QLabel* datumBekero1_;
+    std::array<QSpinBox*, 3> datum_{};
+    std::array<QLineEdit*, 3> edit_{};
+    std::array<QSpinBox*, 4> koordinata_{};
+    QComboBox* helyseg_;
+    QListWidget* listBox1_;
+    int sor_ = 1;
 };

@@ -1,7 +1,11 @@
 #include "predictive/tform4.h"
 
-TForm4::TForm4(Allapot& allapot, FoAblak& ablak, QWidget* fo)
-    : QDialog(fo), allapot_(allapot), ablak_(ablak) {
+TForm4::TForm4(Allapot&, FoAblak&, QWidget* fo) : QDialog(fo) {
     setObjectName("TForm4");
     setWindowTitle("Szolárrev");
+    for (const char* nev : {"SpinEditHosszPerc1", "SpinEditSzelPerc1"}) {
+        auto* mezo = new QSpinBox(this);
+        mezo->setObjectName(nev);
+        mezo->setValue(1);
+    }
 }

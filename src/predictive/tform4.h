@@ -1,18 +1,16 @@
 #pragma once
 
 #include <QDialog>
+#include <QSpinBox>
 
 #include "shell/allapot.h"
 #include "shell/foablak.h"
 
-/// Never shown; its two minute fields keep the value that returns add to the coordinates.
+/// No command shows it. Its two minute fields keep the value 1: the arcminute by which a derived chart is
+/// cast east and north of its place.
 class TForm4 : public QDialog {
     Q_OBJECT
 
 public:
     TForm4(Allapot& allapot, FoAblak& ablak, QWidget* fo);
-
-private:
-    Allapot& allapot_;
-    FoAblak& ablak_;
 };

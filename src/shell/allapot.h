@@ -154,6 +154,7 @@ struct Allapot {
     TPillanat SzuletesiPillanat;  ///< the birth moment that returns and personars rebuild
     TPillanat InduloDatum;        ///< date of the program's start
     TPillanat RevDatum;
+    TPillanat TercierDatum;  ///< event date of the directions, as last confirmed
 
     bool MostFut = true;        ///< the computer's clock sets the moment
     int KepletTipus = 1;        ///< 1 Radix, 2 Mundán, 3 Dekád

@@ -33,6 +33,7 @@ void jelenPillanat(Allapot& allapot, const TPillanat& most) {
     allapot.SzuletesiPillanat = most;
     allapot.InduloDatum = most;
     allapot.RevDatum = most;
+    allapot.TercierDatum = most;
 }
 
 void elsoKeplet(Allapot& allapot, FoAblak& ablak) {

@@ -5,9 +5,13 @@
 #include "tables/szamtan.h"
 #include "tables/szoveg.h"
 
+std::string datumSzoveg(const TPillanat& p) {
+    return std::to_string(p.ev).append(".").append(ketJegy(p.ho)).append(".").append(ketJegy(p.nap)).append(".");
+}
+
 std::string idopontSzoveg(const TPillanat& p) {
-    return std::to_string(p.ev) + "." + ketJegy(p.ho) + "." + ketJegy(p.nap) + ". " + ketJegy(p.ora) + ":" +
-           ketJegy(p.perc) + ":" + ketJegy(p.mperc);
+    return datumSzoveg(p).append(" ").append(ketJegy(p.ora)).append(":").append(ketJegy(p.perc)).append(":").append(
+        ketJegy(p.mperc));
 }
 
 namespace {

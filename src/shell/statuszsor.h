@@ -15,7 +15,10 @@ enum StatuszPanel {
     panelKoordinata = 5
 };
 
-/// Date and time as in "2024.03.05. 08:15:00"; the year has no padding.
+/// Date as in "2024.03.05."; the year has no padding.
+std::string datumSzoveg(const TPillanat& pillanat);
+
+/// Date and time as in "2024.03.05. 08:15:00".
 std::string idopontSzoveg(const TPillanat& pillanat);
 
 /// Longitude, then latitude, as in "19°4'K  47°30'É"; a coordinate of 0 has no letter.

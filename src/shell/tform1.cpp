@@ -24,6 +24,8 @@
 #include "shell/kvhfajl.h"
 #include "shell/nezet.h"
 #include "shell/orajel.h"
+#include "shell/rendszerido.h"
+#include "shell/statuszsor.h"
 #include "tables/szotar.h"
 
 namespace {
@@ -66,28 +68,28 @@ constexpr TMenuSor menuSorok[]{
     {1, "Dekád", "Dekad1", &TForm1::Dekad1Click},
     {0, "Progressziók", nullptr, nullptr},
     {1, "Revolúció", nullptr, nullptr},
-    {2, "Szolár", "Szolar1", nullptr},
-    {2, "Lunár", "Lunar1", nullptr},
-    {2, "Merkúr Rev", "MerkurRev1", nullptr},
-    {2, "Vénusz Rev", "VenuszRev1", nullptr},
-    {2, "Mars Rev", "MarsRev1", nullptr},
-    {2, "Jupiter Rev", "JupiterRev1", nullptr},
-    {2, "Szaturnusz Rev", "SzaturnuszRev1", nullptr},
+    {2, "Szolár", "Szolar1", &TForm1::Szolar1Click},
+    {2, "Lunár", "Lunar1", &TForm1::Lunar1Click},
+    {2, "Merkúr Rev", "MerkurRev1", &TForm1::MerkurRev1Click},
+    {2, "Vénusz Rev", "VenuszRev1", &TForm1::VenuszRev1Click},
+    {2, "Mars Rev", "MarsRev1", &TForm1::MarsRev1Click},
+    {2, "Jupiter Rev", "JupiterRev1", &TForm1::JupiterRev1Click},
+    {2, "Szaturnusz Rev", "SzaturnuszRev1", &TForm1::SzaturnuszRev1Click},
     {1, "Personar", nullptr, nullptr},
-    {2, "Asc Pers", "AscPers1", nullptr},
-    {2, "Mc Pers", "McPers1", nullptr},
-    {2, "Hold Pers", "HoldPers1", nullptr},
-    {2, "Merkúr Pers", "MerkurPers1", nullptr},
-    {2, "Vénusz Pers", "VenuszPers1", nullptr},
-    {2, "Mars Pers", "MarsPers1", nullptr},
-    {2, "Jupiter Pers", "JupiterPers1", nullptr},
-    {2, "Szaturnusz Pers", "SzaturnuszPers1", nullptr},
-    {2, "Uranusz Pers", "UranuszPers1", nullptr},
-    {2, "Neptun Pers", "NeptunPers1", nullptr},
-    {2, "Plutó Pers", "PlutoPers1", nullptr},
-    {1, "Primer direkció", "Primer1", nullptr},
-    {1, "Tercier direkció", "Tercier1", nullptr},
-    {1, "Szolár ingresszió", "Szolaringresszio11", nullptr},
+    {2, "Asc Pers", "AscPers1", &TForm1::AscPers1Click},
+    {2, "Mc Pers", "McPers1", &TForm1::McPers1Click},
+    {2, "Hold Pers", "HoldPers1", &TForm1::HoldPers1Click},
+    {2, "Merkúr Pers", "MerkurPers1", &TForm1::MerkurPers1Click},
+    {2, "Vénusz Pers", "VenuszPers1", &TForm1::VenuszPers1Click},
+    {2, "Mars Pers", "MarsPers1", &TForm1::MarsPers1Click},
+    {2, "Jupiter Pers", "JupiterPers1", &TForm1::JupiterPers1Click},
+    {2, "Szaturnusz Pers", "SzaturnuszPers1", &TForm1::SzaturnuszPers1Click},
+    {2, "Uranusz Pers", "UranuszPers1", &TForm1::UranuszPers1Click},
+    {2, "Neptun Pers", "NeptunPers1", &TForm1::NeptunPers1Click},
+    {2, "Plutó Pers", "PlutoPers1", &TForm1::PlutoPers1Click},
+    {1, "Primer direkció", "Primer1", &TForm1::Primer1Click},
+    {1, "Tercier direkció", "Tercier1", &TForm1::Tercier1Click},
+    {1, "Szolár ingresszió", "Szolaringresszio11", &TForm1::Szolaringresszio11Click},
     {0, "Beállítások", nullptr, nullptr},
     {1, "Léptet", "Radixlepteto1", &TForm1::Radixlepteto1Click},
     {1, "Orbisok", "Orbisok1", &TForm1::Orbisok1Click},
@@ -183,7 +185,7 @@ void TForm1::panelEpites() {
     gombEpites(2, "PanelButton4Leptet", "Léptet", &TForm1::Radixlepteto1Click);
     gombEpites(3, "PanelButton5Orbis", "Orbis", &TForm1::Orbisok1Click);
     gombEpites(4, "PanelButton6MHP", "MHP", nullptr);
-    gombEpites(5, "PanelButton7Tercier", "Tercier", nullptr);
+    gombEpites(5, "PanelButton7Tercier", "Tercier", &TForm1::Tercier1Click);
     mostGomb_ = panel1_->findChild<QPushButton*>("PanelButton2_Most");
     valtGomb_ = panel1_->findChild<QPushButton*>("PanelButton3_Valt");
     for (int sor = 0; sor < 16; ++sor) panelSorEpites(sor);
@@ -315,7 +317,9 @@ std::string TForm1::RendszerIdo() {
 
 void TForm1::MundanFrissit() {}
 void TForm1::PontositasFuttat() {}
-void TForm1::PrimerFuttat() {}
+void TForm1::PrimerFuttat() {
+    ablakok_->form12.futtat();
+}
 
 void TForm1::Timer1Timer() {
     Orajel(allapot_, *this);
@@ -405,6 +409,54 @@ void TForm1::Orbisok1Click() {
     Ervenytelenit();
     allapot_.TeljesTorles = false;
     RajzolKeplet();
+}
+
+void TForm1::visszateres(const TVisszateresFajta& fajta) {
+    TForm14& form14 = ablakok_->form14;
+    form14.kitoltes(fajta, VisszateresKezdo(allapot_));
+    VisszateresKereses(allapot_, fajta, VisszateresCel(allapot_, fajta));
+    form14.megmutat(VisszateresSorok(allapot_, fajta));
+    if (!allapot_.Megsem14) VisszateresKeplet(allapot_, *this, fajta, form14.sor(), form14.helyseg());
+}
+
+void TForm1::Revolucio(int fajta) {
+    visszateres(RevolucioFajta(fajta));
+}
+void TForm1::Personar(int fajta) {
+    visszateres(PersonarFajta(fajta));
+}
+
+void TForm1::Primer1Click() {
+    TPillanat ma;
+    OlvasDatum(RendszerDatum(), ma);
+    ablakok_->form12.megmutat(ma.ev - 1);
+}
+
+void TForm1::datumosDirekcio(bool tercier) {
+    allapot_.TercierAblak = tercier;
+    Ujrafest();
+    RajzolKeplet();
+    TForm3& form3 = ablakok_->form3;
+    form3.megmutat();
+    if (allapot_.Megsem3) return;
+
+    const std::string datum = datumSzoveg(allapot_.TercierDatum).append(" ");
+    const std::string& talalat = form3.eredmeny();
+    felulet_->rajzol([&](QtVaszon& vaszon) {
+        constexpr int magassag = 24;
+        vaszon.Betu(szovegFont, magassag);
+        vaszon.TextOut(55, 7, datum);
+        if (!talalat.empty()) vaszon.Betu(allapot_.Rajz.szimbolumFont, magassag);
+        vaszon.TextOut(175, 7, talalat.empty() ? form3.verdikt().uresKep : talalat);
+    });
+    felulet_->megmutat();
+}
+
+void TForm1::Tercier1Click() {
+    datumosDirekcio(true);
+}
+void TForm1::Szolaringresszio11Click() {
+    datumosDirekcio(false);
 }
 
 void TForm1::Szimbolumok1Click() {

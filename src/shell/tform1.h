@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QTimer>
 
+#include "predictive/visszateresek.h"
 #include "shell/allapot.h"
 #include "shell/foablak.h"
 #include "shell/kepletfelulet.h"
@@ -55,6 +56,27 @@ public slots:
     void Horizont1Click();
     void Mundan1Click();
     void Dekad1Click();
+    void Szolar1Click() { Revolucio(1); }
+    void Lunar1Click() { Revolucio(2); }
+    void MerkurRev1Click() { Revolucio(3); }
+    void VenuszRev1Click() { Revolucio(4); }
+    void MarsRev1Click() { Revolucio(5); }
+    void JupiterRev1Click() { Revolucio(6); }
+    void SzaturnuszRev1Click() { Revolucio(7); }
+    void AscPers1Click() { Personar(1); }
+    void McPers1Click() { Personar(2); }
+    void HoldPers1Click() { Personar(3); }
+    void MerkurPers1Click() { Personar(4); }
+    void VenuszPers1Click() { Personar(5); }
+    void MarsPers1Click() { Personar(6); }
+    void JupiterPers1Click() { Personar(7); }
+    void SzaturnuszPers1Click() { Personar(8); }
+    void UranuszPers1Click() { Personar(9); }
+    void NeptunPers1Click() { Personar(10); }
+    void PlutoPers1Click() { Personar(11); }
+    void Primer1Click();
+    void Tercier1Click();
+    void Szolaringresszio11Click();
     void Radixlepteto1Click();
     void Orbisok1Click();
     void Szimbolumok1Click();
@@ -76,6 +98,10 @@ private:
     void panelSorEpites(int sor);
     void gombEpites(int hely, const char* nev, const QString& felirat, void (TForm1::*kezelo)());
     void oldalPanelMutatas();
+    void Revolucio(int fajta);
+    void Personar(int fajta);
+    void visszateres(const TVisszateresFajta& fajta);
+    void datumosDirekcio(bool tercier);
     bool JelszoKeres();
     void closeEvent(QCloseEvent* esemeny) override;
     void nyomtatas();

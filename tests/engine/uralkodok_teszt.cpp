@@ -328,6 +328,22 @@ TEST(Dekad, AHarminchatDekad) {
     EXPECT_EQ(DekadHazSzamitas(360), 1);  // where a retrograde body may stand
 }
 
+TEST(UralkodoSzamitas, AzElozoKepSzovegeiNemMaradnak) {
+    TRend regi;
+    regi.b.tolt(jegyben(1));
+    regi.szamit();
+    regi.b.tolt(jegyben(6));
+    regi.szamit();
+    TRend friss;
+    friss.b.tolt(jegyben(6));
+    friss.szamit();
+    EXPECT_EQ(regi.u.UralkodoSzoveg, friss.u.UralkodoSzoveg);
+    EXPECT_EQ(regi.u.MundanUralkodoSzoveg, friss.u.MundanUralkodoSzoveg);
+    // The middle of a sign is its second decan: Aries leads to the fifth house, Virgo to the tenth.
+    EXPECT_EQ(regi.u.DekadSzoveg[10], "ABCDEFGHIJ");
+    EXPECT_EQ(regi.u.DekadSzoveg[5], "");
+}
+
 TEST(Dekad, ASzovegekBolygosorrendben) {
     TRend r;
     r.b.tolt(5);

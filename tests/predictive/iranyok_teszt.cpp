@@ -1,0 +1,310 @@
+// Tertiary and primary directions, solar ingress.
+
+#include <cmath>
+#include <set>
+
+#include <gtest/gtest.h>
+
+#include "display/oldalpanel.h"
+#include "predictive/ingresszio.h"
+#include "predictive/primer.h"
+#include "predictive/tercier.h"
+#include "shell/kepletciklus.h"
+#include "tables/efemerida.h"
+#include "tables/haztablak.h"
+
+namespace {
+
+constexpr TPillanat szuletesnap{1975, 7, 21, 6, 4, 9};
+
+Allapot szuletes(const TPillanat& p = szuletesnap) {
+    Allapot a;
+    a.Keplet.pillanat(p);
+    a.Keplet.helyseg = "Szeged";
+    DatumRendezes(a.Keplet);
+    IdoAdatok(a);
+    KepletCiklus(a);
+    FenyszogPontSzamitas(a);
+    return a;
+}
+
+TPillanat napokkal(TPillanat p, int napok) {
+    JulianszambolDatum(DatumbolJulianszam(p.ev, p.ho, p.nap) + napok, p.ev, p.ho, p.nap);
+    return p;
+}
+
+TEST(Tercier, AKulcsEvenkentOtFoknyi) {
+    EXPECT_NEAR(static_cast<double>(TercierKulcs), 5.07285 / 365.25, 1e-12);
+    EXPECT_NEAR(static_cast<double>(TercierKulcs * 45), 0.625, 1e-3);
+    EXPECT_NEAR(static_cast<double>(TercierKulcs * 99), 1.375, 1e-3);
+}
+
+/// All hits by the plain definition: the directed body within the orb of another's place or opposite.
+std::string vartTercier(const TBolygok& lon, int napok, double orbisNap) {
+    const double orb = 0.013888706365503 * orbisNap;
+    const double iv = 0.013888706365503 * napok;
+    std::string szoveg;
+    for (int j = 1; j <= 10; ++j) {
+        std::string resz;
+        const auto jel = [&](int i) {
+            return std::string{static_cast<char>('a' + static_cast<int>(lon[i] / 30)),
+                               static_cast<char>('A' + i - 1)};
+        };
+        for (int i = 1; i <= 10; ++i) {
+            if (i == j) continue;
+            const double d = std::abs(std::remainder(lon[j] - iv - lon[i], 360.0));
+            if (d <= orb) resz += "M" + jel(i);
+            if (180 - d <= orb) resz += "W" + jel(i);
+        }
+        if (!resz.empty()) szoveg += (szoveg.empty() ? "" : "Q") + jel(j) + resz;
+    }
+    return szoveg;
+}
+
+TEST(Tercier, ATalalatokADefinicioSzerint) {
+    int talalt = 0;
+    for (int nap = 0; nap < 12000; nap += 37) {
+        Allapot a = szuletes();
+        const double orbis = 1 + nap % 99;
+        const TTercier t = TercierKeres(a, szuletesnap, napokkal(szuletesnap, nap), "Szeged", orbis);
+        EXPECT_EQ(t.TercierSzoveg, vartTercier(a.Keplet.Bolygok, nap, orbis)) << nap;
+        talalt += !t.TercierSzoveg.empty();
+        EXPECT_EQ(t.TercierSzoveg.empty(), t.TercierHazSzoveg.empty());
+    }
+    EXPECT_GT(talalt, 100);
+}
+
+TEST(Tercier, ASzuletesNapjanCsakARadixEgyuttallasai) {
+    Allapot a = szuletes();
+    const TTercier t = TercierKeres(a, szuletesnap, szuletesnap, "Szeged", 99);
+    EXPECT_EQ(t.TercierSzoveg, vartTercier(a.Keplet.Bolygok, 0, 99));
+}
+
+TEST(Tercier, ASzuletesElottiEsemenyIranyaElore) {
+    Allapot a = szuletes();
+    const TTercier t = TercierKeres(a, szuletesnap, napokkal(szuletesnap, -2000), "Szeged", 99);
+    // A sum above 360 is not reduced and hits nothing; the others follow the definition.
+    const std::string vart = vartTercier(a.Keplet.Bolygok, -2000, 99);
+    EXPECT_LE(t.TercierSzoveg.size(), vart.size());
+}
+
+TEST(Tercier, AVerdiktekSzovegei) {
+    EXPECT_STREQ(tercierVerdikt.van, "Van direkció!");
+    EXPECT_STREQ(tercierVerdikt.nincs, "Nincs direkció!");
+    EXPECT_STREQ(tercierVerdikt.uresKep, "Nincs tercier direkció!");
+    EXPECT_STREQ(ingresszioVerdikt.van, "Van inresszió!");
+    EXPECT_STREQ(ingresszioVerdikt.nincs, "Nincs ingresszió!");
+    EXPECT_STREQ(ingresszioVerdikt.uresKep, "Nincs szolár-ingresszió!");
+}
+
+std::string ingresszio(int napok) {
+    Allapot a = szuletes();
+    return IngresszioKeres(a, szuletesnap, napokkal(szuletesnap, napok), "Szeged");
+}
+
+TEST(Ingresszio, ASolarNapjanMindenBolygoOnmagaval) {
+    // The birth day is its own solar return: angle 0, the upper bound 0.493.
+    const std::string szoveg = ingresszio(0);
+    for (char b = 'A'; b <= 'J'; ++b)
+        EXPECT_NE(szoveg.find(std::string{' ', b, 'M', b}), std::string::npos) << b;
+    EXPECT_EQ(ingresszio(1).find(" AMA"), std::string::npos);  // an angle of 0.986
+}
+
+TEST(Ingresszio, AFelevEsAzEvVegeVisszahajlik) {
+    EXPECT_EQ(ingresszio(183).find(" AMA"), std::string::npos);
+    // The last day before the next return: 364 x 360 / 365 is 359.01, folded to 0.99; 365 days are exactly
+    // 360 and 0.
+    EXPECT_EQ(ingresszio(364).find(" AMA"), std::string::npos);
+    EXPECT_NE(ingresszio(365).find(" AMA"), std::string::npos);
+}
+
+TEST(Ingresszio, AParokTavolsagaANapokSzoge) {
+    for (const int nap : {30, 90, 150, 200, 300}) {
+        Allapot a = szuletes();
+        const std::string szoveg = IngresszioKeres(a, szuletesnap, napokkal(szuletesnap, nap), "Szeged");
+        double szog = nap * 360 / 365.0;
+        if (szog > 180) szog = 360 - szog;
+        int parok = 0;
+        for (int i = 1; i <= 10; ++i)
+            for (int j = i; j <= 10; ++j) parok += std::abs(a.Munka.Elteresek[i][j] - szog) < 180 / 365.0;
+        EXPECT_EQ(szoveg.size(), static_cast<std::size_t>(4 * parok)) << nap;
+    }
+}
+
+TEST(Primer, ATizpercesTablakOlvasasa) {
+    EXPECT_DOUBLE_EQ(EklToRekt(0), 0);
+    EXPECT_DOUBLE_EQ(EklToRekt(10), 9);
+    EXPECT_DOUBLE_EQ(EklToRekt(5), 4.5);
+    EXPECT_DOUBLE_EQ(EklToRekt(1020), 910);
+    EXPECT_DOUBLE_EQ(RektToEkl(10), 11);
+    EXPECT_DOUBLE_EQ(RektToEkl(15), 16.5);
+    EXPECT_NEAR(EklToRekt(21599.9), 21599.9, 0.02);
+}
+
+TEST(Primer, AFerdeSorKetSzelessegKozott) {
+    const TFerdeTabla t = FerdeSor(42 * 3600 + 1800);
+    EXPECT_DOUBLE_EQ(t[1], (33 + FerdeAszcenzioTabla[1][1]) / 2.0);
+    EXPECT_DOUBLE_EQ(FerdeSor(42 * 3600)[3], 101);
+    EXPECT_DOUBLE_EQ(FerdeSor(60 * 3600)[3], 41);
+    // Outside the band the weight runs beyond 0..1.
+    const double novekedes = FerdeAszcenzioTabla[1][90] - FerdeAszcenzioTabla[0][90];
+    EXPECT_DOUBLE_EQ(FerdeSor(40 * 3600)[90], FerdeAszcenzioTabla[0][90] - 2 * novekedes);
+    EXPECT_DOUBLE_EQ(t[360], 21600);
+}
+
+TEST(Primer, AFerdeAszcenzioVissza) {
+    const TFerdeTabla t = FerdeSor(42 * 3600);
+    EXPECT_DOUBLE_EQ(FerdeToEkl(t, 33, 360), 60);
+    EXPECT_DOUBLE_EQ(FerdeToEkl(t, 50, 360), 60 + 60 * 17 / 34.0);
+    EXPECT_DOUBLE_EQ(FerdeToEkl(t, 0, 360), 0);
+    EXPECT_DOUBLE_EQ(FerdeToEkl(t, 21600, 360), 21600);
+}
+
+TEST(Primer, A359OszlopFolottAFelsoErtekNulla) {
+    const TFerdeTabla t = FerdeSor(42 * 3600);
+    const double cel = t[359] + 10;
+    EXPECT_DOUBLE_EQ(FerdeToEkl(t, cel, 359), 60 * 359 + 60 * 10 / (0 - t[359]));
+    EXPECT_LT(FerdeToEkl(t, cel, 359), 60 * 359);
+    EXPECT_GT(FerdeToEkl(t, cel, 360), 60 * 359);
+}
+
+TEST(Primer, APontTalalatHatarai) {
+    EXPECT_TRUE(PontTalalat(10, {10, 12}));
+    EXPECT_TRUE(PontTalalat(12, {10, 12}));
+    EXPECT_FALSE(PontTalalat(9.99, {10, 12}));
+    const THatar atlepo = iranyAblak(0.5, 1);
+    EXPECT_DOUBLE_EQ(atlepo.also, 359.5);
+    EXPECT_DOUBLE_EQ(atlepo.felso, 1.5);
+    EXPECT_TRUE(PontTalalat(0, atlepo));
+    EXPECT_TRUE(PontTalalat(359.9, atlepo));
+    EXPECT_FALSE(PontTalalat(359.5, atlepo));  // exactly on the lower end of a spanning window
+    EXPECT_FALSE(PontTalalat(1.5, atlepo));
+    EXPECT_FALSE(PontTalalat(180, atlepo));
+    EXPECT_DOUBLE_EQ(iranyAblak(359.5, 1).felso, 0.5);
+}
+
+/// All aspect points far away, one body's point on a longitude.
+Allapot egyPont(double hely, int bolygo = 3, int pont = 8) {
+    Allapot a = szuletes();
+    for (auto& sor : a.Rajz.FenyszogPontok) sor.tolt(-100);
+    a.Rajz.FenyszogPontok[bolygo][pont] = hely;
+    return a;
+}
+
+constexpr TPillanat kezdo{2000, 1, 1, 0, 0, 0};
+const int kezdoNap = 2415019 + 36525;
+
+/// Directed points on the day of the start date and so many days after it.
+std::array<double, 4> pontok(const Allapot& a, int napok) {
+    const int d = kezdoNap - a.Keplet.julianszam + napok;
+    return IranyitottPontok(EklToRekt(a.Keplet.hazCsucs[10] * 60), d * 9.715060995018346 / 60,
+                            FerdeSor(a.Keplet.szelesseg), 359);
+}
+
+TEST(Primer, AzIrany_ADirektIvvelElore) {
+    const Allapot a = szuletes();
+    const double mc = EklToRekt(a.Keplet.hazCsucs[10] * 60);
+    const double iv = (kezdoNap - a.Keplet.julianszam) * PrimerKulcs / 60;
+    const auto p = pontok(a, 0);
+    EXPECT_NEAR(EklToRekt(p[dMC] * 60), rektKorbe(mc + iv), 2);
+    EXPECT_NEAR(EklToRekt(p[cMC] * 60), rektKorbe(mc - iv), 2);
+    // 59.14 arcminutes a year: 24.4 years.
+    EXPECT_NEAR(iv, 24.45 * 59.1404, 3);
+    EXPECT_DOUBLE_EQ(PrimerKulcs, 9.715060995018346);
+    EXPECT_NEAR(PrimerKulcs / 7200 + 0.001, 0.00234931, 1e-8);
+}
+
+TEST(Primer, AzArcNelkuliPontokARadixTengelyei) {
+    const Allapot a = szuletes();
+    const auto p =
+        IranyitottPontok(EklToRekt(a.Keplet.hazCsucs[10] * 60), 0, FerdeSor(a.Keplet.szelesseg), 359);
+    EXPECT_NEAR(p[dMC], a.Keplet.hazCsucs[10], 0.05);
+    EXPECT_NEAR(p[cMC], a.Keplet.hazCsucs[10], 0.05);
+    // Two tables of different obliquity: the Ascendant agrees to a few minutes.
+    EXPECT_NEAR(p[dAsc], a.Keplet.hazCsucs[1], 0.15);
+    EXPECT_NEAR(p[cAsc], a.Keplet.hazCsucs[1], 0.15);
+}
+
+TEST(Primer, ANegyOszlopBehuzasaEsASorAlakja) {
+    const std::size_t behuzas[]{5, 20, 32, 46};
+    for (std::size_t oszlop = 0; oszlop < 4; ++oszlop) {
+        const Allapot a = egyPont(pontok(szuletes(), 100)[oszlop]);
+        const auto sorok = PrimerFutas(a, kezdo);
+        ASSERT_GE(sorok.size(), 1U) << oszlop;
+        // 2000-04-10 is day 100; the window of half a day's arc and a thousandth may begin a day earlier.
+        const std::string& sor = sorok[0];
+        EXPECT_TRUE(sor.starts_with("2000.04.10.   ") || sor.starts_with("2000.04.09.   ")) << sor;
+        EXPECT_TRUE(sor.ends_with(std::string(behuzas[oszlop], ' ') + "CR")) << sor;
+        const std::string haz = sor.substr(14, sor.size() - 14 - behuzas[oszlop] - 2);
+        EXPECT_TRUE(haz == "w" || haz == "wv" || haz == "vww" || haz == "x" ||
+                    (std::stoi(haz) >= 2 && std::stoi(haz) <= 12))
+            << haz;
+    }
+}
+
+TEST(Primer, KetNaponAtBenneMaradoPontEgySor) {
+    // Half-way between two days' places both windows hold the point.
+    const Allapot minta = szuletes();
+    const double hely = (pontok(minta, 100)[dMC] + pontok(minta, 101)[dMC]) / 2;
+    EXPECT_EQ(PrimerFutas(egyPont(hely), kezdo).size(), 1U);
+}
+
+TEST(Primer, KetBolygoEgyAblakbanEgySor) {
+    Allapot a = egyPont(pontok(szuletes(), 100)[dMC], 3, 8);
+    a.Rajz.FenyszogPontok[2][1] = a.Rajz.FenyszogPontok[3][8];
+    const auto sorok = PrimerFutas(a, kezdo);
+    ASSERT_EQ(sorok.size(), 1U);
+    EXPECT_TRUE(sorok[0].ends_with("     BMCR"));
+}
+
+TEST(Primer, AVisszateroSzovegUjraSor) {
+    const Allapot minta = szuletes();
+    Allapot a = egyPont(pontok(minta, 100)[dMC], 3, 8);
+    a.Rajz.FenyszogPontok[4][8] = pontok(minta, 200)[dMC];
+    a.Rajz.FenyszogPontok[3][9] = -100;
+    a.Rajz.FenyszogPontok[3][10] = -100;
+    // The first text comes again: another of Mercury's points with the same letter further on.
+    a.Rajz.FenyszogPontok[3][9] = pontok(minta, 300)[dMC];  // 'R' too
+    const auto sorok = PrimerFutas(a, kezdo);
+    ASSERT_EQ(sorok.size(), 3U);
+    EXPECT_TRUE(sorok[0].ends_with("CR"));
+    EXPECT_TRUE(sorok[1].ends_with("DR"));
+    EXPECT_TRUE(sorok[2].ends_with("CR"));
+}
+
+TEST(Primer, HuszonkettedikSorUtanNincsTobb) {
+    Allapot a = szuletes();
+    const Allapot minta = a;
+    for (auto& sor : a.Rajz.FenyszogPontok) sor.tolt(-100);
+    int n = 0;
+    for (int i = 1; i <= 10; ++i)
+        for (const int j : {1, 2, 4}) a.Rajz.FenyszogPontok[i][j] = pontok(minta, 50 * ++n)[dMC];
+    EXPECT_EQ(PrimerFutas(a, kezdo).size(), 22U);
+}
+
+TEST(Primer, A3661NapUtanNincsKereses) {
+    const Allapot minta = szuletes();
+    EXPECT_EQ(PrimerFutas(egyPont(pontok(minta, 3660)[dMC]), kezdo).size(), 1U);
+    EXPECT_EQ(PrimerFutas(egyPont(pontok(minta, 3663)[dMC]), kezdo).size(), 0U);
+}
+
+TEST(Primer, ASzuletesElottiKezdetNegativIv) {
+    const Allapot a = szuletes();
+    EXPECT_LE(PrimerFutas(a, {1950, 1, 1, 0, 0, 0}).size(), 22U);
+    EXPECT_GE(PrimerFutas(a, {1950, 1, 1, 0, 0, 0}).size(), 5U);
+}
+
+TEST(SolarHaz, ASolarKepletHazai) {
+    const Allapot a = szuletes();
+    std::set<int> hazak;
+    for (int ev = 1976; ev < 2030; ++ev) {
+        std::int32_t e = ev, ho = 12, nap = 1;
+        const int haz =
+            SolarHaz(a.Keplet.bolygo, DatumbolJulianszam(e, ho, nap), a.Keplet.hosszusag, a.Keplet.szelesseg);
+        EXPECT_TRUE(haz >= 1 && haz <= 12);
+        hazak.insert(haz);
+    }
+    EXPECT_GT(hazak.size(), 8U);  // a quarter of a day a year: the Sun goes round the houses
+}
+
+}  // namespace

@@ -192,6 +192,7 @@ void TForm1::panelEpites() {
 
     memo1_ = new QPlainTextEdit(panel1_);
     memo1_->setObjectName("Memo1");
+    memo1_->setFocusPolicy(Qt::ClickFocus);
     QPalette szinek = memo1_->palette();
     szinek.setColor(QPalette::Base, szinek.color(QPalette::Button));
     memo1_->setPalette(szinek);

@@ -11,19 +11,22 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "efemeridafajl.h"
 
 namespace {
 
 constexpr int tablaSorok = 65536;
+constexpr int telepulesekSzama = 3138;
 
 class TMozgasSzamitas {
 public:
-    TMozgasSzamitas(const std::vector<TEfemeridaAdat>& sorok, std::size_t bolygo) : sorok_(sorok), bolygo_(bolygo) {}
+    TMozgasSzamitas(const std::vector<TEfemeridaAdat>& sorok, std::size_t bolygo)
+        : sorok_(sorok), bolygo_(bolygo) {}
 
-    /// 'D' or 'R' by the sign of the step to the next row. A zero step keeps the letter of the phase that it lies
-    /// in, and is 'S' between two phases.
+    /// 'D' or 'R' by the sign of the step to the next row. A zero step keeps the letter of the phase that it
+    /// lies in, and is 'S' between two phases.
     char betu(std::size_t i) const {
         if (const int d = lepes(i); d != 0) return d > 0 ? 'D' : 'R';
         std::size_t elozo = i;
@@ -77,9 +80,14 @@ void telepulesKibontas(const std::string& fajl, std::ostream& ki) {
     std::string szelesseg;
     std::string hosszusag;
     if (!std::getline(be, nev)) throw std::runtime_error("nem olvasható: " + fajl);
-    while (std::getline(be, nev, '\t') && std::getline(be, szelesseg, '\t') && std::getline(be, hosszusag))
+    int sorok = 0;
+    while (std::getline(be, nev, '\t') && std::getline(be, szelesseg, '\t') && std::getline(be, hosszusag)) {
         ki << "{\"" << nev << "\", 1, " << std::stoi(szelesseg) << ", " << std::stoi(hosszusag)
            << ", 'N', 'E'},\n";
+        ++sorok;
+    }
+    // Too few rows would leave empty settlements at the table's end.
+    if (sorok != telepulesekSzama) throw std::runtime_error("a települések száma nem jó: " + fajl);
 }
 
 int futas(int argc, char** argv) {

@@ -1,13 +1,23 @@
-// Makes the ephemeris: apparent geocentric longitudes of the equinox of date at 0h UT and apparent sidereal time,
-// from the series of libnova with the precession and nutation of the IAU 1976/1980 models.
+// Makes the ephemeris: apparent geocentric longitudes of the equinox of date at 0h UT and apparent sidereal
+// time, from the series of libnova with the precession and nutation of the IAU 1976/1980 models.
 //
 //   efemerida_keszito ELSO UTOLSO FAJL   writes rows ELSO..UTOLSO as 11 little-endian int32 each:
 //                                        sidereal seconds, then ten longitudes in arcseconds
 //   efemerida_keszito --ellenoriz FAJL   compares a sample of rows with the finished data file
+//   efemerida_keszito --nyers SOR        prints a row before rounding: Delta T, ten longitudes in arcseconds,
+//                                        sidereal seconds
 //
 // libnova keeps its last results in static variables: run parts in parallel as processes, not as threads.
 
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
 #include <erfa.h>
+#include <fstream>
+#include <iostream>
 #include <libnova/earth.h>
 #include <libnova/jupiter.h>
 #include <libnova/lunar.h>
@@ -18,13 +28,6 @@
 #include <libnova/saturn.h>
 #include <libnova/uranus.h>
 #include <libnova/venus.h>
-
-#include <array>
-#include <cmath>
-#include <cstdint>
-#include <cstdlib>
-#include <fstream>
-#include <iostream>
 #include <numbers>
 #include <string>
 #include <string_view>
@@ -40,13 +43,14 @@ constexpr double j2000 = 2451545;
 
 /// Delta T in seconds on 1 January of 1900, 1901, ... 2024.
 constexpr std::array deltaTErtekek{
-    -2.72, -1.54, -0.02, 1.24,  2.64,  3.86,  5.37,  6.14,  7.75,  9.13,  10.46, 11.53, 13.36, 14.65, 16.01, 17.20,
-    18.24, 19.06, 20.25, 20.95, 21.16, 22.25, 22.41, 23.03, 23.49, 23.62, 23.86, 24.49, 24.34, 24.08, 24.02, 24.00,
-    23.87, 23.95, 23.86, 23.93, 23.73, 23.92, 23.96, 24.02, 24.33, 24.83, 25.30, 25.70, 26.24, 26.77, 27.28, 27.78,
-    28.25, 28.71, 29.15, 29.57, 29.97, 30.36, 30.72, 31.07, 31.35, 31.68, 32.18, 32.68, 33.15, 33.59, 34.00, 34.47,
-    35.03, 35.73, 36.54, 37.43, 38.29, 39.20, 40.18, 41.17, 42.23, 43.37, 44.49, 45.48, 46.46, 47.52, 48.54, 49.59,
-    50.54, 51.38, 52.17, 52.96, 53.79, 54.34, 54.87, 55.32, 55.82, 56.30, 56.86, 57.57, 58.31, 59.12, 59.99, 60.79,
-    61.63, 62.30, 62.97, 63.47, 63.83, 64.09, 64.30, 64.47, 64.57, 64.69, 64.85, 65.15, 65.46, 65.78, 66.07, 66.33,
+    -2.72, -1.54, -0.02, 1.24,  2.64,  3.86,  5.37,  6.14,  7.75,  9.13,  10.46, 11.53, 13.36, 14.65,
+    16.01, 17.20, 18.24, 19.06, 20.25, 20.95, 21.16, 22.25, 22.41, 23.03, 23.49, 23.62, 23.86, 24.49,
+    24.34, 24.08, 24.02, 24.00, 23.87, 23.95, 23.86, 23.93, 23.73, 23.92, 23.96, 24.02, 24.33, 24.83,
+    25.30, 25.70, 26.24, 26.77, 27.28, 27.78, 28.25, 28.71, 29.15, 29.57, 29.97, 30.36, 30.72, 31.07,
+    31.35, 31.68, 32.18, 32.68, 33.15, 33.59, 34.00, 34.47, 35.03, 35.73, 36.54, 37.43, 38.29, 39.20,
+    40.18, 41.17, 42.23, 43.37, 44.49, 45.48, 46.46, 47.52, 48.54, 49.59, 50.54, 51.38, 52.17, 52.96,
+    53.79, 54.34, 54.87, 55.32, 55.82, 56.30, 56.86, 57.57, 58.31, 59.12, 59.99, 60.79, 61.63, 62.30,
+    62.97, 63.47, 63.83, 64.09, 64.30, 64.47, 64.57, 64.69, 64.85, 65.15, 65.46, 65.78, 66.07, 66.33,
     66.60, 66.91, 67.28, 67.64, 68.10, 68.59, 68.97, 69.22, 69.36, 69.36, 69.29, 69.18, 69.18};
 static_assert(deltaTErtekek.size() == 125);
 
@@ -65,8 +69,12 @@ struct TVektor {
     double x, y, z;
 };
 
-TVektor kulonbseg(const TVektor& a, const TVektor& b) { return {a.x - b.x, a.y - b.y, a.z - b.z}; }
-double hossz(const TVektor& v) { return std::sqrt(v.x * v.x + v.y * v.y + v.z * v.z); }
+TVektor kulonbseg(const TVektor& a, const TVektor& b) {
+    return {a.x - b.x, a.y - b.y, a.z - b.z};
+}
+double hossz(const TVektor& v) {
+    return std::sqrt(v.x * v.x + v.y * v.y + v.z * v.z);
+}
 
 using TSorozat = void (*)(double, ln_helio_posn*);
 
@@ -85,7 +93,9 @@ struct TBolygo {
     std::array<double, 3> javitas{};  // arcseconds, polynomial in Julian centuries from J2000
 };
 
-constexpr double hatvany2(const std::array<double, 3>& c, double t) { return c[0] + c[1] * t + c[2] * t * t; }
+constexpr double hatvany2(const std::array<double, 3>& c, double t) {
+    return c[0] + c[1] * t + c[2] * t * t;
+}
 
 /// The corrections bring the older series to newer ephemerides.
 const std::array<TBolygo, 8> bolygok{{{ln_get_mercury_helio_coords, 0.006, {}},
@@ -109,12 +119,11 @@ public:
     }
 
     /// Arcseconds, not reduced.
-    double hosszusag(const TVektor& v) const {
+    double hosszusag(const TVektor& v) {
         static const double e0 = eraObl80(j2000, 0);
         double q[3] = {v.x, v.y * std::cos(e0) - v.z * std::sin(e0), v.y * std::sin(e0) + v.z * std::cos(e0)};
         double u[3];
-        auto p = p_;
-        eraRxp(p, q, u);
+        eraRxp(p_, q, u);
         const double l = std::atan2(u[1] * std::cos(ferdeseg_) + u[2] * std::sin(ferdeseg_), u[0]);
         return (l + dpsi_) / ivmasodperc;
     }
@@ -122,7 +131,7 @@ public:
 private:
     double dpsi_ = 0;
     double ferdeseg_ = 0;
-    mutable double p_[3][3] = {};
+    double p_[3][3] = {};  // J2000 equator to mean equator of date
 };
 
 TVektor holdVektor(double te) {
@@ -164,7 +173,7 @@ std::int32_t kerekit(double ertek, int egyseg, int kor) {
 }
 
 struct TNyersSor {
-    double csillagido;                  // seconds
+    double csillagido;                   // seconds
     std::array<double, 10> hosszusagok;  // arcseconds
 };
 
@@ -172,7 +181,7 @@ TNyersSor nyersSor(int sor) {
     const double jdUt = 2415019.5 + sor;
     const double te = jdUt + deltaT(jdUt) / 86400;
     const double t = (te - j2000) / 36525;
-    const TNapiEkliptika ekliptika(te);
+    TNapiEkliptika ekliptika(te);
     TNyersSor ki{};
     ki.csillagido = csillagidoMasodperc(jdUt);
     ki.hosszusagok[0] = ekliptika.hosszusag(napVektor(te));

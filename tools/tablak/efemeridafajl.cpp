@@ -18,7 +18,9 @@ T olvas(std::istream& be) {
     return static_cast<T>(szam);
 }
 
-constexpr int kor(std::size_t bolygo) { return korIvmasodperc / hosszEgyseg(bolygo); }
+constexpr int kor(std::size_t bolygo) {
+    return korIvmasodperc / hosszEgyseg(bolygo);
+}
 
 /// A difference on a circle, the short way round.
 constexpr int rovidUt(int kulonbseg, int kor) {
@@ -26,11 +28,15 @@ constexpr int rovidUt(int kulonbseg, int kor) {
     return kulonbseg < -kor / 2 ? kulonbseg + kor : kulonbseg;
 }
 
-constexpr int korbe(int ertek, int kor) { return (ertek % kor + kor) % kor; }
+constexpr int korbe(int ertek, int kor) {
+    return (ertek % kor + kor) % kor;
+}
 
 constexpr int rovidLepes = 236;  // seconds; the other step is one more
 
-void hiba(const std::string& mi) { throw std::runtime_error(mi); }
+void hiba(const std::string& mi) {
+    throw std::runtime_error(mi);
+}
 
 }  // namespace
 
@@ -103,5 +109,6 @@ std::vector<TEfemeridaAdat> efemeridaBeolvasas(const std::string& fajl) {
         }
     }
     if (!be) hiba("csonka: " + fajl);
+    if (be.peek() != std::ifstream::traits_type::eof()) hiba("túl hosszú: " + fajl);
     return sorok;
 }

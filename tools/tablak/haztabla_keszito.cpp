@@ -27,14 +27,17 @@ double irany(double y, double x) {
     return fok < 0 ? fok + 360 : fok;
 }
 
-int kerekit(double x) { return static_cast<int>(std::lround(x)); }
+int kerekit(double x) {
+    return static_cast<int>(std::lround(x));
+}
 
 using TOszlop = std::vector<int>;
 
 TOszlop mcTabla() {
     TOszlop sorok;
     for (int a = 0; a < 360; ++a)
-        sorok.push_back(kerekit(3600 * irany(std::sin(a * fokbol), std::cos(a * fokbol) * std::cos(hazFerdeseg))));
+        sorok.push_back(
+            kerekit(3600 * irany(std::sin(a * fokbol), std::cos(a * fokbol) * std::cos(hazFerdeseg))));
     sorok.push_back(1296000);
     return sorok;
 }
@@ -44,13 +47,16 @@ double ekliptikaFok(double rekt) {
 }
 
 /// A cusp that divides a semi-arc: its right ascension by iteration, degrees to longitude.
-/// @param kezdet  right ascension of the whole division; @param k  share of the arc; @param irany  +1 above the
-/// horizon counted from the meridian, -1 below it counted from its opposite
+/// @param kezdet     right ascension of the meridian that the arc is counted from, degrees
+/// @param k          share of the semi-arc, 1/3 or 2/3
+/// @param elojel     +1 eastward from the upper meridian (houses 11, 12), -1 back from the lower one (2, 3)
+/// @param szelesseg  geographic latitude, radians
 double felivCsucs(double kezdet, double k, int elojel, double szelesseg) {
     double r = kezdet + elojel * 90 * k;
     for (double elozo = r + 1; std::abs(r - elozo) >= 1e-12;) {
         elozo = r;
-        const double ad = std::asin(std::tan(szelesseg) * std::tan(hazFerdeseg) * std::sin(r * fokbol)) / fokbol;
+        const double ad =
+            std::asin(std::tan(szelesseg) * std::tan(hazFerdeseg) * std::sin(r * fokbol)) / fokbol;
         r = kezdet + elojel * k * (90 + elojel * ad);
     }
     return ekliptikaFok(r);
@@ -59,7 +65,8 @@ double felivCsucs(double kezdet, double k, int elojel, double szelesseg) {
 std::array<double, 5> hazSor(int ramc, int szelessegFok) {
     const double a = ramc * fokbol;
     const double f = szelessegFok * fokbol;
-    const double asc = irany(std::cos(a), -(std::sin(a) * std::cos(hazFerdeseg) + std::tan(f) * std::sin(hazFerdeseg)));
+    const double asc =
+        irany(std::cos(a), -(std::sin(a) * std::cos(hazFerdeseg) + std::tan(f) * std::sin(hazFerdeseg)));
     return {asc, felivCsucs(ramc + 180, 2.0 / 3, -1, f), felivCsucs(ramc + 180, 1.0 / 3, -1, f),
             felivCsucs(ramc, 1.0 / 3, 1, f), felivCsucs(ramc, 2.0 / 3, 1, f)};
 }
@@ -68,7 +75,8 @@ TOszlop hazTabla() {
     TOszlop cellak;
     for (int szelesseg = elsoSzelesseg; szelesseg <= utolsoSzelesseg; ++szelesseg)
         for (int ramc = 0; ramc <= 360; ++ramc)
-            for (const double csucs : hazSor(ramc % 360, szelesseg)) cellak.push_back(kerekit(60 * csucs) % 21600);
+            for (const double csucs : hazSor(ramc % 360, szelesseg))
+                cellak.push_back(kerekit(60 * csucs) % 21600);
     return cellak;
 }
 

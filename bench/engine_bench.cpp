@@ -5,20 +5,10 @@
 #include "engine/bolygohelyek.h"
 #include "engine/fenyszogek.h"
 #include "engine/hazak.h"
-#include "shell/kepletciklus.h"
+#include "minta.h"
 #include "shell/statuszsor.h"
 
 namespace {
-
-Allapot mintaKeplet() {
-    Allapot allapot;
-    allapot.Keplet.pillanat({1975, 3, 21, 6, 4, 9});
-    allapot.Keplet.helyseg = "Szeged";
-    DatumRendezes(allapot.Keplet);
-    IdoAdatok(allapot);
-    KepletCiklus(allapot);
-    return allapot;
-}
 
 void TeljesKeplet(benchmark::State& allas) {
     Allapot allapot = mintaKeplet();

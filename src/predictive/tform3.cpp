@@ -66,7 +66,7 @@ QSpinBox* TForm3::mezo(const char* nev, const char* felirat, int also, int felso
     auto* uj = new QSpinBox(this);
     uj->setObjectName(nev);
     uj->setRange(also, felso);
-    uj->setGeometry(x + 36, 40, 70, 26);
+    uj->setGeometry(x + 36, 40, 62, 26);
     return uj;
 }
 

@@ -167,6 +167,9 @@ struct Allapot {
     bool LeptetesVolt = false;     ///< a step waits for the next tick
     bool MundanFrissites = false;  ///< the mundane search asks for a recompute
     bool MundanAblakNyitva = false;
+    bool KeresesVolt = false;    ///< the mundane search has been started once in this run
+    int AktivHaz = 1;            ///< house 1..12 shown by the mundane rectification
+    TPillanat MhpKezdoPillanat;  ///< the chart's moment when the mundane rectification was opened
     bool PontositasFut = false;
     bool PrimerFut = false;
     bool HangAktiv = false;  ///< the sound window's title runs

@@ -21,14 +21,6 @@ int atvitel(std::int32_t& mezo, int mertek, int kor) {
     return 0;
 }
 
-int orakozben(TPillanat& p, LepesMezo mezo, int mertek) {
-    int lepes = mertek;
-    if (mezo == LepesMezo::mperc) lepes = atvitel(p.mperc, lepes, 60);
-    if (mezo >= LepesMezo::perc && lepes != 0) lepes = atvitel(p.perc, lepes, 60);
-    if (mezo >= LepesMezo::ora && lepes != 0) lepes = atvitel(p.ora, lepes, 24);
-    return lepes;
-}
-
 void honapLepes(TKeplet& k, int mertek) {
     k.ho = alsoBitek(std::int64_t{k.ho} + mertek);
     if (k.ho > 12) {
@@ -42,9 +34,12 @@ void honapLepes(TKeplet& k, int mertek) {
 
 }  // namespace
 
-void PillanatLeptetes(TPillanat& p, LepesMezo mezo, int mertek) {
-    const int nap = DatumbolJulianszam(p.ev, p.ho, p.nap) + orakozben(p, mezo, mertek);
-    JulianszambolDatum(nap, p.ev, p.ho, p.nap);
+int IdoLeptetes(TPillanat& p, LepesMezo mezo, int mertek) {
+    int lepes = mertek;
+    if (mezo == LepesMezo::mperc) lepes = atvitel(p.mperc, lepes, 60);
+    if (mezo >= LepesMezo::perc && lepes != 0) lepes = atvitel(p.perc, lepes, 60);
+    if (mezo >= LepesMezo::ora && lepes != 0) lepes = atvitel(p.ora, lepes, 24);
+    return lepes;
 }
 
 void Leptetes(Allapot& allapot, const TLepes& lepes) {
@@ -62,7 +57,7 @@ void Leptetes(Allapot& allapot, const TLepes& lepes) {
     } else {
         k.julianszam = DatumbolJulianszam(k.ev, k.ho, k.nap);
         TPillanat p = k.pillanat();
-        k.julianszam += orakozben(p, lepes.mezo, lepes.mertek);
+        k.julianszam += IdoLeptetes(p, lepes.mezo, lepes.mertek);
         k.pillanat(p);
     }
     JulianszambolDatum(k.julianszam, k.ev, k.ho, k.nap);

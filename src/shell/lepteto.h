@@ -37,6 +37,7 @@ inline constexpr std::array<TLepes, 16> lepesek{{{"Button1evp", "+", LepesMezo::
 /// The day number of the date stops at the table's ends; a date that does not exist counts on from its month.
 void Leptetes(Allapot& allapot, const TLepes& lepes);
 
-/// Moves a moment by seconds, minutes or hours with all carries, the day through the day number.
+/// Moves a clock time by seconds, minutes or hours with the carries between them; the date stays.
 /// @param mezo  day or smaller
-void PillanatLeptetes(TPillanat& pillanat, LepesMezo mezo, int mertek);
+/// @return days to move the date by
+int IdoLeptetes(TPillanat& pillanat, LepesMezo mezo, int mertek);

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "shell/kepletciklus.h"
+#include "shell/orajel.h"
 #include "shell/statuszsor.h"
 
 namespace {
@@ -24,6 +25,7 @@ void nezetParancs(Allapot& allapot, FoAblak& ablak, int tipus, UralkodoLepes lep
     KepletCiklus(allapot, lepes);
     ablak.Mutat();
     ablak.RajzolKeplet();
+    IranyListak(allapot, ablak);
 }
 
 }  // namespace

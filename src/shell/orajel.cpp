@@ -82,8 +82,7 @@ void teljesUjraszamitas(Allapot& a, FoAblak& ablak) {
     a.TeljesTorles = false;
     ablak.RajzolKeplet();
     a.MostSzamlalo = 0;
-    if (a.PontositasFut) ablak.PontositasFuttat();
-    if (a.PrimerFut) ablak.PrimerFuttat();
+    IranyListak(a, ablak);
 }
 
 }  // namespace
@@ -139,6 +138,11 @@ void radixVisszater(Allapot& a) {
 
 }  // namespace
 
+void IranyListak(const Allapot& a, FoAblak& ablak) {
+    if (a.PontositasFut) ablak.PontositasFuttat();
+    if (a.PrimerFut) ablak.PrimerFuttat();
+}
+
 void MostParancs(Allapot& a, FoAblak& ablak) {
     a.MostSzamlalo = mostTeljesUjraszamitas;
     a.MostFut = !a.MostFut;
@@ -154,4 +158,5 @@ void MostParancs(Allapot& a, FoAblak& ablak) {
     ablak.Ervenytelenit();
     a.TeljesTorles = false;
     ablak.RajzolKeplet();
+    IranyListak(a, ablak);
 }

@@ -14,3 +14,7 @@ void Orajel(Allapot& allapot, FoAblak& ablak);
 
 /// The button of the `Most` mode: starts the clock, or returns to `RadixPillanat` or from a derived chart.
 void MostParancs(Allapot& allapot, FoAblak& ablak);
+
+/// Repeats the direction lists that are open, the rectification before the primary list. Every recompute of
+/// the chart ends with it, after the drawing has filled the aspect points that the lists read.
+void IranyListak(const Allapot& allapot, FoAblak& ablak);

@@ -5,6 +5,7 @@
 
 #include "shell/kepletciklus.h"
 #include "shell/nezet.h"
+#include "shell/orajel.h"
 #include "shell/statuszsor.h"
 #include "tables/efemerida.h"
 #include "tables/nyariido.h"
@@ -162,4 +163,5 @@ void BevittKepletMutatasa(Allapot& allapot, FoAblak& ablak) {
     ablak.Ervenytelenit();
     allapot.TeljesTorles = false;
     ablak.RajzolKeplet();
+    IranyListak(allapot, ablak);
 }

@@ -45,7 +45,7 @@ constexpr TMemoHely nagyMemo{144, 737};  ///< over the side table too, so that t
 
 using TKezelo = void (TForm1::*)();
 
-/// One line of the menu: a submenu if it has no name, disabled if it has no handler.
+/// One line of the menu: a submenu if it has no name.
 struct TMenuSor {
     int szint;
     const char* felirat;
@@ -93,7 +93,7 @@ constexpr TMenuSor menuSorok[]{
     {0, "Beállítások", nullptr, nullptr},
     {1, "Léptet", "Radixlepteto1", &TForm1::Radixlepteto1Click},
     {1, "Orbisok", "Orbisok1", &TForm1::Orbisok1Click},
-    {1, "Mundánházas pontosítás", "Mundnhzaspontosts1", nullptr},
+    {1, "Mundánházas pontosítás", "Mundnhzaspontosts1", &TForm1::Mundnhzaspontosts1Click},
     {1, "Szimbólumok", "Szimbolumok1", &TForm1::Szimbolumok1Click},
 };
 
@@ -132,8 +132,6 @@ void TForm1::menuEpites() {
         }
         QAction* pont = menuk[szint - 1]->addAction(sor.felirat);
         pont->setObjectName(sor.nev);
-        pont->setEnabled(sor.kezelo != nullptr);
-        if (sor.kezelo == nullptr) continue;
         connect(pont, &QAction::triggered, this, [this, kezelo = sor.kezelo] {
             if (kezelo == &TForm1::Kilepes1Click || JelszoKeres()) (this->*kezelo)();
         });
@@ -145,8 +143,6 @@ void TForm1::gombEpites(int hely, const char* nev, const QString& felirat, TKeze
     gomb->setObjectName(nev);
     gomb->setGeometry(0, hely * gombMagassag, panelSzelesseg, gombMagassag);
     gomb->setFocusPolicy(Qt::NoFocus);
-    gomb->setEnabled(kezelo != nullptr);
-    if (kezelo == nullptr) return;
     connect(gomb, &QPushButton::clicked, this, [this, kezelo] {
         if (JelszoKeres()) (this->*kezelo)();
     });
@@ -184,7 +180,7 @@ void TForm1::panelEpites() {
     gombEpites(1, "PanelButton3_Valt", qszoveg(allapot_.Feliratok.valtGomb), &TForm1::PanelButton3_ValtClick);
     gombEpites(2, "PanelButton4Leptet", "Léptet", &TForm1::Radixlepteto1Click);
     gombEpites(3, "PanelButton5Orbis", "Orbis", &TForm1::Orbisok1Click);
-    gombEpites(4, "PanelButton6MHP", "MHP", nullptr);
+    gombEpites(4, "PanelButton6MHP", "MHP", &TForm1::Mundnhzaspontosts1Click);
     gombEpites(5, "PanelButton7Tercier", "Tercier", &TForm1::Tercier1Click);
     mostGomb_ = panel1_->findChild<QPushButton*>("PanelButton2_Most");
     valtGomb_ = panel1_->findChild<QPushButton*>("PanelButton3_Valt");
@@ -316,8 +312,12 @@ std::string TForm1::RendszerIdo() {
     return szoveg(QTime::currentTime().toString("H:mm:ss"));
 }
 
-void TForm1::MundanFrissit() {}
-void TForm1::PontositasFuttat() {}
+void TForm1::MundanFrissit() {
+    ablakok_->form8.frissit();
+}
+void TForm1::PontositasFuttat() {
+    ablakok_->form13.futtat();
+}
 void TForm1::PrimerFuttat() {
     ablakok_->form12.futtat();
 }
@@ -458,6 +458,10 @@ void TForm1::Tercier1Click() {
 }
 void TForm1::Szolaringresszio11Click() {
     datumosDirekcio(false);
+}
+
+void TForm1::Mundnhzaspontosts1Click() {
+    ablakok_->form8.megmutat();
 }
 
 void TForm1::Szimbolumok1Click() {

@@ -79,6 +79,7 @@ public slots:
     void Szolaringresszio11Click();
     void Radixlepteto1Click();
     void Orbisok1Click();
+    void Mundnhzaspontosts1Click();
     void Szimbolumok1Click();
 
     void PanelButton2_MostClick();

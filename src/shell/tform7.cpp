@@ -33,4 +33,5 @@ TForm7::TForm7(Allapot& allapot, FoAblak&, QWidget* fo) : QDialog(fo) {
         connect(gomb, &QPushButton::clicked, this, [&allapot, &lepes] { Leptetes(allapot, lepes); });
     }
     setMinimumWidth(280);  // the title shows date and time
+    adjustSize();
 }

@@ -146,6 +146,14 @@ Allapot allapotKerelembol(const TJson& kerelem) {
     return allapot;
 }
 
+Allapot szuletesiAllapot(const TJson& kerelem) {
+    Allapot allapot = allapotKerelembol(kerelem);
+    allapot.RadixPillanat = allapot.SzuletesiPillanat = allapot.Keplet.pillanat();
+    KepletCiklus(allapot);
+    FenyszogPontSzamitas(allapot);
+    return allapot;
+}
+
 TJson kepletValasz(Allapot& allapot) {
     OldalPanelIras(allapot);
     FenyszogPontSzamitas(allapot);

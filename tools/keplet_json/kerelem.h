@@ -35,6 +35,9 @@ void helyMezo(const TJson& kerelem, Allapot& allapot);
 /// A fresh state with moment, place, orbs and the sidereal step of a request.
 Allapot allapotKerelembol(const TJson& kerelem);
 
+/// The birth chart of a request on screen, its moment being the Radix and birth moment.
+Allapot szuletesiAllapot(const TJson& kerelem);
+
 /// The whole chart of the state, its cycle done.
 TJson kepletValasz(Allapot& allapot);
 

@@ -33,6 +33,9 @@ constexpr std::array muveletTabla{
     TMuveletNev{"ingresszio", ingresszioMuvelet},
     TMuveletNev{"primer", primerMuvelet},
     TMuveletNev{"solarhaz", solarHazMuvelet},
+    TMuveletNev{"mundan", mundanMuvelet},
+    TMuveletNev{"mundan_kereses", mundanKeresesMuvelet},
+    TMuveletNev{"pontositas", pontositasMuvelet},
 };
 
 TJson valasz(const std::string& sor) {

@@ -23,3 +23,7 @@ TJson tercierMuvelet(const TJson& kerelem);
 TJson ingresszioMuvelet(const TJson& kerelem);
 TJson primerMuvelet(const TJson& kerelem);
 TJson solarHazMuvelet(const TJson& kerelem);
+
+TJson mundanMuvelet(const TJson& kerelem);
+TJson mundanKeresesMuvelet(const TJson& kerelem);
+TJson pontositasMuvelet(const TJson& kerelem);

@@ -1,4 +1,3 @@
-#include "display/oldalpanel.h"
 #include "muveletek.h"
 #include "predictive/ingresszio.h"
 #include "predictive/primer.h"
@@ -23,15 +22,6 @@ public:
     void PontositasFuttat() override {}
     void PrimerFuttat() override {}
 };
-
-/// The birth chart of a request on screen, its moment being the Radix and birth moment.
-Allapot szuletesiAllapot(const TJson& kerelem) {
-    Allapot allapot = allapotKerelembol(kerelem);
-    allapot.RadixPillanat = allapot.SzuletesiPillanat = allapot.Keplet.pillanat();
-    KepletCiklus(allapot);
-    FenyszogPontSzamitas(allapot);
-    return allapot;
-}
 
 TPillanat datumMezo(const TJson& kerelem, const char* nev) {
     const auto [ev, ho, nap] = egeszTomb<3>(kerelem, nev);

@@ -1,0 +1,97 @@
+#include "rectify/mundankereses.h"
+
+#include <string>
+
+#include "shell/kepletciklus.h"
+#include "shell/lepteto.h"
+#include "shell/statuszsor.h"
+#include "tables/efemerida.h"
+#include "tables/nyariido.h"
+#include "tables/szoveg.h"
+#include "tables/telepulesek.h"
+
+namespace {
+
+constexpr int durvaLepes = 30;   ///< seconds
+constexpr int visszaUgras = 31;  ///< from the change back, so that one step of 1 gives the last coarse moment
+constexpr int cimHossz = 20;     ///< characters of the stepper's title
+constexpr int elsoNap = 2415020;  ///< first and last day that a search may reach: a chart reads two rows
+constexpr int utolsoNap = 2480554;
+
+/// Day of the clock for a date.
+std::int32_t helyiNap(TPillanat p) {
+    return DatumbolJulianszam(p.ev, p.ho, p.nap);
+}
+
+void ertekeles(std::int32_t nap, const TPillanat& p, const TMundanHely& hely, const TOrbisTabla& orbis,
+               TMundanErtekeles& e) {
+    MundanLanc(nap, p.ora, p.perc, p.mperc, hely, orbis, e.lanc);
+    e.analogiak = Analogiak(e.lanc);
+}
+
+}  // namespace
+
+TMundanHely MundanHely(const TKeplet& k) {
+    TTelepules t{};
+    TelepulesKeres(k.helyseg, t.idozona, t.szelesseg, t.hosszusagJel, t.szelessegJel, t.hosszusag);
+    const bool tablabol = t.idozona == k.idozona && t.szelesseg == k.szelesseg &&
+                          t.hosszusag == k.hosszusag &&
+                          k.nyariIdo == NyariIdoE(helyiNap(k.pillanat()), k.ora, k.perc, k.mperc);
+    TMundanHely hely{k.idozona, k.szelesseg, k.hosszusag};
+    if (!tablabol) hely.nyariIdo = k.nyariIdo;
+    return hely;
+}
+
+TMundanErtekeles MundanErtekeles(const Allapot& allapot, const TMundanHely& hely) {
+    TMundanErtekeles e;
+    const TPillanat p = allapot.Keplet.pillanat();
+    ertekeles(helyiNap(p), p, hely, allapot.OrbisTabla, e);
+    return e;
+}
+
+void MundanNyitas(Allapot& allapot) {
+    allapot.Feliratok.leptetoCim = elsoKarakterek(allapot.Feliratok.statusz[panelIdo], cimHossz);
+    allapot.AktivHaz = 1;
+    allapot.MhpKezdoPillanat = allapot.Keplet.pillanat();
+    allapot.MundanAblakNyitva = true;
+}
+
+TMundanErtekeles MundanKereses(Allapot& allapot, const TMundanHely& hely, int irany) {
+    TKeplet& k = allapot.Keplet;
+    TPillanat p = k.pillanat();
+    std::int32_t nap = helyiNap(p);
+    const auto lep = [&](int masodperc) {
+        nap += IdoLeptetes(p, LepesMezo::mperc, irany * masodperc);
+        JulianszambolDatum(nap, p.ev, p.ho, p.nap);
+    };
+
+    TMundanErtekeles e;
+    int lepes = durvaLepes;
+    ertekeles(nap, p, hely, allapot.OrbisTabla, e);
+    const char kezdo = e.analogiak.AnalogiaAllapot;
+    bool vege = !allapot.KeresesVolt;
+    allapot.KeresesVolt = true;
+    while (!vege) {
+        lep(lepes);
+        ertekeles(nap, p, hely, allapot.OrbisTabla, e);
+        vege = nap < elsoNap || nap > utolsoNap;
+        if (vege || e.analogiak.AnalogiaAllapot == kezdo) continue;
+        if (lepes == 1) {
+            vege = true;
+        } else {
+            lepes = 1;
+            lep(-visszaUgras);
+        }
+    }
+    k.pillanat(p);
+    k.julianszam = nap;
+    allapot.MundanFrissites = true;
+    allapot.Feliratok.leptetoCim.clear();
+    return e;
+}
+
+void MundanVissza(Allapot& allapot) {
+    allapot.Keplet.pillanat(allapot.MhpKezdoPillanat);
+    DatumRendezes(allapot.Keplet);
+    allapot.MundanFrissites = true;
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "engine/mundanlanc.h"
+#include "rectify/analogiak.h"
+#include "shell/allapot.h"
+
+/// Rectification by mundane houses: what its window's commands do.
+
+/// Place of the chart on screen for trial charts. If it is the gazetteer's own, with the table's summer time,
+/// summer time is asked anew for each trial moment; values that were typed stand.
+TMundanHely MundanHely(const TKeplet& keplet);
+
+/// A trial chart with its verdict.
+struct TMundanErtekeles {
+    TMundanLanc lanc;
+    TAnalogiak analogiak;
+};
+
+/// The chart's moment, by its local date.
+TMundanErtekeles MundanErtekeles(const Allapot& allapot, const TMundanHely& hely);
+
+/// Opening: the first house, the kept moment, the flag, the stepper's title.
+void MundanNyitas(Allapot& allapot);
+
+/// Moves the chart's moment to where the verdict changes: by 30 seconds until it does, then from the last
+/// moment before that by one second until it does again. The first search after the program's start ends
+/// where it began. A step that leaves the ephemeris ends the search too.
+/// @param irany  1 forward, -1 backward
+/// @return the verdict there
+TMundanErtekeles MundanKereses(Allapot& allapot, const TMundanHely& hely, int irany);
+
+/// Back to the moment of the opening.
+void MundanVissza(Allapot& allapot);

@@ -7,11 +7,13 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QTextLayout>
 
 #include "display/betutipus.h"
 #include "display/qtvaszon.h"
 #include "rectify/pontositas.h"
 #include "shell/ablakelhelyezes.h"
+#include "tables/szamtan.h"
 
 namespace {
 
@@ -30,6 +32,15 @@ QString sorokbol(const std::vector<std::string>& sorok) {
     QStringList lista;
     for (const std::string& sor : sorok) lista << qszoveg(sor);
     return lista.join('\n');
+}
+
+/// Height of a line of text as the lists lay it out, pixels.
+double sorMagassag(const QFont& betu) {
+    QTextLayout elrendezes("Á", betu);
+    elrendezes.beginLayout();
+    const double magassag = elrendezes.createLine().height();
+    elrendezes.endLayout();
+    return magassag;
 }
 
 }  // namespace
@@ -128,13 +139,17 @@ void TForm13::resizeEvent(QResizeEvent* esemeny) {
     }
 }
 
-/// The symbol font in the lists, and a text font of the same line height beside them.
+/// The symbol font in the lists, and beside them the largest text font whose lines are no higher.
 void TForm13::betuk() {
     const QFont jel = cellaMagassaguBetu(qszoveg("Astro Symbols"), 16, logicalDpiY());
     memo2_->setFont(jel);
     memo3_->setFont(jel);
-    memo1_->setFont(
-        cellaMagassaguBetu(QString::fromUtf8(szovegFont), QFontMetrics(jel).height(), logicalDpiY()));
+    const double sor = sorMagassag(jel);
+    int magassag = egesz(sor) + 1;
+    QFont betu;
+    do betu = cellaMagassaguBetu(QString::fromUtf8(szovegFont), --magassag, logicalDpiY());
+    while (magassag > 1 && sorMagassag(betu) > sor);
+    memo1_->setFont(betu);
 }
 
 void TForm13::megmutat(int leptetoMagassag) {

@@ -6,6 +6,7 @@
 #include "engine/csillagido.h"
 #include "engine/hazak.h"
 #include "shell/kepletciklus.h"
+#include "shell/orajel.h"
 #include "shell/statuszsor.h"
 #include "tables/efemerida.h"
 #include "tables/nyariido.h"
@@ -169,4 +170,5 @@ void VisszateresKeplet(Allapot& allapot, FoAblak& ablak, const TVisszateresFajta
     ablak.Ervenytelenit();
     allapot.TeljesTorles = false;
     ablak.RajzolKeplet();
+    IranyListak(allapot, ablak);
 }

@@ -3,17 +3,17 @@
 #include <algorithm>
 #include <array>
 
+#include <QAbstractTextDocumentLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSignalBlocker>
-#include <QTextLayout>
+#include <QTextBlock>
 
 #include "display/betutipus.h"
 #include "display/qtvaszon.h"
 #include "rectify/pontositas.h"
 #include "shell/ablakelhelyezes.h"
-#include "tables/szamtan.h"
 
 namespace {
 
@@ -34,13 +34,10 @@ QString sorokbol(const std::vector<std::string>& sorok) {
     return lista.join('\n');
 }
 
-/// Height of a line of text as the lists lay it out, pixels.
-double sorMagassag(const QFont& betu) {
-    QTextLayout elrendezes("Á", betu);
-    elrendezes.beginLayout();
-    const double magassag = elrendezes.createLine().height();
-    elrendezes.endLayout();
-    return magassag;
+/// Height of a line as the list lays it out, pixels.
+double sorMagassag(const QPlainTextEdit& memo) {
+    const QTextDocument& lap = *memo.document();
+    return lap.documentLayout()->blockBoundingRect(lap.firstBlock()).height();
 }
 
 }  // namespace
@@ -139,17 +136,14 @@ void TForm13::resizeEvent(QResizeEvent* esemeny) {
     }
 }
 
-/// The symbol font in the lists, and beside them the largest text font whose lines are no higher.
+/// The text font in the first list, and in the others the smallest symbol font whose lines are as high.
 void TForm13::betuk() {
-    const QFont jel = cellaMagassaguBetu(qszoveg("Astro Symbols"), 16, logicalDpiY());
-    memo2_->setFont(jel);
-    memo3_->setFont(jel);
-    const double sor = sorMagassag(jel);
-    int magassag = egesz(sor) + 1;
-    QFont betu;
-    do betu = cellaMagassaguBetu(QString::fromUtf8(szovegFont), --magassag, logicalDpiY());
-    while (magassag > 1 && sorMagassag(betu) > sor);
-    memo1_->setFont(betu);
+    constexpr int szovegMagassag = 16;  // pixels
+    memo1_->setFont(cellaMagassaguBetu(QString::fromUtf8(szovegFont), szovegMagassag, logicalDpiY()));
+    int magassag = szovegMagassag - 2;
+    do memo2_->setFont(cellaMagassaguBetu("Astro Symbols", ++magassag, logicalDpiY()));
+    while (sorMagassag(*memo2_) < sorMagassag(*memo1_) && magassag < 2 * szovegMagassag);
+    memo3_->setFont(memo2_->font());
 }
 
 void TForm13::megmutat(int leptetoMagassag) {

@@ -151,6 +151,112 @@ TEST(KepletJson, ARajzMuveletei) {
     EXPECT_EQ(m[6][5], 59 - 37 - 8);
 }
 
+const std::string szeged = R"("pillanat": [1975, 7, 21, 6, 4, 9], "hely": {"helyseg": "Szeged"})";
+
+TEST(KepletJson, ALepesekEgymasUtan) {
+    const TJson v = valasz(
+        R"({"op": "lepes", "pillanat": [1999, 12, 31, 23, 59, 55], "gombok": ["Button15mpercpp", "Button4hom"]})");
+    EXPECT_EQ(v["pillanat"], TJson({1999, 12, 1, 0, 0, 5}));
+    EXPECT_EQ(v["julianszam"], 2451513);
+}
+
+TEST(KepletJson, AzAnalogiaSzovegeEsSzamai) {
+    const TJson v = valasz(R"({"op": "analogia", "szoveg": "ix, 4,iv 12"})");
+    EXPECT_EQ(v["analogia"], "I,IV,X,12");
+    EXPECT_EQ(v["szamok"], TJson({1, 4, 10, 12}));
+}
+
+TEST(KepletJson, AzEletesemenyGreenwichiIdejeEsHaza) {
+    const TJson v = valasz(
+        R"({"op": "eletesemeny", )" + szeged +
+        R"(, "esemeny": {"ev": 2000, "ho": 7, "nap": 1, "ora": 0, "idozona": 1, "nyariIdo": 1, "hosszFok": 20, "szelFok": 46}})");
+    EXPECT_EQ(v["gmt"], TJson({2000, 6, 30, 22, 0, 0}));
+    EXPECT_GE(v["solarNap"], 1);
+    EXPECT_LE(v["solarNap"], 12);
+}
+
+TEST(KepletJson, AKepletfajlOdaEsVissza) {
+    const TMappa mappa;
+    TJson kerelem = TJson::parse(
+        R"({"op": "kvh_ir", "nev": "Minta Őrs", "pillanat": [1975, 7, 21, 6, 4, 9], "idozona": 1, "nyariIdo": 0, "helyseg": "Szeged", "hosszusag": 72540, "szelesseg": 166500, "jegyzet": "", "hang": "", "esemenyek": [{"esemeny": "Házasság", "ev": 2000, "solarNap": 7}]})");
+    kerelem["fajl"] = (mappa / "minta.kvh").string();
+    EXPECT_EQ(valasz(kerelem.dump())["meret"], 2 * 628);
+    const TJson v = valasz(TJson{{"op", "kvh_olvas"}, {"fajl", kerelem["fajl"]}}.dump());
+    for (const char* kulcs : {"nev", "pillanat", "idozona", "nyariIdo", "helyseg", "hosszusag", "szelesseg"})
+        EXPECT_EQ(v[kulcs], kerelem[kulcs]) << kulcs;
+    EXPECT_EQ(v["esemenyek"][0]["esemeny"], "Házasság");
+    EXPECT_EQ(v["esemenyek"][0]["solarNap"], 7);
+    EXPECT_EQ(valasz(R"({"op": "kvh_olvas", "fajl": "/nincs/ilyen.kvh"})")["hiba"], "File olvasási hiba!");
+    kerelem["fajl"] = "/nincs/ilyen.kvh";
+    EXPECT_EQ(valasz(kerelem.dump())["hiba"], "File írási hiba!");
+}
+
+TEST(KepletJson, AVisszateresekListajaEsKeplete) {
+    const TJson szolar =
+        valasz(R"({"op": "revolucio", "fajta": 1, "sor": 2, "ujhely": "Pécs", )" + szeged + "}");
+    EXPECT_EQ(szolar["cim"], "Szolár");
+    EXPECT_EQ(szolar["kezdo"], TJson({1975, 7, 20}));
+    EXPECT_EQ(szolar["sorok"].size(), szolar["talalatok"].size());
+    EXPECT_EQ(szolar["talalatok"][0][6], "D");
+    EXPECT_EQ(szolar["talalatok"][1][0], 1976);
+    EXPECT_EQ(szolar["keplet"]["statuszsor"][2], "Pécs");
+    const TJson hold = valasz(R"({"op": "personar", "fajta": 3, )" + szeged + "}");
+    EXPECT_EQ(hold["statusz"], "Hold pers");
+    EXPECT_EQ(hold["talalatok"][0].size(), 6U);
+    EXPECT_FALSE(hold.contains("keplet"));
+}
+
+TEST(KepletJson, ADirekciokEsAzIngresszio) {
+    const std::string sajatNap = szeged + R"(, "esemeny": [1975, 7, 21])";
+    EXPECT_EQ(valasz(R"({"op": "tercier", "orbis_nap": 45, )" + szeged + R"(, "esemeny": [1980, 7, 21]})")
+                  .contains("TercierHazSzoveg"),
+              true);
+    EXPECT_EQ(valasz(R"({"op": "ingresszio", )" + sajatNap + "}")["verdikt"], "Van inresszió!");
+    const TJson primer = valasz(R"({"op": "primer", "kezdo": [2000, 1, 1], )" + szeged + "}");
+    EXPECT_LE(primer["sorok"].size(), 22U);
+    const TJson haz =
+        valasz(R"({"op": "solarhaz", "datum": [2000, 1, 1], "hosszusag": 72540, "szelesseg": 166500, )" +
+               szeged + "}");
+    EXPECT_GE(haz["haz"], 1);
+    EXPECT_LE(haz["haz"], 12);
+}
+
+TEST(KepletJson, AMundanHazakTizenotSoraiEsVerdiktjei) {
+    const TJson v = valasz(R"({"op": "mundan", )" + szeged + "}");
+    EXPECT_EQ(v["HazEgyezes"].get<std::string>().size(), 12U);
+    EXPECT_TRUE(v["MundanEredmeny"].is_string());
+    EXPECT_TRUE(v["AnalogiaAllapot"].is_string());
+    ASSERT_EQ(v["hazak"].size(), 12U);
+    for (const TJson& haz : v["hazak"]) {
+        ASSERT_EQ(haz.size(), 15U);
+        EXPECT_EQ(haz[7], TJson({"", "", ""}));
+    }
+    EXPECT_EQ(v["hazak"][7][0], TJson({" 8-es Mundánház:  ", "h    ", "    "}));
+    EXPECT_EQ(v["hazak"][7][1], TJson({"Ház ura:", "E    ", "J    "}));
+    EXPECT_EQ(v["hazak"][0][1], TJson({"Ház ura:", "E    ", "     "}));
+}
+
+TEST(KepletJson, AMundanKeresesElsoNyomasaMarad) {
+    const std::string kereses = R"({"op": "mundan_kereses", "irany": 1, )" + szeged + R"(, "KeresesVolt": )";
+    const TJson elso = valasz(kereses + "false}");
+    EXPECT_EQ(elso["pillanat"], TJson({1975, 7, 21, 6, 4, 9}));
+    EXPECT_EQ(elso["KeresesVolt"], true);
+    const TJson masodik = valasz(kereses + "true}");
+    EXPECT_NE(masodik["pillanat"], elso["pillanat"]);
+    EXPECT_NE(masodik["AnalogiaAllapot"], elso["AnalogiaAllapot"]);
+    EXPECT_TRUE(valasz(R"({"op": "mundan_kereses", "irany": 0, "KeresesVolt": true, )" + szeged + "}")
+                    .contains("hiba"));
+}
+
+TEST(KepletJson, APontositasHaromListaja) {
+    const TJson v = valasz(
+        R"({"op": "pontositas", "hatotav": 99, )" + szeged +
+        R"(, "esemenyek": [{"esemeny": "Házasság", "ev": 2000, "ho": 7, "nap": 1, "hosszFok": 20, "hosszPerc": 9, "szelFok": 46, "szelPerc": 15}, {"esemeny": ""}]})");
+    EXPECT_EQ(v["memo1"], TJson({"1. 2000.07.01. Házasság"}));
+    EXPECT_EQ(v["memo2"].size(), 1U);
+    EXPECT_EQ(v["memo3"][0].get<std::string>().substr(0, 3), "1. ");
+}
+
 TEST(KepletJson, ATablakFajljai) {
     const TMappa mappa;
     ASSERT_EQ(std::system((std::string(KEPLET_JSON) + " --tablak " + mappa.nev()).c_str()), 0);

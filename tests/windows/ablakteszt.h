@@ -16,6 +16,7 @@
 
 #include "shell/ablakok.h"
 #include "shell/betumappak.h"
+#include "shell/szemelyiadatok.h"
 
 /// A control by its name on a window.
 template <typename T>
@@ -89,4 +90,19 @@ inline int fekete(const QImage& kep) {
     for (int y = 0; y < kep.height(); ++y)
         for (int x = panelSzel; x < kep.width(); ++x) szam += qGray(kep.pixel(x, y)) < 128 ? 1 : 0;
     return static_cast<int>(szam * 10000 / (qint64{kep.width()} * kep.height()));
+}
+
+/// A typed birth on screen.
+inline void szuletes(TFrissAblakok& a) {
+    TSzemelyiAdatok m;
+    m.nev = "Minta Anna";
+    m.ido = {1975, 7, 21, 6, 4, 9};
+    m.helyseg = "Szeged";
+    m.hosszFok = 20;
+    m.hosszPerc = 9;
+    m.szelFok = 46;
+    m.szelPerc = 14;
+    SzemelyiRendben(a.allapot(), m);
+    BevittKepletMutatasa(a.allapot(), a.form1);
+    QApplication::processEvents();
 }

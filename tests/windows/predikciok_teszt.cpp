@@ -6,23 +6,8 @@
 #include <QRadioButton>
 
 #include "ablakteszt.h"
-#include "shell/szemelyiadatok.h"
 
 namespace {
-
-void szuletes(TFrissAblakok& a) {
-    TSzemelyiAdatok m;
-    m.nev = "Minta Anna";
-    m.ido = {1975, 7, 21, 6, 4, 9};
-    m.helyseg = "Szeged";
-    m.hosszFok = 20;
-    m.hosszPerc = 9;
-    m.szelFok = 46;
-    m.szelPerc = 14;
-    SzemelyiRendben(a.allapot(), m);
-    BevittKepletMutatasa(a.allapot(), a.form1);
-    QApplication::processEvents();
-}
 
 QString lista(const QWidget& d, int sor) {
     return vezerlo<QListWidget>(d, "ListBox1")->item(sor)->text();

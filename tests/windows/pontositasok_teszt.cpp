@@ -1,0 +1,357 @@
+// The windows of the two rectifications.
+
+#include <QTextBlock>
+
+#include "ablakteszt.h"
+#include "rectify/mundankereses.h"
+
+namespace {
+
+QString cimke(const QWidget& d, const char* nev) {
+    return vezerlo<QLabel>(d, nev)->text();
+}
+QString sorok(const QWidget& d, const char* memo) {
+    return vezerlo<QPlainTextEdit>(d, memo)->toPlainText();
+}
+QColor szin(const QWidget& d, const char* nev) {
+    return vezerlo<QLabel>(d, nev)->palette().color(QPalette::WindowText);
+}
+TMundanErtekeles ertekeles(TFrissAblakok& a) {
+    return MundanErtekeles(a.allapot(), MundanHely(a.allapot().Keplet));
+}
+
+void esemenyek(TFrissAblakok& a, int db) {
+    for (int n = 1; n <= db; ++n) {
+        TEletesemeny& e = a.allapot().Esemenyek.esemenyek[n];
+        e.esemeny = "Esemény " + std::to_string(n);
+        e.ev = 1990 + 2 * n;
+        e.ho = 5;
+        e.nap = 6;
+        e.hosszFok = 20;
+        e.szelFok = 46;
+    }
+    a.allapot().Esemenyek.EsemenyDb = db;
+}
+
+}  // namespace
+
+class PontositasokTeszt : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { sajatBetukBetoltese(); }
+
+    void semmiSincsLetiltva() {
+        TFrissAblakok a;
+        const auto pontok = a.form1.findChildren<QAction*>();
+        for (const QAction* pont : pontok) QVERIFY2(pont->isEnabled(), qPrintable(pont->text()));
+        const auto gombok = a.form1.findChildren<QPushButton*>();
+        for (const QPushButton* gomb : gombok) QVERIFY2(gomb->isEnabled(), qPrintable(gomb->text()));
+    }
+
+    void aMundanAblakMegnyitaskorEpul() {
+        TFrissAblakok a;
+        szuletes(a);
+        QVERIFY(a.form8.findChild<QPushButton*>("BMundan1") == nullptr);
+        menu(a.form1, "Mundnhzaspontosts1");
+        QVERIFY(a.form8.isVisible());
+        QVERIFY(!a.form8.isModal());
+        QVERIFY(a.form8.windowFlags() & Qt::WindowStaysOnTopHint);
+        QCOMPARE(a.form8.windowTitle(), "Mundánházas pontosítás");
+        QVERIFY(a.allapot().MundanAblakNyitva);
+        QCOMPARE(a.form7.windowTitle(), "1975.07.21. 06:04:09");
+        // Right edges together, its bottom 20 pixels above the main window's.
+        QCOMPARE(a.form8.x() + a.form8.width(), a.form1.x() + a.form1.width());
+        QCOMPARE(a.form8.y() + a.form8.height(), a.form1.y() + a.form1.height() - 20);
+
+        const std::array<const char*, 12> feliratok{" I",  " 2", " 3", "IV", " 5", " 6",
+                                                    "VII", " 8", " 9", " X", "11", "12"};
+        for (int n = 0; n < 12; ++n) {
+            const auto* gomb =
+                vezerlo<QPushButton>(a.form8, qPrintable(QStringLiteral("BMundan%1").arg(n + 1)));
+            QCOMPARE(gomb->text(), feliratok[static_cast<std::size_t>(n)]);
+            QCOMPARE(gomb->geometry(), QRect(65 + 32 * (n % 6), 93 + 26 * (n / 6), 30, 24));
+        }
+        for (int sor = 1; sor <= 15; ++sor) {
+            for (int oszlop = 1; oszlop <= 3; ++oszlop) {
+                const auto* l = vezerlo<QLabel>(
+                    a.form8, qPrintable(QStringLiteral("LMundan_%1_%2").arg(sor).arg(oszlop)));
+                QCOMPARE(l->x(), (std::array{12, 135, 220}[static_cast<std::size_t>(oszlop - 1)]));
+                QCOMPARE(l->y(), 175 + 22 * (sor - 1));
+                QVERIFY(l->width() >= 30 && l->height() == 20);
+                QCOMPARE(l->font().pointSize(), 10);
+                const bool ariel = oszlop == 1 || sor == 4 || sor == 12;
+                QCOMPARE(l->font().family(), ariel ? "Ariel" : "Astro Symbols");
+            }
+        }
+        QCOMPARE(vezerlo<QLabel>(a.form8, "Label1Haz")->pos(), QPoint(135, 154));
+        QCOMPARE(vezerlo<QLabel>(a.form8, "Label2Rendben")->pos(), QPoint(145, 512));
+        QCOMPARE(vezerlo<QLabel>(a.form8, "Label1Haz")->font().pointSize(), 13);
+        QCOMPARE(cimke(a.form8, "Label1Haz"), " I. Házak");
+
+        kattint(a.form8, "Button4Bezar");
+        QVERIFY(!a.form8.isVisible());
+        QVERIFY(!a.allapot().MundanAblakNyitva);
+        QVERIFY(a.form8.findChild<QPushButton*>("BMundan1") == nullptr);
+        QVERIFY(a.form8.findChild<QLabel*>("LMundan_1_1") == nullptr);
+    }
+
+    void azMhpGombUgyanezt() {
+        TFrissAblakok a;
+        kattint(a.form1, "PanelButton6MHP");
+        QVERIFY(a.form8.isVisible());
+    }
+
+    void aHazGombokAHazatMutatjakEsElengedikAFokuszt() {
+        TFrissAblakok a;
+        szuletes(a);
+        menu(a.form1, "Mundnhzaspontosts1");
+        for (int haz = 12; haz >= 1; --haz) {
+            kattint(a.form8, qPrintable(QStringLiteral("BMundan%1").arg(haz)));
+            QCOMPARE(a.allapot().AktivHaz, haz);
+            QVERIFY(qobject_cast<QPushButton*>(a.form8.focusWidget()) == nullptr);
+            const TMundanErtekeles e = ertekeles(a);
+            const auto vart = AnalogiaSorok(e.lanc, haz);
+            for (std::size_t sor = 0; sor < 15; ++sor) {
+                const auto nev = [sor](int oszlop) {
+                    return QStringLiteral("LMundan_%1_%2").arg(sor + 1).arg(oszlop);
+                };
+                QCOMPARE(cimke(a.form8, qPrintable(nev(1))), QString::fromStdString(vart[sor].oszlop1));
+                QCOMPARE(cimke(a.form8, qPrintable(nev(2))), QString::fromStdString(vart[sor].oszlop2));
+                QCOMPARE(cimke(a.form8, qPrintable(nev(3))), QString::fromStdString(vart[sor].oszlop3));
+            }
+            const bool jo = e.analogiak.HazEgyezes[static_cast<std::size_t>(haz - 1)] == '1';
+            QCOMPARE(cimke(a.form8, "Label2Rendben"), jo ? "Rendben " : "        ");
+        }
+        // A new opening starts at the first house.
+        kattint(a.form8, "BMundan5");
+        kattint(a.form8, "Button4Bezar");
+        menu(a.form1, "Mundnhzaspontosts1");
+        QCOMPARE(a.allapot().AktivHaz, 1);
+    }
+
+    void aVerdiktSzineEsAHibasHazakNagyBetui() {
+        TFrissAblakok a;
+        szuletes(a);
+        menu(a.form1, "Mundnhzaspontosts1");
+        kattint(a.form8, "Button2Keresesp");  // the first press stays
+        QString latott;
+        for (int n = 0; n < 60 && latott.size() < 3; ++n) {
+            const TMundanErtekeles e = ertekeles(a);
+            const char allapot = e.analogiak.AnalogiaAllapot;
+            if (!latott.contains(QLatin1Char(allapot))) latott += QLatin1Char(allapot);
+            QCOMPARE(szin(a.form8, "Label3szoveg1"), QColor(allapot == '1' ? Qt::blue : Qt::red));
+            QCOMPARE(cimke(a.form8, "Label3szoveg1"),
+                     allapot == '2' ? "Egyik tengely sem egyezik dekádban!" : "Mundánházak és horizontházak");
+            QCOMPARE(cimke(a.form8, "Label4szoveg2"), allapot == '2'   ? ""
+                                                      : allapot == '1' ? "analógiái egyeznek."
+                                                                       : "analógiái NEM egyeznek!");
+            for (int haz = 1; haz <= 12; ++haz) {
+                const auto* gomb =
+                    vezerlo<QPushButton>(a.form8, qPrintable(QStringLiteral("BMundan%1").arg(haz)));
+                const bool hibas = e.analogiak.HazEgyezes[static_cast<std::size_t>(haz - 1)] == '0';
+                QCOMPARE(gomb->font().pointSize(), hibas ? 16 : 10);
+            }
+            kattint(a.form8, "Button2Keresesp");
+        }
+        QCOMPARE(latott.size(), 3);
+    }
+
+    void aKeresesEsAVisszaAKeppelEgyutt() {
+        TFrissAblakok a;
+        szuletes(a);
+        menu(a.form1, "Mundnhzaspontosts1");
+        kattint(a.form8, "Button1Keresesm");
+        QCOMPARE(a.allapot().Keplet.pillanat(), (TPillanat{1975, 7, 21, 6, 4, 9}));
+        QVERIFY(a.allapot().MundanFrissites);
+        a.orajelek(1);
+        QVERIFY(!a.allapot().MundanFrissites);
+        const THazcsucsok csucsok = a.allapot().Keplet.hazCsucs;
+
+        const char elobb = ertekeles(a).analogiak.AnalogiaAllapot;
+        kattint(a.form8, "Button1Keresesm");
+        QVERIFY(a.allapot().Keplet.pillanat() != (TPillanat{1975, 7, 21, 6, 4, 9}));
+        QVERIFY(ertekeles(a).analogiak.AnalogiaAllapot != elobb);
+        QCOMPARE(a.form7.windowTitle(), "");
+        QVERIFY(QGuiApplication::overrideCursor() == nullptr);
+        a.orajelek(1);  // the wheel follows with the next tick
+        QVERIFY(a.allapot().Keplet.hazCsucs != csucsok);
+        QVERIFY(ertekeles(a).analogiak.AnalogiaAllapot != elobb);
+
+        kattint(a.form8, "Button3Vissza");
+        QCOMPARE(a.allapot().Keplet.pillanat(), (TPillanat{1975, 7, 21, 6, 4, 9}));
+        a.orajelek(1);
+        QCOMPARE(a.allapot().Keplet.hazCsucs, csucsok);
+        // Nothing of this counts as a change to be saved.
+        QVERIFY(!a.allapot().Modositott);
+    }
+
+    void azOrajelKovetiAKepletet() {
+        TFrissAblakok a;
+        szuletes(a);
+        menu(a.form1, "Mundnhzaspontosts1");
+        const QString elobb = cimke(a.form8, "LMundan_9_2");
+        for (int n = 0; n < 5; ++n) kattint(a.form7, "Button7orap");
+        QCOMPARE(cimke(a.form8, "LMundan_9_2"), elobb);
+        a.orajelek(1);
+        QVERIFY(cimke(a.form8, "LMundan_9_2") != elobb);
+    }
+
+    void azEscapeIsLezarjaAFrissitest() {
+        TFrissAblakok a;
+        menu(a.form1, "Mundnhzaspontosts1");
+        QTest::keyClick(&a.form8, Qt::Key_Escape);
+        QVERIFY(!a.form8.isVisible());
+        QVERIFY(!a.allapot().MundanAblakNyitva);
+        a.allapot().MundanAblakNyitva = true;  // a refresh without controls does no harm
+        a.orajelek(2);
+    }
+
+    void aPontositasAtvesziAListat() {
+        TFrissAblakok a;
+        szuletes(a);
+        esemenyek(a, 3);
+        menu(a.form1, "Primer1");
+        kattint(a.form12, "Button_Rendben1");
+        kattint(a.form12, "Button_Pontositas1");
+        QVERIFY(a.allapot().PontositasFut);
+        QVERIFY(!a.allapot().PrimerFut);
+        QVERIFY(a.form13.isVisible());
+        QVERIFY(!a.form13.isModal());
+        QVERIFY(a.form13.windowFlags() & Qt::WindowStaysOnTopHint);
+        QCOMPARE(a.form13.windowTitle(), "Pontosítás");
+        QCOMPARE(a.form13.width(), 369);
+        QCOMPARE(a.form13.x() + a.form13.width(), a.form1.x() + a.form1.width());
+        QCOMPARE(a.form13.y(), a.form1.y() + a.form7.height() + 30);
+        QCOMPARE(cimke(a.form13, "Label1"), "Direkciós hatótávolság:   0,");
+        QCOMPARE(ertek(a.form13, "SpinEdit1"), 25);
+        QCOMPARE(sorok(a.form13, "Memo1"),
+                 "1. 1992.05.06. Esemény 1\n2. 1994.05.06. Esemény 2\n3. 1996.05.06. Esemény 3");
+        QCOMPARE(sorok(a.form13, "Memo2").count('\n'), 2);
+        QCOMPARE(sorok(a.form13, "Memo3").count('\n'), 2);
+        QVERIFY(vezerlo<QPlainTextEdit>(a.form13, "Memo1")->isReadOnly());
+        QVERIFY(vezerlo<QPlainTextEdit>(a.form13, "Memo2")->isReadOnly());
+        QVERIFY(!vezerlo<QPlainTextEdit>(a.form13, "Memo3")->isReadOnly());
+        QCOMPARE(vezerlo<QPlainTextEdit>(a.form13, "Memo2")->font().family(), "Astro Symbols");
+        QCOMPARE(vezerlo<QPlainTextEdit>(a.form13, "Memo3")->font().family(), "Astro Symbols");
+        const std::array<const char*, 4> fejek{"dMc", "cMc", "dAsc", "cAsc"};
+        for (int n = 0; n < 4; ++n)
+            QCOMPARE(cimke(a.form13, qPrintable(QStringLiteral("Label%1").arg(n + 2))),
+                     fejek[static_cast<std::size_t>(n)]);
+
+        kattint(a.form13, "Button_Megsem1");
+        QVERIFY(!a.form13.isVisible());
+        QVERIFY(!a.allapot().PontositasFut);
+        QVERIFY(a.allapot().PrimerFut);
+    }
+
+    void aMegsemAPrimerListatAkkorIsElinditjaHaMegNemFutott() {
+        TFrissAblakok a;
+        szuletes(a);
+        menu(a.form1, "Primer1");
+        kattint(a.form12, "Button_Pontositas1");
+        QVERIFY(a.form13.isVisible());
+        QCOMPARE(sorok(a.form13, "Memo1"), "");  // opens without events too
+        kattint(a.form13, "Button_Megsem1");
+        QVERIFY(a.allapot().PrimerFut);
+        QCOMPARE(sorok(a.form12, "Memo1"), "");
+        kattint(a.form7, "Button9percp");
+        a.orajelek(1);
+        QVERIFY(!sorok(a.form12, "Memo1").isEmpty());
+    }
+
+    void aHatotavValtozasaUjraFuttatEsMegmarad() {
+        TFrissAblakok a;
+        szuletes(a);
+        esemenyek(a, 12);
+        menu(a.form1, "Primer1");
+        kattint(a.form12, "Button_Pontositas1");
+        auto* mezo = vezerlo<QSpinBox>(a.form13, "SpinEdit1");
+        QCOMPARE(mezo->minimum(), 1);
+        QCOMPARE(mezo->maximum(), 99);
+        mezo->setValue(1);
+        const auto talalatok = [&] { return sorok(a.form13, "Memo3").count('('); };
+        const auto keves = talalatok();
+        mezo->setValue(99);
+        QVERIFY(talalatok() > keves);
+        QCOMPARE(a.allapot().PontositasHatotav, 99);
+        kattint(a.form13, "Button_Megsem1");
+        kattint(a.form12, "Button_Pontositas1");
+        QCOMPARE(ertek(a.form13, "SpinEdit1"), 99);
+        // The default button takes a value set elsewhere back from the field.
+        a.allapot().PontositasHatotav = 5;
+        kattint(a.form13, "Button_Rendben1");
+        QCOMPARE(a.allapot().PontositasHatotav, 99);
+    }
+
+    void aLeptetesEsMindenUjraszamitasMozgatjaATalalatokat() {
+        TFrissAblakok a;
+        szuletes(a);
+        esemenyek(a, 12);
+        menu(a.form1, "Primer1");
+        kattint(a.form12, "Button_Pontositas1");
+        vezerlo<QSpinBox>(a.form13, "SpinEdit1")->setValue(60);
+        const QString elobb = sorok(a.form13, "Memo2");
+        for (int n = 0; n < 3; ++n) kattint(a.form7, "Button11percpp");
+        QCOMPARE(sorok(a.form13, "Memo2"), elobb);
+        a.orajelek(1);
+        const QString leptetve = sorok(a.form13, "Memo2");
+        QVERIFY(leptetve != elobb);
+        // Back to the birth: the command itself repeats the run.
+        kattint(a.form1, "PanelButton2_Most");
+        kattint(a.form1, "PanelButton2_Most");
+        QCOMPARE(sorok(a.form13, "Memo2"), elobb);
+        // The reach set elsewhere comes into the field with the recompute.
+        a.allapot().PontositasHatotav = 33;
+        menu(a.form1, "Horizont1");
+        QCOMPARE(ertek(a.form13, "SpinEdit1"), 33);
+    }
+
+    void azEletesemenyekInnenIs() {
+        TFrissAblakok a;
+        szuletes(a);
+        esemenyek(a, 2);
+        menu(a.form1, "Primer1");
+        kattint(a.form12, "Button_Pontositas1");
+        valasz([](QWidget& d) {
+            QCOMPARE(d.objectName(), "TForm10");
+            QCOMPARE(vezerlo<QLabel>(d, "LEletes_2_2")->text(), "Esemény 2");
+            gepel(d, "Edit_Eletesemenyek1", "Harmadik");
+            kattint(d, "Button_Rendben1");
+            kattint(d, "Button_Rendben2");
+        });
+        kattint(a.form13, "Button_Eletesemenyek1");
+        QCOMPARE(a.allapot().Esemenyek.EsemenyDb, 3);
+        kattint(a.form13, "Button_Rendben1");
+        QVERIFY(sorok(a.form13, "Memo1").contains("Harmadik"));
+    }
+
+    void amiRejtveVanRejtveMarad() {
+        TFrissAblakok a;
+        menu(a.form1, "Primer1");
+        kattint(a.form12, "Button_Pontositas1");
+        a.form13.resize(722, 430);
+        for (const char* nev : {"Label6", "Button_Elemzes1", "Button_Elemzesp1", "Button_Elemzesm2"})
+            QVERIFY(!vezerlo<QWidget>(a.form13, nev)->isVisible());
+        QCOMPARE(cimke(a.form13, "Label6"), "Direkció-elemzés:");
+        // The third list lies outside until the window is widened.
+        QVERIFY(vezerlo<QWidget>(a.form13, "Memo3")->x() >= 369);
+        QVERIFY(vezerlo<QWidget>(a.form13, "Memo3")->geometry().right() < 722);
+    }
+
+    void aHaromListaSoraiEgyMagassagbanAllnak() {
+        TFrissAblakok a;
+        esemenyek(a, 20);
+        menu(a.form1, "Primer1");
+        kattint(a.form12, "Button_Pontositas1");
+        const auto sorTeteje = [&](const char* nev) {
+            const auto* memo = vezerlo<QPlainTextEdit>(a.form13, nev);
+            return memo->cursorRect(QTextCursor(memo->document()->findBlockByNumber(15))).top();
+        };
+        QCOMPARE(sorTeteje("Memo1"), sorTeteje("Memo2"));
+        QCOMPARE(sorTeteje("Memo2"), sorTeteje("Memo3"));
+    }
+};
+
+QTEST_MAIN(PontositasokTeszt)
+#include "pontositasok_teszt.moc"

@@ -5,6 +5,7 @@
 
 #include "display/betutipus.h"
 #include "shell/ablakelhelyezes.h"
+#include "shell/gomb.h"
 #include "tables/szotar.h"
 
 namespace {
@@ -55,10 +56,7 @@ TForm6::TForm6(Allapot& allapot, FoAblak&, QWidget* fo) : QDialog(fo), allapot_(
     setFixedSize(340, 460);
     const auto gomb = [this](const char* nev, const QString& felirat, const QRect& hely,
                              void (TForm6::*kezelo)()) {
-        auto* uj = new QPushButton(felirat, this);
-        uj->setObjectName(nev);
-        uj->setGeometry(hely);
-        uj->setAutoDefault(false);
+        auto* uj = ujGomb(this, nev, felirat, hely);
         connect(uj, &QPushButton::clicked, this, kezelo);
         return uj;
     };
@@ -103,10 +101,8 @@ void TForm6::racsEpites() {
     for (int r = 0; r < 12; ++r) {
         for (int c = 0; c < 9; ++c) {
             if (!vanGomb(r + 1, c + 1)) continue;
-            auto* gomb = new QPushButton(this);
-            gomb->setObjectName(QStringLiteral("BOrbis_%1_%2").arg(r + 1).arg(c + 1));
-            gomb->setGeometry(295 - 32 * (8 - c), 140 - 26 * (3 - r), gombSzelesseg, gombMagassag);
-            gomb->setAutoDefault(false);
+            auto* gomb = ujGomb(this, QStringLiteral("BOrbis_%1_%2").arg(r + 1).arg(c + 1), {},
+                                {295 - 32 * (8 - c), 140 - 26 * (3 - r), gombSzelesseg, gombMagassag});
             connect(gomb, &QPushButton::clicked, this, [this, gomb] { BOrbisClick(gomb); });
             cellak_.push_back({r + 1, c + 1, gomb});
         }

@@ -5,6 +5,7 @@
 
 #include "events/analogia.h"
 #include "shell/ablakelhelyezes.h"
+#include "shell/gomb.h"
 #include "shell/helysegmezo.h"
 #include "shell/szemelyiadatok.h"
 #include "tables/efemerida.h"
@@ -61,10 +62,7 @@ QLineEdit* TForm10::szovegMezo(const char* nev, const QRect& hely) {
 
 QPushButton* TForm10::gomb(const char* nev, const QString& felirat, const QRect& hely,
                            void (TForm10::*kezelo)()) {
-    auto* uj = new QPushButton(felirat, this);
-    uj->setObjectName(nev);
-    uj->setGeometry(hely);
-    uj->setAutoDefault(false);
+    auto* uj = ujGomb(this, nev, felirat, hely);
     connect(uj, &QPushButton::clicked, this, kezelo);
     return uj;
 }

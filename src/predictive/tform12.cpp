@@ -1,12 +1,11 @@
 #include "predictive/tform12.h"
 
-#include <algorithm>
-
 #include <QPushButton>
 
 #include "display/qtvaszon.h"
 #include "predictive/primer.h"
 #include "shell/ablakelhelyezes.h"
+#include "shell/gomb.h"
 
 namespace {
 
@@ -40,22 +39,16 @@ TForm12::TForm12(Allapot& allapot, FoAblak&, QWidget* fo)
     nap_ = mezo("SpinEditNap1", "nap:", 1, 31, 264, 36);
     const auto gomb = [this](const char* nev, const char* felirat, const QRect& hely,
                              void (TForm12::*kezelo)()) {
-        auto* uj = new QPushButton(felirat, this);
-        uj->setObjectName(nev);
-        uj->setGeometry(hely);
-        uj->setAutoDefault(false);
+        auto* uj = ujGomb(this, nev, felirat, hely);
         connect(uj, &QPushButton::clicked, this, kezelo);
         return uj;
     };
     gomb("Button_Rendben1", "Rendben", {384, 9, 80, 28}, &TForm12::Button_Rendben1Click)->setDefault(true);
     gomb("Button_Megsem1", "Mégsem", {470, 9, 80, 28}, &TForm12::Button_Megsem1Click);
-    auto* pontositasGomb = new QPushButton("Pontosítás", this);
-    pontositasGomb->setObjectName("Button_Pontositas1");
-    pontositasGomb->setGeometry(450, 436, 100, 28);
-    pontositasGomb->setAutoDefault(false);
-    connect(pontositasGomb, &QPushButton::clicked, this, [this] {
-        if (pontositas) pontositas();
-    });
+    connect(ujGomb(this, "Button_Pontositas1", "Pontosítás", {450, 436, 100, 28}), &QPushButton::clicked,
+            this, [this] {
+                if (pontositas) pontositas();
+            });
 
     label8_ = new QLabel("Solar-Nap:", this);
     label8_->setObjectName("Label8");
@@ -86,9 +79,7 @@ void TForm12::megmutat(int kezdoEv) {
     nap_->setValue(1);
     memo1_->clear();
     betukEsFejek();
-    const int szel = std::min(width(), fo_->width());
-    const int mag = std::min(height(), fo_->height());
-    move(fo_->x() + fo_->width() - szel, fo_->y() + fo_->height() - alsoTav - mag);
+    jobbraLent(*this, *fo_, alsoTav);
     show();
     raise();
 }

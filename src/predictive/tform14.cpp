@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "shell/ablakelhelyezes.h"
+#include "shell/gomb.h"
 #include "shell/helysegmezo.h"
 #include "shell/szemelyiadatok.h"
 #include "tables/telepulesek.h"
@@ -75,12 +76,9 @@ TForm14::TForm14(Allapot& allapot, FoAblak&, QWidget* fo)
     jobb->addWidget(koordinata_[2], 6, 2);
     jobb->addWidget(koordinata_[3], 6, 3);
     jobb->setRowStretch(7, 1);
-    auto* rendben = new QPushButton("Rendben", this);
-    rendben->setObjectName("Button_Rendben1");
+    auto* rendben = ujGomb(this, "Button_Rendben1", "Rendben");
     rendben->setDefault(true);
-    auto* megsem = new QPushButton("Mégsem", this);
-    megsem->setObjectName("Button_Megsem1");
-    megsem->setAutoDefault(false);
+    auto* megsem = ujGomb(this, "Button_Megsem1", "Mégsem");
     jobb->addWidget(rendben, 8, 0, 1, 2);
     jobb->addWidget(megsem, 8, 2, 1, 2);
 

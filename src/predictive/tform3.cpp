@@ -6,6 +6,7 @@
 #include "display/qtvaszon.h"
 #include "predictive/ingresszio.h"
 #include "shell/ablakelhelyezes.h"
+#include "shell/gomb.h"
 #include "tables/efemerida.h"
 
 namespace {
@@ -44,14 +45,9 @@ TForm3::TForm3(Allapot& allapot, FoAblak&, QWidget* fo)
     direkcio2_->setWordWrap(true);
     direkcio2_->setTextFormat(Qt::PlainText);
 
-    auto* rendben = new QPushButton("Rendben", this);
-    rendben->setObjectName("Button_Rendben1");
-    rendben->setGeometry(90, 192, 100, 28);
+    auto* rendben = ujGomb(this, "Button_Rendben1", "Rendben", {90, 192, 100, 28});
     rendben->setDefault(true);
-    auto* megsem = new QPushButton("Mégsem", this);
-    megsem->setObjectName("Button_Megsem1");
-    megsem->setGeometry(210, 192, 100, 28);
-    megsem->setAutoDefault(false);
+    auto* megsem = ujGomb(this, "Button_Megsem1", "Mégsem", {210, 192, 100, 28});
     connect(rendben, &QPushButton::clicked, this, &TForm3::Button_Rendben1Click);
     connect(megsem, &QPushButton::clicked, this, &TForm3::Button_Megsem1Click);
     connect(this, &QDialog::rejected, this, [this] { allapot_.Megsem3 = true; });

@@ -14,6 +14,7 @@
 #include "display/qtvaszon.h"
 #include "rectify/pontositas.h"
 #include "shell/ablakelhelyezes.h"
+#include "shell/gomb.h"
 
 namespace {
 
@@ -94,17 +95,12 @@ void TForm13::memokEpitese() {
 }
 
 void TForm13::gombok() {
-    const auto gomb = [this](const char* nev, const char* felirat) {
-        auto* uj = new QPushButton(felirat, this);
-        uj->setObjectName(nev);
-        uj->setAutoDefault(false);
-        return uj;
-    };
-    auto* rendben = gomb("Button_Rendben1", "Rendben");
+    auto* rendben = ujGomb(this, "Button_Rendben1", "Rendben");
     rendben->setDefault(true);
     connect(rendben, &QPushButton::clicked, this, &TForm13::Button_Rendben1Click);
-    connect(gomb("Button_Megsem1", "Mégsem"), &QPushButton::clicked, this, &TForm13::Button_Megsem1Click);
-    connect(gomb("Button_Eletesemenyek1", "Életesemények"), &QPushButton::clicked, this, [this] {
+    connect(ujGomb(this, "Button_Megsem1", "Mégsem"), &QPushButton::clicked, this,
+            &TForm13::Button_Megsem1Click);
+    connect(ujGomb(this, "Button_Eletesemenyek1", "Életesemények"), &QPushButton::clicked, this, [this] {
         if (eletesemenyek) eletesemenyek();
     });
 }

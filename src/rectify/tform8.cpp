@@ -1,11 +1,10 @@
 #include "rectify/tform8.h"
 
-#include <algorithm>
-
 #include <QGuiApplication>
 
 #include "display/betutipus.h"
 #include "shell/ablakelhelyezes.h"
+#include "shell/gomb.h"
 #include "tables/szotar.h"
 
 namespace {
@@ -70,10 +69,7 @@ void TForm8::allandoVezerlok() {
 
     const auto gomb = [this](const char* nev, const char* felirat, int hely, void (TForm8::*kezelo)()) {
         constexpr int szelesseg = 74;
-        auto* uj = new QPushButton(felirat, this);
-        uj->setObjectName(nev);
-        uj->setGeometry(8 + hely * (szelesseg + 3), 56, szelesseg, 28);
-        uj->setAutoDefault(false);
+        auto* uj = ujGomb(this, nev, felirat, {8 + hely * (szelesseg + 3), 56, szelesseg, 28});
         connect(uj, &QPushButton::clicked, this, kezelo);
     };
     gomb("Button1Keresesm", "Keresés -", 0, &TForm8::Button1KeresesmClick);
@@ -84,14 +80,10 @@ void TForm8::allandoVezerlok() {
 
 void TForm8::hazGombok() {
     for (int haz = 1; haz <= 12; ++haz) {
-        auto gomb = std::make_unique<QPushButton>(cimke(haz), this);
-        gomb->setObjectName(QStringLiteral("BMundan%1").arg(haz));
-        gomb->setAutoDefault(false);
+        const QPoint hely((haz - 1) % 6 * hazGombKoz.x(), (haz - 1) / 6 * hazGombKoz.y());
+        std::unique_ptr<QPushButton> gomb(ujGomb(this, QStringLiteral("BMundan%1").arg(haz), cimke(haz),
+                                                 {hazGombKezdet + hely, hazGombMeret}));
         gomb->setStyleSheet("padding: 0px");
-        const int sor = (haz - 1) / 6;
-        const int oszlop = (haz - 1) % 6;
-        gomb->setGeometry(
-            {hazGombKezdet + QPoint(oszlop * hazGombKoz.x(), sor * hazGombKoz.y()), hazGombMeret});
         connect(gomb.get(), &QPushButton::clicked, this, [this, g = gomb.get()] { BMundanClick(g->text()); });
         hazGombok_[static_cast<std::size_t>(haz - 1)] = std::move(gomb);
     }
@@ -121,9 +113,7 @@ void TForm8::megmutat() {
     for (const auto& gomb : hazGombok_) gomb->show();
     for (const auto& sor : cimkek_)
         for (const auto& felirat : sor) felirat->show();
-    const int szel = std::min(width(), fo_->width());
-    const int mag = std::min(height(), fo_->height());
-    move(fo_->x() + fo_->width() - szel, fo_->y() + fo_->height() - alsoTav - mag);
+    jobbraLent(*this, *fo_, alsoTav);
     show();
     raise();
 }

@@ -21,3 +21,9 @@ void kozepre(QWidget& ablak, const QWidget& fo) {
 void felulKozepre(QWidget& ablak, const QWidget& fo) {
     ablak.move(kozepHely(fo.x(), fo.width(), ablak.width()), fo.y() + felsoTav);
 }
+
+void jobbraLent(QWidget& ablak, const QWidget& fo, int alsoTav) {
+    const int szelesseg = std::min(ablak.width(), fo.width());
+    const int magassag = std::min(ablak.height(), fo.height());
+    ablak.move(fo.x() + fo.width() - szelesseg, fo.y() + fo.height() - alsoTav - magassag);
+}

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "shell/ablakelhelyezes.h"
+#include "shell/gomb.h"
 #include "shell/helysegmezo.h"
 
 TForm2::TForm2(Allapot& allapot, FoAblak& ablak, QWidget* fo)
@@ -32,13 +33,6 @@ QLabel* cimke(const QString& szoveg) {
     auto* felirat = new QLabel(szoveg);
     felirat->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     return felirat;
-}
-
-QPushButton* gomb(QWidget* szulo, const char* nev, const QString& felirat) {
-    auto* uj = new QPushButton(felirat, szulo);
-    uj->setObjectName(nev);
-    uj->setAutoDefault(false);
-    return uj;
 }
 
 }  // namespace
@@ -106,10 +100,10 @@ void TForm2::epites() {
     racs->addWidget(cimke("Jegyzet:"), 9, 0);
     racs->addWidget(memo_Jegyzet1_, 9, 1, 1, 5);
 
-    auto* rendben = gomb(this, "Button_Rendben1", "Rendben");
+    auto* rendben = ujGomb(this, "Button_Rendben1", "Rendben");
     rendben->setDefault(true);
-    auto* megsem = gomb(this, "Button_Megsem1", "Mégsem");
-    auto* esemenyek = gomb(this, "Button_Eletesemenyek1", "Életesemények");
+    auto* megsem = ujGomb(this, "Button_Megsem1", "Mégsem");
+    auto* esemenyek = ujGomb(this, "Button_Eletesemenyek1", "Életesemények");
     auto* gombok = new QHBoxLayout;
     gombok->addWidget(esemenyek);
     gombok->addStretch();

@@ -7,6 +7,7 @@
 #include <QUrl>
 
 #include "shell/ablakelhelyezes.h"
+#include "shell/gomb.h"
 #include "shell/hang.h"
 
 namespace {
@@ -32,9 +33,9 @@ TForm5::TForm5(Allapot& allapot, FoAblak&, QWidget* fo) : QDialog(fo), allapot_(
     setWindowTitle("Hanglejátszás");
     auto* sor = new QHBoxLayout(this);
     sor->setContentsMargins(0, 0, 0, 0);
-    QPushButton* lejatszas = gomb("Lejatszas1", "▶");
-    QPushButton* szunet = gomb("Szunet1", "▮▮");
-    QPushButton* megallitas = gomb("Megallitas1", "■");
+    QPushButton* lejatszas = ujGomb(this, "Lejatszas1", "▶");
+    QPushButton* szunet = ujGomb(this, "Szunet1", "▮▮");
+    QPushButton* megallitas = ujGomb(this, "Megallitas1", "■");
     for (QPushButton* g : {lejatszas, szunet, megallitas}) sor->addWidget(g);
     connect(lejatszas, &QPushButton::clicked, this, [this] { lejatszo().play(); });
     connect(szunet, &QPushButton::clicked, this, [this] { lejatszo().pause(); });
@@ -49,13 +50,6 @@ QMediaPlayer& TForm5::lejatszo() {
     lejatszo_->setAudioOutput(new QAudioOutput(lejatszo_));
     connect(lejatszo_, &QMediaPlayer::errorOccurred, this, &TForm5::hiba);
     return *lejatszo_;
-}
-
-QPushButton* TForm5::gomb(const char* nev, const QString& felirat) {
-    auto* uj = new QPushButton(felirat, this);
-    uj->setObjectName(nev);
-    uj->setAutoDefault(false);
-    return uj;
 }
 
 void TForm5::HangLink() {

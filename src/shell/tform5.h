@@ -27,7 +27,6 @@ private:
     /// The player; made at the first sound, since most charts have none and it loads the media system.
     QMediaPlayer& lejatszo();
     void hiba(int kod, const QString& szoveg);
-    QPushButton* gomb(const char* nev, const QString& felirat);
 
     Allapot& allapot_;
     QWidget* fo_;

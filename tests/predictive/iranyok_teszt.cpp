@@ -5,11 +5,10 @@
 
 #include <gtest/gtest.h>
 
-#include "display/oldalpanel.h"
+#include "mintakeplet.h"
 #include "predictive/ingresszio.h"
 #include "predictive/primer.h"
 #include "predictive/tercier.h"
-#include "shell/kepletciklus.h"
 #include "tables/efemerida.h"
 #include "tables/haztablak.h"
 
@@ -18,14 +17,7 @@ namespace {
 constexpr TPillanat szuletesnap{1975, 7, 21, 6, 4, 9};
 
 Allapot szuletes(const TPillanat& p = szuletesnap) {
-    Allapot a;
-    a.Keplet.pillanat(p);
-    a.Keplet.helyseg = "Szeged";
-    DatumRendezes(a.Keplet);
-    IdoAdatok(a);
-    KepletCiklus(a);
-    FenyszogPontSzamitas(a);
-    return a;
+    return szegediKeplet(p);
 }
 
 TPillanat napokkal(TPillanat p, int napok) {

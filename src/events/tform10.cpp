@@ -122,10 +122,10 @@ void TForm10::mezokEpitese() {
     cimke("Szél.:", 480, y3 + 4);
     szelFok_ = szamMezo("SpinEditSzelFok1", -180, 180, {513, y3, 54, 22});
     szelPerc_ = szamMezo("SpinEditSzelPerc1", 0, 59, {570, y3, 44, 22});
-    cimke("Solar-Nap:", 620, y3 + 4);
+    cimke("Solar-Nap:", 613, y3 + 4);
     solarNap_ = new QLabel(this);
     solarNap_->setObjectName("LabelSolarNap1");
-    solarNap_->setGeometry(672, y3, 18, 22);
+    solarNap_->setGeometry(669, y3, 21, 22);
 
     const int y4 = y3 + 34;
     gomb("Button_Rendben1", "Rendben", {90, y4, 100, 26}, &TForm10::Button_Rendben1Click)->setDefault(true);
@@ -142,9 +142,9 @@ void TForm10::megmutat(std::function<TSzuletes()> szuletes) {
     szuletes_ = std::move(szuletes);
     masodik_ = allapot_.Esemenyek;
     kijelolt_ = 0;
-    if (helyseg_->count() == 0) {
+    {
         const QSignalBlocker blokk(helyseg_);
-        helysegekHozzaadasa(*helyseg_);
+        if (helyseg_->count() == 0) helysegekHozzaadasa(*helyseg_);
         helyseg_->setEditText(qszoveg(allapot_.Keplet.helyseg));
     }
     ComboBoxHelyseg1Change();

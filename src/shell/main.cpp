@@ -9,6 +9,7 @@
 int main(int argc, char** argv) {
     QApplication program(argc, argv);
     QApplication::setApplicationName("Korvend");
+    QApplication::setDesktopFileName("korvend");
     QTranslator gombok;
     if (gombok.load("qtbase_hu", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&gombok);

@@ -84,7 +84,7 @@ std::string fenyszogParok(const TMundanLanc& lanc, int bolygo) {
 /// The six items of one ruler, in the order of the captions; the fifth is not the ruler's.
 std::array<std::string, 6> uralkodoOszlop(const TMundanLanc& lanc, char betu) {
     const int b = betuBolygo(betu);
-    if (b == 0) return {" ", " ", " ", " ", "", " "};
+    if (b == 0) return {" "};
     const int haz = lanc.BolygoHazak[b];
     return {std::string(1, betu),
             std::string(jegyBetu(lanc.JegySzam[b])),

@@ -26,7 +26,7 @@ struct TAnalogiaSor {
 };
 
 /// The label rows of a house: seven of the mundane house, an empty one, seven of the horizon house. Each
-/// value is followed by four blanks; a ruler that the sign lacks shows one blank more.
+/// value is followed by four blanks; in the row of the rulers the one that a sign lacks is itself a blank.
 /// @param haz  1..12
 std::array<TAnalogiaSor, analogiaSorok> AnalogiaSorok(const TMundanLanc& lanc, int haz);
 

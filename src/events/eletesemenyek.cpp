@@ -11,17 +11,29 @@
 #include "tables/szotar.h"
 #include "tables/szoveg.h"
 
-TPillanat EsemenyGmt(const TEletesemeny& e) {
-    TPillanat p{e.ev, e.ho, e.nap, e.ora, e.perc, e.mperc};
-    int nap = DatumbolJulianszam(p.ev, p.ho, p.nap);
+namespace {
+
+/// The hour in Greenwich and the day number that it falls on.
+std::int32_t gmtNap(const TEletesemeny& e, TPillanat& p) {
+    p = {e.ev, e.ho, e.nap, e.ora, e.perc, e.mperc};
+    const int nap = DatumbolJulianszam(p.ev, p.ho, p.nap);
     p.ora = alsoBitek(std::int64_t{e.ora} - e.idozona - e.nyariIdo);
     if (p.ora > 23) {
         p.ora -= 24;
-        ++nap;
-    } else if (p.ora < 0) {
-        p.ora += 24;
-        --nap;
+        return nap + 1;
     }
+    if (p.ora < 0) {
+        p.ora += 24;
+        return nap - 1;
+    }
+    return nap;
+}
+
+}  // namespace
+
+TPillanat EsemenyGmt(const TEletesemeny& e) {
+    TPillanat p;
+    const std::int32_t nap = gmtNap(e, p);
     JulianszambolDatum(nap, p.ev, p.ho, p.nap);
     return p;
 }
@@ -47,9 +59,8 @@ double natalisNap(const TSzuletes& sz, TBolygok& bolygok) {
 std::int32_t EsemenySolarNap(const TSzuletes& szuletes, const TEletesemeny& esemeny) {
     TBolygok bolygok;
     const double nap = natalisNap(szuletes, bolygok);
-    TPillanat gmt = EsemenyGmt(esemeny);
-    const int esemenyNap = DatumbolJulianszam(gmt.ev, gmt.ho, gmt.nap) - julianszamAlap;
-    const TSolar solar = SolarKereses(nap, esemenyNap);
+    TPillanat gmt;
+    const TSolar solar = SolarKereses(nap, gmtNap(esemeny, gmt) - julianszamAlap);
 
     std::int32_t julianszam = solar.napsorszam + julianszamAlap;
     double napresz = 0;

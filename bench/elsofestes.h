@@ -12,7 +12,8 @@ public:
 
 private:
     bool eventFilter(QObject*, QEvent* esemeny) override {
-        if (esemeny->type() == QEvent::Paint) QTimer::singleShot(0, qApp, &QApplication::quit);
+        // Not quit(): that asks the windows first, and the main window asks the user.
+        if (esemeny->type() == QEvent::Paint) QTimer::singleShot(0, qApp, [] { QApplication::exit(); });
         return false;
     }
 };

@@ -6,12 +6,22 @@
 #include "tables/szoveg.h"
 
 std::string datumSzoveg(const TPillanat& p) {
-    return std::to_string(p.ev).append(".").append(ketJegy(p.ho)).append(".").append(ketJegy(p.nap)).append(".");
+    return std::to_string(p.ev)
+        .append(".")
+        .append(ketJegy(p.ho))
+        .append(".")
+        .append(ketJegy(p.nap))
+        .append(".");
 }
 
 std::string idopontSzoveg(const TPillanat& p) {
-    return datumSzoveg(p).append(" ").append(ketJegy(p.ora)).append(":").append(ketJegy(p.perc)).append(":").append(
-        ketJegy(p.mperc));
+    return datumSzoveg(p)
+        .append(" ")
+        .append(ketJegy(p.ora))
+        .append(":")
+        .append(ketJegy(p.perc))
+        .append(":")
+        .append(ketJegy(p.mperc));
 }
 
 namespace {

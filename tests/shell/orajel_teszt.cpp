@@ -1,9 +1,13 @@
 // The tick, the `Most` mode and the start-up, without a window.
 
+#include <functional>
+
 #include <gtest/gtest.h>
 
+#include "predictive/visszateresek.h"
 #include "probaablak.h"
 #include "shell/indulas.h"
+#include "shell/nezet.h"
 #include "shell/orajel.h"
 #include "shell/statuszsor.h"
 #include "shell/szemelyiadatok.h"
@@ -244,6 +248,39 @@ TEST_F(TOrajel, APontositasAPrimerElottARajzUtan) {
     a.LeptetesVolt = true;
     orajelek(1);
     EXPECT_EQ(ablak.hivasok, (THivasok{"Ervenytelenit", "RajzolKeplet", "PontositasFuttat", "PrimerFuttat"}));
+}
+
+TEST_F(TOrajel, MindenUjraszamitasUtanAListakIs) {
+    szuletes();
+    a.PontositasFut = a.PrimerFut = true;
+    VisszateresKereses(a, RevolucioFajta(1), VisszateresCel(a, RevolucioFajta(1)));
+    const std::function<void()> parancsok[]{
+        [&] { ValtParancs(a, ablak); },
+        [&] { HorizontParancs(a, ablak); },
+        [&] { MundanParancs(a, ablak); },
+        [&] { DekadParancs(a, ablak); },
+        [&] { BevittKepletMutatasa(a, ablak); },
+        [&] { VisszateresKeplet(a, ablak, RevolucioFajta(1), 1, "Pécs"); },
+        [&] { MostParancs(a, ablak); },  // back from the derived chart
+    };
+    for (const auto& parancs : parancsok) {
+        ablak.hivasok.clear();
+        parancs();
+        // Last of all, after the drawing, the rectification first.
+        ASSERT_GE(ablak.hivasok.size(), 3U);
+        EXPECT_EQ(THivasok(ablak.hivasok.end() - 3, ablak.hivasok.end()),
+                  (THivasok{"RajzolKeplet", "PontositasFuttat", "PrimerFuttat"}));
+    }
+}
+
+TEST_F(TOrajel, AListakCsakHaKertek) {
+    szuletes();
+    a.PrimerFut = true;
+    ValtParancs(a, ablak);
+    EXPECT_EQ(ablak.hivasok.back(), "PrimerFuttat");
+    a.PrimerFut = false;
+    ValtParancs(a, ablak);
+    EXPECT_EQ(ablak.hivasok.back(), "RajzolKeplet");
 }
 
 TEST_F(TOrajel, AHangCimeGordul) {

@@ -4,5 +4,5 @@
 
 /// A birth chart with all that the searches read.
 inline Allapot mintaKeplet() {
-    return szegediKeplet({1975, 3, 21, 6, 4, 9});
+    return szuletesiKeplet({1975, 3, 21, 6, 4, 9});
 }

@@ -2,16 +2,30 @@
 
 #include "display/oldalpanel.h"
 #include "shell/kepletciklus.h"
+#include "shell/szemelyiadatok.h"
 
-/// A birth at Szeged on screen, with the aspect points of its drawing.
-inline Allapot szegediKeplet(const TPillanat& p) {
+/// A birth on screen, with the aspect points of its drawing.
+inline Allapot szuletesiKeplet(const TPillanat& p, const char* hely = "Szeged") {
     Allapot a;
     a.Keplet.pillanat(p);
-    a.Keplet.helyseg = "Szeged";
+    a.Keplet.helyseg = hely;
     DatumRendezes(a.Keplet);
     a.RadixPillanat = a.SzuletesiPillanat = a.Keplet.pillanat();
     IdoAdatok(a);
     KepletCiklus(a);
     FenyszogPontSzamitas(a);
     return a;
+}
+
+/// A person born at Szeged, as the personal-data dialog gives it.
+inline TSzemelyiAdatok mintaSzemely(const TPillanat& p) {
+    TSzemelyiAdatok m;
+    m.nev = "Minta Anna";
+    m.ido = p;
+    m.helyseg = "Szeged";
+    m.hosszFok = 20;
+    m.hosszPerc = 9;
+    m.szelFok = 46;
+    m.szelPerc = 14;
+    return m;
 }

@@ -8,6 +8,8 @@
 #include <QList>
 #include <QPaintDevice>
 
+#include "shell/qszoveg.h"
+
 namespace {
 
 /// A face as the system finds it, and the height of its character cell for a font of one pixel.
@@ -39,10 +41,6 @@ const QRawFont& meretezettBetu(const QString& nev, int magassag) {
     QRawFont betu = keszlet.alap;
     betu.setPixelSize(magassag / keszlet.cellaArany);
     return *betuk.insert(kulcs, betu);
-}
-
-QString qszoveg(std::string_view szoveg) {
-    return QString::fromUtf8(szoveg.data(), static_cast<qsizetype>(szoveg.size()));
 }
 
 /// Glyphs of a text in a row; empty if the face lacks one of its characters.

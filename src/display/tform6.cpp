@@ -6,6 +6,7 @@
 #include "display/betutipus.h"
 #include "shell/ablakelhelyezes.h"
 #include "shell/gomb.h"
+#include "shell/qszoveg.h"
 #include "tables/szotar.h"
 
 namespace {
@@ -88,7 +89,7 @@ void TForm6::cimkeEpites(const QString& szoveg, const QString& betutipus, int x,
 
 void TForm6::racsEpites() {
     const QString szimbolum = qszoveg(allapot_.Rajz.szimbolumFont);
-    const QString szoveges = QString::fromUtf8(szovegFont);
+    const QString szoveges = qszoveg(szovegFont);
     for (int i = 0; i < 12; ++i) {
         const bool tengely = i < 2;
         const QString felirat =

@@ -1,12 +1,11 @@
 #include "display/tform9.h"
 
-#include <algorithm>
-
 #include <QGridLayout>
-#include <QPushButton>
 
 #include "shell/ablakelhelyezes.h"
 #include "shell/betumappak.h"
+#include "shell/gomb.h"
+#include "shell/qszoveg.h"
 
 TForm9::TForm9(Allapot& allapot, FoAblak&, QWidget* fo)
     : QDialog(fo), allapot_(allapot), fo_(fo), comboBox1_(new QComboBox(this)) {
@@ -15,10 +14,9 @@ TForm9::TForm9(Allapot& allapot, FoAblak&, QWidget* fo)
     comboBox1_->setObjectName("ComboBox1");
     comboBox1_->setEditable(true);
     comboBox1_->setMinimumContentsLength(20);
-    auto* rendben = new QPushButton("Rendben", this);
-    rendben->setObjectName("Button_Rendben1");
-    auto* megsem = new QPushButton("Mégsem", this);
-    megsem->setObjectName("Button_Megsem1");
+    auto* rendben = ujGomb(this, "Button_Rendben1", "Rendben");
+    rendben->setDefault(true);
+    auto* megsem = ujGomb(this, "Button_Megsem1", "Mégsem");
     auto* racs = new QGridLayout(this);
     racs->addWidget(comboBox1_, 0, 0, 1, 2);
     racs->addWidget(rendben, 1, 0);
@@ -31,8 +29,8 @@ void TForm9::megmutat() {
     comboBox1_->clear();
     comboBox1_->addItems(szimbolumFontok());
     adjustSize();
-    const int szel = std::min(width(), fo_->width());
-    move(fo_->x() + fo_->width() - szel, fo_->y() + 30);
+    constexpr int felsoTav = 30;  // pixels
+    jobbraFent(*this, *fo_, felsoTav);
     exec();
 }
 

@@ -35,3 +35,12 @@ void CsillagIdo(std::int32_t ora, std::int32_t perc, std::int32_t mperc, double&
     armcMperc = static_cast<double>(s % 60) + kf;
     if (armcOra > 23) armcOra -= 24;
 }
+
+TCsillagIdo CsillagIdo(std::int32_t julianszam, std::int32_t ora, std::int32_t perc, std::int32_t mperc,
+                       std::int32_t hosszusag, std::int32_t nyariIdo, std::int32_t idozona) {
+    TCsillagIdo ido;
+    ido.julianszam = julianszam;
+    CsillagIdo(ora, perc, mperc, ido.napresz, ido.julianszam, hosszusag, ido.armcMperc, ido.armcPerc,
+               ido.armcOra, nyariIdo, idozona);
+    return ido;
+}

@@ -17,3 +17,15 @@
 void CsillagIdo(std::int32_t ora, std::int32_t perc, std::int32_t mperc, double& napresz,
                 std::int32_t& julianszam, std::int32_t hosszusag, double& armcMperc, std::int32_t& armcPerc,
                 std::int32_t& armcOra, std::int32_t nyariIdo, std::int32_t idozona);
+
+/// The same with its results together.
+struct TCsillagIdo {
+    std::int32_t julianszam = 0;  ///< day in GMT
+    double napresz = 0;           ///< fraction of that day
+    std::int32_t armcOra = 0, armcPerc = 0;
+    double armcMperc = 0;
+};
+
+/// @param julianszam  day of the clock, which stays as it is: the Greenwich day comes out beside it
+TCsillagIdo CsillagIdo(std::int32_t julianszam, std::int32_t ora, std::int32_t perc, std::int32_t mperc,
+                       std::int32_t hosszusag, std::int32_t nyariIdo, std::int32_t idozona);

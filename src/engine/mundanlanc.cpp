@@ -9,19 +9,10 @@
 #include "tables/nyariido.h"
 #include "tables/szamtan.h"
 
-TMundanIdo MundanCsillagIdo(std::int32_t julianszam, std::int32_t ora, std::int32_t perc, std::int32_t mperc,
-                            const TMundanHely& hely) {
-    TMundanIdo ido;
-    ido.julianszam = julianszam;
-    const int nyariIdo = hely.nyariIdo ? *hely.nyariIdo : NyariIdoE(julianszam, ora, perc, mperc);
-    CsillagIdo(ora, perc, mperc, ido.napresz, ido.julianszam, hely.hosszusag, ido.armcMperc, ido.armcPerc,
-               ido.armcOra, nyariIdo, hely.idozona);
-    return ido;
-}
-
 void MundanLanc(std::int32_t julianszam, std::int32_t ora, std::int32_t perc, std::int32_t mperc,
                 const TMundanHely& hely, const TOrbisTabla& OrbisTabla, TMundanLanc& lanc) {
-    const TMundanIdo ido = MundanCsillagIdo(julianszam, ora, perc, mperc, hely);
+    const int nyariIdo = hely.nyariIdo ? *hely.nyariIdo : NyariIdoE(julianszam, ora, perc, mperc);
+    const TCsillagIdo ido = CsillagIdo(julianszam, ora, perc, mperc, hely.hosszusag, nyariIdo, hely.idozona);
     Hazak(ido.armcOra, ido.armcPerc, ido.armcMperc, lanc.Hazcsucsok, hely.szelesseg);
     BolygoHelyek(ido.julianszam, ido.napresz, lanc.Bolygok, lanc.Mozgasok);
 

@@ -32,16 +32,6 @@ struct TMundanLanc {
     char MundanEredmeny = '0';  ///< as `MundanEllenorzes` gives it
 };
 
-/// Sidereal time of a trial chart: the day goes in and stays, the Greenwich day comes out beside it.
-struct TMundanIdo {
-    std::int32_t julianszam = 0;  ///< day in GMT
-    double napresz = 0;           ///< fraction of that day
-    std::int32_t armcOra = 0, armcPerc = 0;
-    double armcMperc = 0;
-};
-TMundanIdo MundanCsillagIdo(std::int32_t julianszam, std::int32_t ora, std::int32_t perc, std::int32_t mperc,
-                            const TMundanHely& hely);
-
 /// Runs the whole pipeline for a moment of the zone's clock.
 /// @param julianszam  day of the clock
 void MundanLanc(std::int32_t julianszam, std::int32_t ora, std::int32_t perc, std::int32_t mperc,

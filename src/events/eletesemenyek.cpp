@@ -2,7 +2,6 @@
 
 #include "engine/bolygohelyek.h"
 #include "engine/csillagido.h"
-#include "engine/hazak.h"
 #include "engine/uralkodok.h"
 #include "predictive/solarkereses.h"
 #include "shell/szemelyiadatok.h"
@@ -40,41 +39,29 @@ TPillanat EsemenyGmt(const TEletesemeny& e) {
 
 namespace {
 
-double natalisNap(const TSzuletes& sz, TBolygok& bolygok) {
+/// Longitude of the natal Sun, arcseconds.
+double natalisNap(const TSzuletes& sz) {
     TPillanat p = sz.pillanat;
-    std::int32_t julianszam = DatumbolJulianszam(p.ev, p.ho, p.nap);
-    double napresz = 0;
-    double armcMperc = 0;
-    std::int32_t armcPerc = 0;
-    std::int32_t armcOra = 0;
-    CsillagIdo(p.ora, p.perc, p.mperc, napresz, julianszam, sz.hosszusag, armcMperc, armcPerc, armcOra,
-               sz.nyariIdo, sz.idozona);
+    const std::int32_t nap = DatumbolJulianszam(p.ev, p.ho, p.nap);
+    const TCsillagIdo ido = CsillagIdo(nap, p.ora, p.perc, p.mperc, sz.hosszusag, sz.nyariIdo, sz.idozona);
+    TBolygok bolygok;
     TMozgasok mozgasok;
-    BolygoHelyek(julianszam, napresz, bolygok, mozgasok);
+    BolygoHelyek(ido.julianszam, ido.napresz, bolygok, mozgasok);
     return bolygok[1] * 3600;
 }
 
 }  // namespace
 
 std::int32_t EsemenySolarNap(const TSzuletes& szuletes, const TEletesemeny& esemeny) {
-    TBolygok bolygok;
-    const double nap = natalisNap(szuletes, bolygok);
     TPillanat gmt;
-    const TSolar solar = SolarKereses(nap, gmtNap(esemeny, gmt) - julianszamAlap);
-
-    std::int32_t julianszam = solar.napsorszam + julianszamAlap;
-    double napresz = 0;
-    double armcMperc = 0;
-    std::int32_t armcPerc = 0;
-    std::int32_t armcOra = 0;
-    CsillagIdo(solar.ora, solar.perc, solar.mperc, napresz, julianszam,
-               ivmasodpercre(esemeny.hosszFok, esemeny.hosszPerc), armcMperc, armcPerc, armcOra, 0, 0);
-    THazcsucsok csucsok;
-    Hazak(armcOra, armcPerc, armcMperc, csucsok, ivmasodpercre(esemeny.szelFok, esemeny.szelPerc));
+    const TSolar solar = SolarKereses(natalisNap(szuletes), gmtNap(esemeny, gmt) - julianszamAlap);
+    const TSolarKeplet keplet = SolarKeplet(solar, ivmasodpercre(esemeny.hosszFok, esemeny.hosszPerc),
+                                            ivmasodpercre(esemeny.szelFok, esemeny.szelPerc));
+    TBolygok bolygok;
     TMozgasok mozgasok;
-    BolygoHelyek(julianszam, napresz, bolygok, mozgasok);
+    BolygoHelyek(keplet.ido.julianszam, keplet.ido.napresz, bolygok, mozgasok);
     TBolygoHazak hazak;
-    HazBesorolas(bolygok, csucsok, hazak);
+    HazBesorolas(bolygok, keplet.csucsok, hazak);
     return hazak[1];
 }
 

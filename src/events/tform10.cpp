@@ -7,6 +7,7 @@
 #include "shell/ablakelhelyezes.h"
 #include "shell/gomb.h"
 #include "shell/helysegmezo.h"
+#include "shell/qszoveg.h"
 #include "shell/szemelyiadatok.h"
 #include "tables/efemerida.h"
 #include "tables/nyariido.h"
@@ -197,14 +198,14 @@ void TForm10::mezokMutatasa(const TEletesemeny& e) {
     hosszPerc_->setValue(e.hosszPerc);
     szelFok_->setValue(e.szelFok);
     szelPerc_->setValue(e.szelPerc);
-    solarNap_->setText(QString::fromUtf8(HazCimke(e.solarNap)));
+    solarNap_->setText(qszoveg(HazCimke(e.solarNap)));
 }
 
 void TForm10::Button_Rendben1Click() {
     TEletesemeny e = mezok();
     e.solarNap = EsemenySolarNap(szuletes_(), e);
     if (!EsemenyFelvetel(allapot_.Esemenyek, kijelolt_, e)) return;
-    solarNap_->setText(QString::fromUtf8(HazCimke(e.solarNap)));
+    solarNap_->setText(qszoveg(HazCimke(e.solarNap)));
     listaMutatasa();
 }
 
@@ -233,17 +234,20 @@ void TForm10::ComboBoxHelyseg1Change() {
     hosszPerc_->setValue(fokPercre(hely.hosszusag).perc);
     szelFok_->setValue(fokPercre(hely.szelesseg).fok);
     szelPerc_->setValue(fokPercre(hely.szelesseg).perc);
-    SpinEditEv1Change();
+    nyariIdo_->setValue(allapot_.Szemely.idoTipus == "ZN" ? tablaNyariIdo() : 0);
 }
 
-void TForm10::SpinEditEv1Change() {
+int TForm10::tablaNyariIdo() const {
     std::int32_t ev = ev_->value();
     std::int32_t ho = ho_->value();
     std::int32_t nap = nap_->value();
-    const int julianszam = DatumbolJulianszam(ev, ho, nap);
-    nyariIdo_->setValue(allapot_.Szemely.idoTipus == "ZN"
-                            ? NyariIdoE(julianszam, ora_->value(), perc_->value(), mperc_->value())
-                            : 0);
+    return NyariIdoE(DatumbolJulianszam(ev, ho, nap), ora_->value(), perc_->value(), mperc_->value());
+}
+
+/// A change of the date or time asks the table whatever the kind of the clock; only a change of the place
+/// looks at the kind: meant so.
+void TForm10::SpinEditEv1Change() {
+    nyariIdo_->setValue(tablaNyariIdo());
 }
 
 void TForm10::LEletesClick(const QString& felirat) {

@@ -42,6 +42,7 @@ private:
     QPushButton* gomb(const char* nev, const QString& felirat, const QRect& hely, void (TForm10::*kezelo)());
     void cimke(const QString& szoveg, int x, int y);
     void LEletesClick(const QString& felirat);
+    int tablaNyariIdo() const;
     void listaMutatasa();
     void mezokMutatasa(const TEletesemeny& e);
     TEletesemeny mezok() const;

@@ -6,13 +6,11 @@
 
 void NatalisBolygok(Allapot& allapot, const TPillanat& pillanat, const std::string& helyseg) {
     TKeplet& k = allapot.Keplet;
-    const TPillanat kepernyo = k.pillanat();
     const std::string kepernyoHely = k.helyseg;
     k.pillanat(pillanat);
     k.helyseg = helyseg;
     DatumRendezes(k);
     IdoAdatok(allapot);
     BolygoHelyek(k.julianszam, k.napresz, k.Bolygok, k.Mozgasok);
-    k.pillanat(kepernyo);
     k.helyseg = kepernyoHely;
 }

@@ -2,7 +2,8 @@
 
 #include "shell/allapot.h"
 
-/// Puts the natal moment and bodies into the chart's work fields: place by name, summer time looked up, the
-/// sidereal step, `Bolygok`. What the picture shows stays.
+/// Makes the birth the chart's moment and computes its bodies: place by name, summer time looked up, the
+/// sidereal step, `Bolygok`. The moment stays so, also where a step or a derived chart was on screen: meant
+/// so. What the picture shows stays, and the chart's place name.
 /// @param pillanat  birth date and time, zone clock
 void NatalisBolygok(Allapot& allapot, const TPillanat& pillanat, const std::string& helyseg);

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "engine/csillagido.h"
-#include "engine/hazak.h"
 #include "engine/uralkodok.h"
 #include "predictive/solarkereses.h"
 #include "shell/statuszsor.h"
@@ -80,17 +78,8 @@ std::array<double, iranyOszlopok> IranyitottPontok(double rektMC, double iv, con
 int SolarHaz(const TBolygok& bolygok, std::int32_t julianszam, std::int32_t hosszusag,
              std::int32_t szelesseg) {
     const TSolar solar = SolarKereses(bolygok[1] * 3600, julianszam - julianszamAlap);
-    std::int32_t solarNap = solar.napsorszam + julianszamAlap;
-    double napresz = 0;
-    double armcMperc = 0;
-    std::int32_t armcPerc = 0;
-    std::int32_t armcOra = 0;
-    CsillagIdo(solar.ora, solar.perc, solar.mperc, napresz, solarNap, hosszusag, armcMperc, armcPerc, armcOra,
-               0, 0);
-    THazcsucsok csucsok;
-    Hazak(armcOra, armcPerc, armcMperc, csucsok, szelesseg);
     TBolygoHazak hazak;
-    HazBesorolas(bolygok, csucsok, hazak);
+    HazBesorolas(bolygok, SolarKeplet(solar, hosszusag, szelesseg).csucsok, hazak);
     return hazak[1];
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "engine/hazak.h"
 #include "tables/efemerida.h"
 #include "tables/szamtan.h"
 
@@ -35,4 +36,12 @@ TSolar SolarKereses(double hossz, std::int32_t kezdo) {
     solar.perc = egesz((s - solar.ora * 3600.0) / 60);
     solar.mperc = egesz(s - solar.perc * 60.0 - solar.ora * 3600.0);
     return solar;
+}
+
+TSolarKeplet SolarKeplet(const TSolar& solar, std::int32_t hosszusag, std::int32_t szelesseg) {
+    TSolarKeplet k;
+    k.ido =
+        CsillagIdo(solar.napsorszam + julianszamAlap, solar.ora, solar.perc, solar.mperc, hosszusag, 0, 0);
+    Hazak(k.ido.armcOra, k.ido.armcPerc, k.ido.armcMperc, k.csucsok, szelesseg);
+    return k;
 }

@@ -2,6 +2,9 @@
 
 #include <cstdint>
 
+#include "engine/csillagido.h"
+#include "engine/keszlet.h"
+
 /// The Sun's last passage over a longitude before a day: the scan that solar charts of life events, of
 /// primary directions and of the solar ingress share.
 struct TSolar {
@@ -17,3 +20,12 @@ struct TSolar {
 ///       arcseconds: a longitude in the last part of Pisces is missed there and found a year earlier. Meant
 ///       so.
 TSolar SolarKereses(double hossz, std::int32_t kezdo);
+
+/// The solar chart of a return, cast for a place by the Greenwich clock.
+struct TSolarKeplet {
+    TCsillagIdo ido;
+    THazcsucsok csucsok;  ///< degrees
+};
+
+/// @param hosszusag,szelesseg  arcseconds
+TSolarKeplet SolarKeplet(const TSolar& solar, std::int32_t hosszusag, std::int32_t szelesseg);

@@ -6,6 +6,7 @@
 #include "predictive/primer.h"
 #include "shell/ablakelhelyezes.h"
 #include "shell/gomb.h"
+#include "shell/qszoveg.h"
 
 namespace {
 

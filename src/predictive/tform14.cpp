@@ -1,15 +1,15 @@
 #include "predictive/tform14.h"
 
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
-#include <QVBoxLayout>
 
 #include "shell/ablakelhelyezes.h"
 #include "shell/gomb.h"
 #include "shell/helysegmezo.h"
+#include "shell/idovalaszto.h"
+#include "shell/qszoveg.h"
 #include "shell/szemelyiadatok.h"
 #include "tables/telepulesek.h"
 
@@ -20,16 +20,6 @@ QSpinBox* kijelzo(QWidget* szulo, const char* nev, int also, int felso) {
     mezo->setObjectName(nev);
     mezo->setRange(also, felso);
     return mezo;
-}
-
-QGroupBox* idoValaszto(QWidget* szulo) {
-    auto* csoport = new QGroupBox("Idő-választó", szulo);
-    csoport->setObjectName("RadioGroupIdovalaszto1");
-    auto* sor = new QVBoxLayout(csoport);
-    for (const char* felirat : {"Zóna idő (ZN)", "Helyi középidő (LMT)", "Greenwich-i középidő (GMT)"})
-        sor->addWidget(new QRadioButton(felirat, csoport));
-    csoport->findChildren<QRadioButton*>().last()->setChecked(true);
-    return csoport;
 }
 
 }  // namespace
@@ -62,7 +52,7 @@ TForm14::TForm14(Allapot& allapot, FoAblak&, QWidget* fo)
         jobb->addWidget(datum_[i], 1, static_cast<int>(i));
         jobb->addWidget(edit_[i], 2, static_cast<int>(i));
     }
-    jobb->addWidget(idoValaszto(this), 3, 0, 1, 4);
+    jobb->addWidget(ujIdoValaszto(this), 3, 0, 1, 4);
     jobb->addWidget(new QLabel("Helység:", this), 4, 0);
     jobb->addWidget(helyseg_, 4, 1, 1, 3);
     constexpr std::array<const char*, 4> koordinataNevek{"SpinEditHosszFok1", "SpinEditHosszPerc1",
@@ -94,7 +84,7 @@ TForm14::TForm14(Allapot& allapot, FoAblak&, QWidget* fo)
 }
 
 void TForm14::kitoltes(const TVisszateresFajta& fajta, const TPillanat& kezdo) {
-    setWindowTitle(QString::fromUtf8(fajta.cim.hosszu));
+    setWindowTitle(qszoveg(fajta.cim.hosszu));
     label1_->setText(fajta.listaCim);
     datumBekero1_->setText("Kezdő dátum:");
     const QSignalBlocker blokk(helyseg_);

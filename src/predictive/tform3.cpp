@@ -7,6 +7,7 @@
 #include "predictive/ingresszio.h"
 #include "shell/ablakelhelyezes.h"
 #include "shell/gomb.h"
+#include "shell/qszoveg.h"
 #include "tables/efemerida.h"
 
 namespace {

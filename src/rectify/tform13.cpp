@@ -15,6 +15,7 @@
 #include "rectify/pontositas.h"
 #include "shell/ablakelhelyezes.h"
 #include "shell/gomb.h"
+#include "shell/qszoveg.h"
 
 namespace {
 
@@ -135,7 +136,7 @@ void TForm13::resizeEvent(QResizeEvent* esemeny) {
 /// The text font in the first list, and in the others the smallest symbol font whose lines are as high.
 void TForm13::betuk() {
     constexpr int szovegMagassag = 16;  // pixels
-    memo1_->setFont(cellaMagassaguBetu(QString::fromUtf8(szovegFont), szovegMagassag, logicalDpiY()));
+    memo1_->setFont(cellaMagassaguBetu(qszoveg(szovegFont), szovegMagassag, logicalDpiY()));
     int magassag = szovegMagassag - 2;
     do memo2_->setFont(cellaMagassaguBetu("Astro Symbols", ++magassag, logicalDpiY()));
     while (sorMagassag(*memo2_) < sorMagassag(*memo1_) && magassag < 2 * szovegMagassag);
@@ -148,7 +149,7 @@ void TForm13::megmutat(int leptetoMagassag) {
     betuk();
     futtat();
     resize(elsoSzelesseg, height());
-    move(fo_->x() + fo_->width() - width(), fo_->y() + leptetoMagassag + leptetoTav);
+    jobbraFent(*this, *fo_, leptetoMagassag + leptetoTav);
     show();
     raise();
 }

@@ -5,6 +5,7 @@
 #include "display/betutipus.h"
 #include "shell/ablakelhelyezes.h"
 #include "shell/gomb.h"
+#include "shell/qszoveg.h"
 #include "tables/szotar.h"
 
 namespace {
@@ -30,7 +31,7 @@ QFont betu(std::string_view nev, int pont) {
 }
 
 QString cimke(int haz) {
-    return QString::fromUtf8(HazCimke(haz));
+    return qszoveg(HazCimke(haz));
 }
 
 }  // namespace
@@ -145,8 +146,8 @@ void TForm8::mutat(const TMundanErtekeles& ertekeles) {
 
 void TForm8::verdiktMutatasa(char AnalogiaAllapot) {
     const TAnalogiaVerdikt& v = AnalogiaVerdikt(AnalogiaAllapot);
-    label3szoveg1_->setText(QString::fromUtf8(v.szoveg1));
-    label4szoveg2_->setText(QString::fromUtf8(v.szoveg2));
+    label3szoveg1_->setText(qszoveg(v.szoveg1));
+    label4szoveg2_->setText(qszoveg(v.szoveg2));
     for (QLabel* felirat : {label3szoveg1_, label4szoveg2_}) {
         QPalette szinek = felirat->palette();
         szinek.setColor(QPalette::WindowText, v.szin == VerdiktSzin::kek ? Qt::blue : Qt::red);

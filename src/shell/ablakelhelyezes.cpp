@@ -22,8 +22,10 @@ void felulKozepre(QWidget& ablak, const QWidget& fo) {
     ablak.move(kozepHely(fo.x(), fo.width(), ablak.width()), fo.y() + felsoTav);
 }
 
+void jobbraFent(QWidget& ablak, const QWidget& fo, int felsoTav) {
+    ablak.move(fo.x() + fo.width() - std::min(ablak.width(), fo.width()), fo.y() + felsoTav);
+}
+
 void jobbraLent(QWidget& ablak, const QWidget& fo, int alsoTav) {
-    const int szelesseg = std::min(ablak.width(), fo.width());
-    const int magassag = std::min(ablak.height(), fo.height());
-    ablak.move(fo.x() + fo.width() - szelesseg, fo.y() + fo.height() - alsoTav - magassag);
+    jobbraFent(ablak, fo, fo.height() - alsoTav - std::min(ablak.height(), fo.height()));
 }

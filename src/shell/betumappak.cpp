@@ -7,6 +7,7 @@
 #include <QStandardPaths>
 
 #include "display/betutipus.h"
+#include "shell/qszoveg.h"
 
 namespace {
 
@@ -32,7 +33,7 @@ void sajatBetukBetoltese() {
             QFontDatabase::addApplicationFont(fajl.absoluteFilePath());
     // The text face's name is on no system. The labels of the wheel are laid out for a face of these widths;
     // where none is there the system's default takes its place.
-    QFont::insertSubstitutions(QString::fromUtf8(szovegFont), {"Arial", "Liberation Sans"});
+    QFont::insertSubstitutions(qszoveg(szovegFont), {"Arial", "Liberation Sans"});
 }
 
 QStringList szimbolumFontok() {

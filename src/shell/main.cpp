@@ -22,7 +22,8 @@ int main(int argc, char** argv) {
             nullptr, "Korvend",
             "Jelszó megadása:\nKis betűket használjon.\nHa nem akar jelszót használni, hagyja üresen.",
             QLineEdit::Normal, {}, &ok);
-        if (ok) ablakok.form11.ujJelszo(jelszo);
+        if (ok && !ablakok.form11.ujJelszo(jelszo))
+            ablakok.form1.parbeszed().uzenet(nullptr, "A jelszó nem menthető.");
     }
     ablakok.form1.show();
     return QApplication::exec();

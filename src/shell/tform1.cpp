@@ -15,12 +15,12 @@
 #include "display/betutipus.h"
 #include "display/geometria.h"
 #include "display/kepletrajz.h"
-#include "shell/ablakelhelyezes.h"
 #include "shell/ablakok.h"
 #include "shell/betumappak.h"
 #include "shell/datumformatum.h"
 #include "shell/indulas.h"
 #include "shell/orajel.h"
+#include "shell/qszoveg.h"
 #include "tables/szotar.h"
 
 namespace {
@@ -199,7 +199,7 @@ void TForm1::statuszEpites() {
     auto* sav = statusBar();
     sav->setObjectName("StatusBar1");
     sav->setSizeGripEnabled(false);
-    QFont betu(QString::fromUtf8(szovegFont));
+    QFont betu(qszoveg(szovegFont));
     betu.setPixelSize(11);
     sav->setFont(betu);
     for (std::size_t i = 0; i < statusz_.size(); ++i) {
@@ -254,7 +254,7 @@ namespace {
 
 /// The largest text font whose widest position text still fits in the panel.
 QFont panelSzamBetu(int dpi) {
-    const QString nev = QString::fromUtf8(szovegFont);
+    const QString nev = qszoveg(szovegFont);
     int magassag = 13;  // pixels
     while (magassag > 8 &&
            QFontMetrics(cellaMagassaguBetu(nev, magassag, dpi)).horizontalAdvance("28°58'58''") >=

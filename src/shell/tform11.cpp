@@ -27,8 +27,8 @@ TForm11::TForm11(Allapot& allapot, FoAblak&, QWidget* fo)
     allapot_.JelszoRendben = tar_.allas() == Allas::nincsTar || tar_.allas() == Allas::nincsJelszo;
 }
 
-void TForm11::ujJelszo(const QString& jelszo) {
-    tar_.ment(jelszo.left(jelszoHossz));
+bool TForm11::ujJelszo(const QString& jelszo) {
+    return tar_.ment(jelszo.left(jelszoHossz));
 }
 
 bool TForm11::JelszoKeres() {

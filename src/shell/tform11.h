@@ -21,7 +21,8 @@ public:
     bool JelszoKeres();
 
     /// At the first run: takes the user's new password, empty for none.
-    void ujJelszo(const QString& jelszo);
+    /// @return false if it can't be stored; the next start asks again
+    bool ujJelszo(const QString& jelszo);
     bool elsoFutas() const { return tar_.allas() == TJelszoTar::Allas::nincsTar; }
 
     /// How the program ends; a test may put its own in place.

@@ -11,6 +11,7 @@
 #include "shell/kvhfajl.h"
 #include "shell/nezet.h"
 #include "shell/orajel.h"
+#include "shell/qszoveg.h"
 #include "shell/rendszerido.h"
 #include "shell/statuszsor.h"
 #include "shell/tform1.h"

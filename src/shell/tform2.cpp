@@ -1,17 +1,17 @@
 #include "shell/tform2.h"
 
 #include <QButtonGroup>
-#include <QCompleter>
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
-#include "shell/ablakelhelyezes.h"
 #include "shell/gomb.h"
 #include "shell/helysegmezo.h"
+#include "shell/idovalaszto.h"
+#include "shell/qszoveg.h"
 
 TForm2::TForm2(Allapot& allapot, FoAblak& ablak, QWidget* fo)
     : QDialog(fo), allapot_(allapot), ablak_(ablak) {
@@ -57,16 +57,11 @@ void TForm2::epites() {
     memo_Jegyzet1_->setObjectName("Memo_Jegyzet1");
     memo_Jegyzet1_->setTabChangesFocus(true);
 
-    auto* valaszto = new QGroupBox("Idő-választó", this);
-    valaszto->setObjectName("RadioGroupIdovalaszto1");
+    auto* valaszto = ujIdoValaszto(this);
     idovalaszto_ = new QButtonGroup(valaszto);
-    auto* valasztoSor = new QVBoxLayout(valaszto);
     int index = 0;
-    for (const char* felirat : {"Zóna idő (ZN)", "Helyi középidő (LMT)", "Greenwich-i középidő (GMT)"}) {
-        auto* radio = new QRadioButton(felirat, valaszto);
+    for (QRadioButton* radio : valaszto->findChildren<QRadioButton*>())
         idovalaszto_->addButton(radio, index++);
-        valasztoSor->addWidget(radio);
-    }
 
     auto* racs = new QGridLayout;
     racs->addWidget(cimke("Név:"), 0, 0);

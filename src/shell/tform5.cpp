@@ -9,6 +9,7 @@
 #include "shell/ablakelhelyezes.h"
 #include "shell/gomb.h"
 #include "shell/hang.h"
+#include "shell/qszoveg.h"
 
 namespace {
 

@@ -5,14 +5,11 @@
 #include <QPushButton>
 
 #include "shell/lepteto.h"
+#include "shell/qszoveg.h"
 
 namespace {
 
 constexpr std::array<const char*, 6> sorFeliratok{"Év", "Hó", "Nap", "óra", "perc", "mperc"};
-
-QString qszoveg(std::string_view szoveg) {
-    return QString::fromUtf8(szoveg.data(), static_cast<int>(szoveg.size()));
-}
 
 }  // namespace
 

@@ -1,3 +1,4 @@
+#include <cmath>
 #include <set>
 
 #include <gtest/gtest.h>
@@ -197,6 +198,38 @@ TEST(SolarKereses, AHalakVegenAHaromszazhatvanasHatar) {
 
 TEST(SolarKereses, ATablaElejenMegall) {
     EXPECT_EQ(SolarKereses(1e9, 500).napsorszam, 1);
+}
+
+TEST(SolarNap, ANapHazaASolarKepletbol) {
+    // The same Sun moved on by whole houses of the place: checked against the Ascendant of the return's
+    // moment.
+    const TSzuletes sz{{1975, 7, 21, 6, 4, 9}, 0, 1, 72586};
+    const double nap = 117.8409;  // 27°50'27'' Cancer, as the chart on screen shows it
+    for (int ev = 1980; ev < 2060; ++ev) {
+        TEletesemeny e = esemeny("a");
+        e.ev = ev, e.ho = 12, e.szelFok = 47, e.szelPerc = 30, e.hosszFok = 19, e.hosszPerc = 4;
+        const TSolar solar = SolarKereses(nap * 3600, sor(ev, 12, 1));
+        const TSolarKeplet k = SolarKeplet(solar, 68640, 171000);
+        int haz = 0;
+        double legkozelebb = 360;
+        for (int h = 1; h <= 12; ++h) {
+            const double tav = std::fmod(nap - k.csucsok[h] + (h % 3 == 1 ? 5 : 3) + 720, 360);
+            if (tav < legkozelebb) legkozelebb = tav, haz = h;
+        }
+        if (legkozelebb < 0.02) continue;  // too near a boundary for the Sun's rounded longitude
+        EXPECT_EQ(EsemenySolarNap(sz, e), haz) << ev;
+    }
+}
+
+TEST(SolarKeplet, AGreenwichiOraraADatumNapjan) {
+    const TSolar solar{36525, 0.5, 12, 0, 0};
+    const TSolarKeplet k = SolarKeplet(solar, 0, 171000);
+    EXPECT_EQ(k.ido.julianszam, 36525 + 2415019);
+    EXPECT_DOUBLE_EQ(k.ido.napresz, 0.5);
+    // 2000-01-01 12h in Greenwich: sidereal time 18:42; the Midheaven at 279 to 280 degrees.
+    EXPECT_EQ(k.ido.armcOra, 18);
+    EXPECT_NEAR(k.ido.armcPerc, 42, 1);
+    EXPECT_NEAR(k.csucsok[10], 279.6, 0.5);
 }
 
 TEST(SolarNap, ASolarKepletHelyetolFugg) {

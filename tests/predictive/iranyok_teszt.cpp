@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include "engine/csillagido.h"
+#include "engine/hazak.h"
 #include "mintakeplet.h"
 #include "predictive/ingresszio.h"
 #include "predictive/primer.h"
@@ -17,7 +19,7 @@ namespace {
 constexpr TPillanat szuletesnap{1975, 7, 21, 6, 4, 9};
 
 Allapot szuletes(const TPillanat& p = szuletesnap) {
-    return szegediKeplet(p);
+    return szuletesiKeplet(p);
 }
 
 TPillanat napokkal(TPillanat p, int napok) {
@@ -32,6 +34,7 @@ TEST(Tercier, AKulcsEvenkentOtFoknyi) {
 }
 
 /// All hits by the plain definition: the directed body within the orb of another's place or opposite.
+/// A directed place beyond the circle is not reduced and meets nothing.
 std::string vartTercier(const TBolygok& lon, int napok, double orbisNap) {
     const double orb = 0.013888706365503 * orbisNap;
     const double iv = 0.013888706365503 * napok;
@@ -44,6 +47,7 @@ std::string vartTercier(const TBolygok& lon, int napok, double orbisNap) {
         };
         for (int i = 1; i <= 10; ++i) {
             if (i == j) continue;
+            if (lon[j] - iv >= 360) continue;
             const double d = std::abs(std::remainder(lon[j] - iv - lon[i], 360.0));
             if (d <= orb) resz += "M" + jel(i);
             if (180 - d <= orb) resz += "W" + jel(i);
@@ -73,11 +77,37 @@ TEST(Tercier, ASzuletesNapjanCsakARadixEgyuttallasai) {
 }
 
 TEST(Tercier, ASzuletesElottiEsemenyIranyaElore) {
-    Allapot a = szuletes();
-    const TTercier t = TercierKeres(a, szuletesnap, napokkal(szuletesnap, -2000), "Szeged", 99);
-    // A sum above 360 is not reduced and hits nothing; the others follow the definition.
-    const std::string vart = vartTercier(a.Keplet.Bolygok, -2000, 99);
-    EXPECT_LE(t.TercierSzoveg.size(), vart.size());
+    int talalt = 0;
+    int koronKivul = 0;
+    for (int nap = -27000; nap < 0; nap += 37) {
+        Allapot a = szuletes();
+        const TTercier t = TercierKeres(a, szuletesnap, napokkal(szuletesnap, nap), "Szeged", 99);
+        EXPECT_EQ(t.TercierSzoveg, vartTercier(a.Keplet.Bolygok, nap, 99)) << nap;
+        talalt += !t.TercierSzoveg.empty();
+        for (const double hossz : a.Keplet.Bolygok) koronKivul += hossz - 0.013888706365503 * nap >= 360;
+    }
+    EXPECT_GT(talalt, 100);
+    EXPECT_GT(koronKivul, 100);
+}
+
+/// The search leaves the birth as the chart's moment, also when a stepped one was on screen.
+TEST(Tercier, ASzuletesMaradAKepletPillanata) {
+    for (const bool tercier : {true, false}) {
+        Allapot a = szuletes();
+        a.Keplet.pillanat({1990, 1, 2, 3, 4, 5});
+        a.Keplet.helyseg = "Pécs";
+        const THazcsucsok kep = a.Keplet.hazCsucs;
+        if (tercier)
+            TercierKeres(a, szuletesnap, {2000, 1, 1}, "Szeged", 45);
+        else
+            IngresszioKeres(a, szuletesnap, {2000, 1, 1}, "Szeged");
+        const Allapot natalis = szuletes();
+        EXPECT_EQ(a.Keplet.pillanat(), szuletesnap);
+        EXPECT_EQ(a.Keplet.julianszam, natalis.Keplet.julianszam);
+        EXPECT_EQ(a.Keplet.Bolygok, natalis.Keplet.Bolygok);
+        EXPECT_EQ(a.Keplet.helyseg, "Pécs");
+        EXPECT_EQ(a.Keplet.hazCsucs, kep);
+    }
 }
 
 TEST(Tercier, AVerdiktekSzovegei) {
@@ -200,6 +230,14 @@ TEST(Primer, AzIrany_ADirektIvvelElore) {
     const auto p = pontok(a, 0);
     EXPECT_NEAR(EklToRekt(p[dMC] * 60), rektKorbe(mc + iv), 2);
     EXPECT_NEAR(EklToRekt(p[cMC] * 60), rektKorbe(mc - iv), 2);
+    // The Ascendants follow: their oblique ascension is 90 degrees past the directed Midheaven.
+    const TFerdeTabla ferde = FerdeSor(a.Keplet.szelesseg);
+    const auto ferdeErtek = [&](double fok) {
+        const auto c = static_cast<std::size_t>(fok);
+        return ferde[c] + (fok - static_cast<double>(c)) * (ferde[c + 1] - ferde[c]);
+    };
+    EXPECT_NEAR(ferdeErtek(p[dAsc]), rektKorbe(mc + iv + 5400), 0.01);
+    EXPECT_NEAR(ferdeErtek(p[cAsc]), rektKorbe(mc - iv + 5400), 0.01);
     // 59.14 arcminutes a year: 24.4 years.
     EXPECT_NEAR(iv, 24.45 * 59.1404, 3);
     EXPECT_DOUBLE_EQ(PrimerKulcs, 9.715060995018346);
@@ -281,9 +319,45 @@ TEST(Primer, A3661NapUtanNincsKereses) {
 }
 
 TEST(Primer, ASzuletesElottiKezdetNegativIv) {
+    // A point behind the Midheaven by the arc of ten years is met ten years before birth, direct.
+    const Allapot minta = szuletes();
+    const double mc = EklToRekt(minta.Keplet.hazCsucs[10] * 60);
+    const double hely = RektToEkl(rektKorbe(mc - 10 * 59.1404)) / 60;
+    const auto sorok = PrimerFutas(egyPont(hely), {1960, 1, 1, 0, 0, 0});
+    ASSERT_EQ(sorok.size(), 1U);
+    EXPECT_TRUE(sorok[0].starts_with("1965.07.2")) << sorok[0];
+    EXPECT_TRUE(sorok[0].ends_with(std::string(5, ' ') + "CR")) << sorok[0];
+}
+
+/// House of a longitude by the plain rule: 5 degrees before an angular cusp, 3 before another.
+int szabalySzerintiHaz(double hossz, const THazcsucsok& csucsok) {
+    int haz = 0;
+    double legkozelebb = 360;
+    for (int h = 1; h <= 12; ++h) {
+        const double hatar = csucsok[h] - (h % 3 == 1 ? 5 : 3);
+        const double tav = std::fmod(hossz - hatar + 720, 360);
+        if (tav < legkozelebb) legkozelebb = tav, haz = h;
+    }
+    return haz;
+}
+
+TEST(SolarHaz, ANatalisNapASolarCsucsokKozott) {
     const Allapot a = szuletes();
-    EXPECT_LE(PrimerFutas(a, {1950, 1, 1, 0, 0, 0}).size(), 22U);
-    EXPECT_GE(PrimerFutas(a, {1950, 1, 1, 0, 0, 0}).size(), 5U);
+    for (int ev = 1976; ev < 2060; ++ev) {
+        // The passage found by walking forward from the January before.
+        const double s = a.Keplet.bolygo[1] * 3600;
+        std::int32_t e = ev, ho = 1, elso = 1;
+        int nap = DatumbolJulianszam(e, ho, elso);
+        while (!(efemeridaNap(nap).nap_hossz < s && s <= efemeridaNap(nap + 1).nap_hossz)) ++nap;
+        const double a0 = efemeridaNap(nap).nap_hossz;
+        const int mp = static_cast<int>((s - a0) / (efemeridaNap(nap + 1).nap_hossz - a0) * 86400);
+        const TCsillagIdo ido = CsillagIdo(nap, mp / 3600, mp / 60 % 60, mp % 60, -266400, 0, 0);
+        THazcsucsok csucsok;
+        Hazak(ido.armcOra, ido.armcPerc, ido.armcMperc, csucsok, 45 * 3600);
+        EXPECT_EQ(SolarHaz(a.Keplet.bolygo, nap + 200, -266400, 45 * 3600),
+                  szabalySzerintiHaz(a.Keplet.bolygo[1], csucsok))
+            << ev;
+    }
 }
 
 TEST(SolarHaz, ASolarKepletHazai) {

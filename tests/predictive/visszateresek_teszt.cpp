@@ -4,8 +4,8 @@
 #include "engine/bolygohelyek.h"
 #include "engine/csillagido.h"
 #include "engine/hazak.h"
+#include "mintakeplet.h"
 #include "predictive/visszateresek.h"
-#include "shell/kepletciklus.h"
 #include "shell/orajel.h"
 #include "shell/statuszsor.h"
 #include "tables/efemerida.h"
@@ -13,13 +13,7 @@
 namespace {
 
 Allapot szuletes(const TPillanat& p, const char* hely = "Szeged") {
-    Allapot a;
-    a.Keplet.pillanat(p);
-    a.Keplet.helyseg = hely;
-    DatumRendezes(a.Keplet);
-    a.RadixPillanat = a.SzuletesiPillanat = a.Keplet.pillanat();
-    IdoAdatok(a);
-    KepletCiklus(a);
+    Allapot a = szuletesiKeplet(p, hely);
     a.Szemely.jegyzet = "jegyzet";
     return a;
 }

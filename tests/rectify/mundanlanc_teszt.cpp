@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "engine/csillagido.h"
 #include "engine/uralkodok.h"
 #include "mundanteszt.h"
 #include "shell/kepletciklus.h"
@@ -52,21 +53,20 @@ TEST(MundanLanc, UgyanaztAdjaMintAKepernyoKeplete) {
 }
 
 TEST(MundanLanc, ANapBemenetEsAGreenwichiNapKulonJonKi) {
-    const TMundanHely szeged{1, 166500, 72540, 0};
-    const TMundanIdo ejfelUtan = MundanCsillagIdo(2442615, 0, 30, 0, szeged);
-    EXPECT_EQ(ejfelUtan.julianszam, 2442614);
+    const TCsillagIdo ejfelUtan = CsillagIdo(2442614, 0, 30, 0, 72540, 0, 1);
+    EXPECT_EQ(ejfelUtan.julianszam, 2442613);
     EXPECT_DOUBLE_EQ(ejfelUtan.napresz, 23.5 / 24);
-    EXPECT_EQ(MundanCsillagIdo(2442615, 1, 0, 0, szeged).julianszam, 2442615);
+    EXPECT_EQ(CsillagIdo(2442614, 1, 0, 0, 72540, 0, 1).julianszam, 2442614);
 }
 
 TEST(MundanLanc, ABeirtNyariIdoAllATablaeHelyett) {
-    // 1 July 1985, 12 o'clock: the table has summer time.
-    const int nap = 2446247;
-    const TMundanHely tablabol{1, 166500, 72540};
-    TMundanHely beirt = tablabol;
-    beirt.nyariIdo = 0;
-    EXPECT_DOUBLE_EQ(MundanCsillagIdo(nap, 12, 0, 0, tablabol).napresz, 10.0 / 24);
-    EXPECT_DOUBLE_EQ(MundanCsillagIdo(nap, 12, 0, 0, beirt).napresz, 11.0 / 24);
+    // 1 July 1985, 12 o'clock: the table has summer time, so 13 o'clock by the table is 12 without.
+    TProbaPillanat tablabol{2446247, 13, 0, 0, {1, 166500, 72540}};
+    TProbaPillanat beirt{2446247, 12, 0, 0, {1, 166500, 72540, 0}};
+    EXPECT_EQ(lefuttat(tablabol).Bolygok, lefuttat(beirt).Bolygok);
+    EXPECT_EQ(lefuttat(tablabol).Hazcsucsok, lefuttat(beirt).Hazcsucsok);
+    beirt.hely.nyariIdo = 1;
+    EXPECT_NE(lefuttat(tablabol).Hazcsucsok, lefuttat(beirt).Hazcsucsok);
 }
 
 TEST(MundanLanc, ElozoKepletNemHagyNyomot) {

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "mintakeplet.h"
 #include "predictive/visszateresek.h"
 #include "probaablak.h"
 #include "shell/indulas.h"
@@ -30,14 +31,7 @@ protected:
     }
     void szuletes() {
         a.Szemely.idoTipus = "ZN";
-        TSzemelyiAdatok m;
-        m.nev = "Minta Anna";
-        m.ido = {1975, 3, 21, 6, 4, 9};
-        m.helyseg = "Szeged";
-        m.hosszFok = 20;
-        m.hosszPerc = 9;
-        m.szelFok = 46;
-        m.szelPerc = 14;
+        TSzemelyiAdatok m = mintaSzemely({1975, 3, 21, 6, 4, 9});
         m.jegyzet = "jegyzet";
         SzemelyiRendben(a, m);
         BevittKepletMutatasa(a, ablak);

@@ -14,9 +14,9 @@
 #include <QTest>
 #include <QTimer>
 
+#include "mintakeplet.h"
 #include "shell/ablakok.h"
 #include "shell/betumappak.h"
-#include "shell/szemelyiadatok.h"
 
 /// A control by its name on a window.
 template <typename T>
@@ -94,15 +94,7 @@ inline int fekete(const QImage& kep) {
 
 /// A typed birth on screen.
 inline void szuletes(TFrissAblakok& a) {
-    TSzemelyiAdatok m;
-    m.nev = "Minta Anna";
-    m.ido = {1975, 7, 21, 6, 4, 9};
-    m.helyseg = "Szeged";
-    m.hosszFok = 20;
-    m.hosszPerc = 9;
-    m.szelFok = 46;
-    m.szelPerc = 14;
-    SzemelyiRendben(a.allapot(), m);
+    SzemelyiRendben(a.allapot(), mintaSzemely({1975, 7, 21, 6, 4, 9}));
     BevittKepletMutatasa(a.allapot(), a.form1);
     QApplication::processEvents();
 }

@@ -113,6 +113,26 @@ private slots:
         QCOMPARE(lista(a.form10, 1, 2), "");
     }
 
+    /// Only a change of the place looks at the kind of the clock; date and time always ask the table.
+    void aNyariIdoADatumbolMindigAHelybolCsakZonaIdoben() {
+        TFrissAblakok a;
+        ujKeplet(a, [&a](QWidget& d) {
+            vezerlo<QSpinBox>(d, "SpinEditEv1")->setValue(1985);
+            vezerlo<QSpinBox>(d, "SpinEditHo1")->setValue(7);
+            QCOMPARE(ertek(d, "SpinEditNyariidosz1"), 1);
+            a.allapot().Szemely.idoTipus = "LMT";
+            gepel(d, "ComboBoxHelyseg1", "Szeged");
+            QCOMPARE(ertek(d, "SpinEditNyariidosz1"), 0);
+            vezerlo<QSpinBox>(d, "SpinEditNap1")->setValue(9);
+            QCOMPARE(ertek(d, "SpinEditNyariidosz1"), 1);
+            a.allapot().Szemely.idoTipus = "ZN";
+            vezerlo<QSpinBox>(d, "SpinEditNyariidosz1")->setValue(0);
+            gepel(d, "ComboBoxHelyseg1", "Szeged");
+            QCOMPARE(ertek(d, "SpinEditNyariidosz1"), 1);
+            kattint(d, "Button_Megsem2");
+        });
+    }
+
     void aLeptetesUtanAKilepesMentestKer() {
         const QTemporaryDir mappa;
         TFrissAblakok a;

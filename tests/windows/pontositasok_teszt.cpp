@@ -316,6 +316,7 @@ private slots:
         valasz([](QWidget& d) {
             QCOMPARE(d.objectName(), "TForm10");
             QCOMPARE(vezerlo<QLabel>(d, "LEletes_2_2")->text(), "Esemény 2");
+            QCOMPARE(vezerlo<QComboBox>(d, "ComboBoxHelyseg1")->currentText(), "Szeged");
             gepel(d, "Edit_Eletesemenyek1", "Harmadik");
             kattint(d, "Button_Rendben1");
             kattint(d, "Button_Rendben2");

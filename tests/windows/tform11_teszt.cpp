@@ -44,6 +44,14 @@ private slots:
         }
     }
 
+    void aMenthetetlenJelszoKiderul() {
+        TFrissAblakok a;
+        QVERIFY(QDir().mkpath(tarFajl()));  // a folder stands where the store would
+        QVERIFY(!a.form11.ujJelszo("titok"));
+        QVERIFY(QDir().rmdir(tarFajl()));
+        QVERIFY(a.form11.ujJelszo("titok"));
+    }
+
     void aTarSosemTartalmazzaAJelszot() {
         QVERIFY(TJelszoTar(tarFajl()).ment("titok"));
         QFile be(tarFajl());

@@ -117,16 +117,16 @@ void TForm10::mezokEpitese() {
     cimke("Solar-évforduló helye:", 7, y3 + 4);
     helyseg_ = ujHelysegMezo(this, "ComboBoxHelyseg1");
     helyseg_->setGeometry(125, y3, 195, 22);
-    cimke("Hossz.:", 330, y3 + 4);
-    hosszFok_ = szamMezo("SpinEditHosszFok1", -180, 180, {370, y3, 54, 22});
-    hosszPerc_ = szamMezo("SpinEditHosszPerc1", 0, 59, {427, y3, 44, 22});
-    cimke("Szél.:", 480, y3 + 4);
-    szelFok_ = szamMezo("SpinEditSzelFok1", -180, 180, {513, y3, 54, 22});
-    szelPerc_ = szamMezo("SpinEditSzelPerc1", 0, 59, {570, y3, 44, 22});
-    cimke("Solar-Nap:", 613, y3 + 4);
+    cimke("Hossz.:", 323, y3 + 4);
+    hosszFok_ = szamMezo("SpinEditHosszFok1", -180, 180, {364, y3, 52, 22});
+    hosszPerc_ = szamMezo("SpinEditHosszPerc1", 0, 59, {419, y3, 44, 22});
+    cimke("Szél.:", 469, y3 + 4);
+    szelFok_ = szamMezo("SpinEditSzelFok1", -180, 180, {500, y3, 54, 22});
+    szelPerc_ = szamMezo("SpinEditSzelPerc1", 0, 59, {557, y3, 44, 22});
+    cimke("Solar-Nap:", 607, y3 + 4);
     solarNap_ = new QLabel(this);
     solarNap_->setObjectName("LabelSolarNap1");
-    solarNap_->setGeometry(669, y3, 21, 22);
+    solarNap_->setGeometry(666, y3, 24, 22);
 
     const int y4 = y3 + 34;
     gomb("Button_Rendben1", "Rendben", {90, y4, 100, 26}, &TForm10::Button_Rendben1Click)->setDefault(true);

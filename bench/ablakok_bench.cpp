@@ -4,12 +4,12 @@
 #include <QPixmap>
 #include <benchmark/benchmark.h>
 
-#include "display/geometria.h"
-#include "display/kepletrajz.h"
-#include "display/qtvaszon.h"
-#include "shell/ablakok.h"
-#include "shell/betumappak.h"
-#include "shell/nezet.h"
+#include "commands/nezet.h"
+#include "drawing/geometria.h"
+#include "drawing/kepletrajz.h"
+#include "windows/ablakok.h"
+#include "windows/betumappak.h"
+#include "windows/qtvaszon.h"
 
 namespace {
 

@@ -2,11 +2,11 @@
 
 #include <benchmark/benchmark.h>
 
+#include "chart/statuszsor.h"
 #include "engine/bolygohelyek.h"
 #include "engine/fenyszogek.h"
 #include "engine/hazak.h"
 #include "minta.h"
-#include "shell/statuszsor.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 #include <QApplication>
 
 #include "elsofestes.h"
-#include "shell/ablakok.h"
-#include "shell/betumappak.h"
+#include "windows/ablakok.h"
+#include "windows/betumappak.h"
 
 int main(int argc, char** argv) {
     const QApplication program(argc, argv);

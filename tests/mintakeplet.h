@@ -1,8 +1,8 @@
 #pragma once
 
-#include "display/oldalpanel.h"
-#include "shell/kepletciklus.h"
-#include "shell/szemelyiadatok.h"
+#include "chart/kepletciklus.h"
+#include "commands/szemelyiadatok.h"
+#include "drawing/oldalpanel.h"
 
 /// A birth on screen, with the aspect points of its drawing.
 inline Allapot szuletesiKeplet(const TPillanat& p, const char* hely = "Szeged") {

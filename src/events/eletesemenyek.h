@@ -3,7 +3,7 @@
 #include <array>
 #include <string>
 
-#include "shell/allapot.h"
+#include "chart/allapot.h"
 
 /// The life events: the store's operations, the texts of the list, and the solar return before an event.
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "shell/allapot.h"
+#include "chart/allapot.h"
 
 /// Half-width of the solar ingress, degrees: half a day of the year's circle.
 inline constexpr long double IngresszioTures = 0.4931506849315068L;

@@ -1,7 +1,7 @@
 #include "predictive/natalis.h"
 
+#include "chart/kepletciklus.h"
 #include "engine/bolygohelyek.h"
-#include "shell/kepletciklus.h"
 #include "tables/efemerida.h"
 
 void NatalisBolygok(Allapot& allapot, const TPillanat& pillanat, const std::string& helyseg) {

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "chart/statuszsor.h"
 #include "engine/uralkodok.h"
 #include "predictive/solarkereses.h"
-#include "shell/statuszsor.h"
 #include "tables/efemerida.h"
 #include "tables/haztablak.h"
 #include "tables/szamtan.h"

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/allapot.h"
+#include "chart/allapot.h"
 
 /// Primary directions, and the routines on the equator that rectification uses too.
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "shell/allapot.h"
+#include "chart/allapot.h"
 
 /// Degrees that the bodies are turned back for each day of life.
 inline constexpr long double TercierKulcs = 0.013888706365503L;

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
+#include "chart/kepletciklus.h"
+#include "chart/kepletmutatas.h"
+#include "chart/statuszsor.h"
 #include "engine/bolygohelyek.h"
 #include "engine/csillagido.h"
 #include "engine/hazak.h"
-#include "shell/kepletciklus.h"
-#include "shell/orajel.h"
-#include "shell/statuszsor.h"
 #include "tables/efemerida.h"
 #include "tables/nyariido.h"
 #include "tables/szamtan.h"
@@ -166,9 +166,5 @@ void VisszateresKeplet(Allapot& allapot, FoAblak& ablak, const TVisszateresFajta
     k.bolygo = k.Bolygok;
     k.mozgas = k.Mozgasok;
     FenyszogCiklus(allapot);
-    ablak.Mutat();
-    ablak.Ervenytelenit();
-    allapot.TeljesTorles = false;
-    ablak.RajzolKeplet();
-    IranyListak(allapot, ablak);
+    KepletMutatas(allapot, ablak);
 }

@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "shell/allapot.h"
-#include "shell/foablak.h"
+#include "chart/allapot.h"
+#include "chart/foablak.h"
 #include "tables/szotar.h"
 
 /// Returns: the moments at which a body comes back to its Radix longitude (revolutions), or the Sun passes a

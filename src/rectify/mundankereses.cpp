@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "shell/kepletciklus.h"
-#include "shell/lepteto.h"
-#include "shell/statuszsor.h"
+#include "chart/kepletciklus.h"
+#include "chart/statuszsor.h"
+#include "commands/lepteto.h"
 #include "tables/efemerida.h"
 #include "tables/nyariido.h"
 #include "tables/szoveg.h"

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "chart/allapot.h"
 #include "engine/mundanlanc.h"
 #include "rectify/analogiak.h"
-#include "shell/allapot.h"
 
 /// Rectification by mundane houses: what its window's commands do.
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "shell/statuszsor.h"
-#include "shell/szemelyiadatok.h"
+#include "chart/statuszsor.h"
 #include "tables/efemerida.h"
+#include "tables/fokperc.h"
 #include "tables/haztablak.h"
 #include "tables/szamtan.h"
 #include "tables/szotar.h"

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "chart/allapot.h"
 #include "predictive/primer.h"
-#include "shell/allapot.h"
 
 /// Rectification by directions: which primary directions stood near an aspect point on each event's day, and
 /// at what clock time of birth each would have been exact.

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "display/betutipus.h"
-#include "display/kerek.h"
+#include "drawing/betutipus.h"
+#include "drawing/kerek.h"
 #include "rajzteszt.h"
 
 namespace {

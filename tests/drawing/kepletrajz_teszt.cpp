@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "display/oldalpanel.h"
+#include "drawing/oldalpanel.h"
 #include "rajzteszt.h"
 
 namespace {

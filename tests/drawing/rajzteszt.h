@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "display/geometria.h"
-#include "display/kepletrajz.h"
-#include "display/rogzitovaszon.h"
-#include "shell/allapot.h"
+#include "chart/allapot.h"
+#include "drawing/geometria.h"
+#include "drawing/kepletrajz.h"
+#include "drawing/rogzitovaszon.h"
 
 /// A chart made by hand: bodies 36 degrees apart, houses of 30 degrees, no aspects.
 inline Allapot probaKeplet(double elsoCsucs = 100) {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "display/rendezett.h"
+#include "drawing/rendezett.h"
 #include "rajzteszt.h"
 
 namespace {

@@ -6,8 +6,8 @@
 #include <sstream>
 #include <string>
 
-#include "shell/kvhfajl.h"
-#include "shell/kvhrekord.h"
+#include "commands/kvhfajl.h"
+#include "files/kvhrekord.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* adat, std::size_t hossz) {
     std::istringstream be(std::string(reinterpret_cast<const char*>(adat), hossz));

@@ -1,13 +1,13 @@
 #include <gtest/gtest.h>
 
-#include "../shell/probaablak.h"
+#include "probaablak.h"
+#include "chart/statuszsor.h"
+#include "commands/orajel.h"
 #include "engine/bolygohelyek.h"
 #include "engine/csillagido.h"
 #include "engine/hazak.h"
 #include "mintakeplet.h"
 #include "predictive/visszateresek.h"
-#include "shell/orajel.h"
-#include "shell/statuszsor.h"
 #include "tables/efemerida.h"
 
 namespace {

@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "chart/kepletciklus.h"
+#include "chart/statuszsor.h"
 #include "mundanteszt.h"
 #include "rectify/mundankereses.h"
-#include "shell/kepletciklus.h"
-#include "shell/statuszsor.h"
 
 namespace {
 

@@ -6,10 +6,10 @@
 
 #include <gtest/gtest.h>
 
+#include "chart/kepletciklus.h"
 #include "engine/csillagido.h"
 #include "engine/uralkodok.h"
 #include "mundanteszt.h"
-#include "shell/kepletciklus.h"
 
 namespace {
 

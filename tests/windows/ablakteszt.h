@@ -15,8 +15,8 @@
 #include <QTimer>
 
 #include "mintakeplet.h"
-#include "shell/ablakok.h"
-#include "shell/betumappak.h"
+#include "windows/ablakok.h"
+#include "windows/betumappak.h"
 
 /// A control by its name on a window.
 template <typename T>

@@ -8,9 +8,9 @@
 #include <QTemporaryDir>
 
 #include "ablakteszt.h"
+#include "commands/hang.h"
+#include "commands/kvhfajl.h"
 #include "probaparbeszed.h"
-#include "shell/hang.h"
-#include "shell/kvhfajl.h"
 
 namespace {
 

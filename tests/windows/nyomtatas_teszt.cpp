@@ -7,8 +7,8 @@
 #include <QTemporaryDir>
 
 #include "ablakteszt.h"
-#include "display/nyomtatas.h"
-#include "display/rogzitovaszon.h"
+#include "commands/nyomtatas.h"
+#include "drawing/rogzitovaszon.h"
 #include "probaparbeszed.h"
 #include "tables/szotar.h"
 

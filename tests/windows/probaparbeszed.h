@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-#include "shell/parbeszed.h"
+#include "windows/parbeszed.h"
 
 /// Answers the toolkit's dialogs as the test says, and notes what was asked.
 class TProbaParbeszed : public TParbeszed {

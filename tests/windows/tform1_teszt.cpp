@@ -5,7 +5,7 @@
 #include <QPlainTextEdit>
 
 #include "ablakteszt.h"
-#include "shell/orajel.h"
+#include "commands/orajel.h"
 #include "tables/szotar.h"
 
 class TForm1Teszt : public QObject {

@@ -2,11 +2,11 @@
 #include <filesystem>
 #include <fstream>
 
+#include "commands/kvhfajl.h"
+#include "commands/lepteto.h"
 #include "events/analogia.h"
 #include "events/eletesemenyek.h"
 #include "muveletek.h"
-#include "shell/kvhfajl.h"
-#include "shell/lepteto.h"
 
 TJson lepesMuvelet(const TJson& kerelem) {
     Allapot allapot;

@@ -1,11 +1,11 @@
 #include <array>
 
-#include "display/geometria.h"
-#include "display/kepletrajz.h"
-#include "display/rogzitovaszon.h"
+#include "chart/kepletciklus.h"
+#include "commands/szemelyiadatok.h"
+#include "drawing/geometria.h"
+#include "drawing/kepletrajz.h"
+#include "drawing/rogzitovaszon.h"
 #include "muveletek.h"
-#include "shell/kepletciklus.h"
-#include "shell/szemelyiadatok.h"
 #include "tables/efemerida.h"
 #include "tables/nyariido.h"
 #include "tables/telepulesek.h"

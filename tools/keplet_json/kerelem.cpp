@@ -4,10 +4,10 @@
 #include <cstdio>
 #include <limits>
 
-#include "display/oldalpanel.h"
-#include "display/rendezett.h"
-#include "shell/kepletciklus.h"
-#include "shell/statuszsor.h"
+#include "chart/kepletciklus.h"
+#include "chart/statuszsor.h"
+#include "drawing/oldalpanel.h"
+#include "drawing/rendezett.h"
 
 const TJson& mezo(const TJson& kerelem, const char* nev) {
     const auto hely = kerelem.find(nev);

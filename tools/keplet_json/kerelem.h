@@ -6,7 +6,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "shell/allapot.h"
+#include "chart/allapot.h"
 
 /// Reading of requests and shaping of answers, shared by all operations.
 

@@ -1,10 +1,10 @@
+#include "chart/foablak.h"
+#include "chart/kepletciklus.h"
 #include "muveletek.h"
 #include "predictive/ingresszio.h"
 #include "predictive/primer.h"
 #include "predictive/tercier.h"
 #include "predictive/visszateresek.h"
-#include "shell/foablak.h"
-#include "shell/kepletciklus.h"
 #include "tables/efemerida.h"
 
 namespace {

@@ -1,0 +1,122 @@
+#include "commands/kvhfajl.h"
+
+#include <charconv>
+#include <fstream>
+#include <istream>
+
+#include "chart/kepletciklus.h"
+#include "commands/szemelyiadatok.h"
+#include "files/kvhrekord.h"
+#include "tables/fokperc.h"
+
+namespace {
+
+const std::string irasiHiba = "File írási hiba!";
+const std::string olvasasiHiba = "File olvasási hiba!";
+
+TKvhRekord kepletRekord(const Allapot& allapot) {
+    const TKeplet& k = allapot.Keplet;
+    const TSzemely& sz = allapot.Szemely;
+    return {sz.nev,      k.pillanat(), k.idozona,
+            k.nyariIdo,  k.helyseg,    k.hosszusag,
+            k.szelesseg, sz.jegyzet,   allapot.Esemenyek.EsemenyDb,
+            sz.hangJel};
+}
+
+TKvhRekord esemenyRekord(const TEletesemeny& e, int index) {
+    return {e.esemeny,
+            {e.ev, e.ho, e.nap, e.ora, e.perc, e.mperc},
+            e.idozona,
+            e.nyariIdo,
+            e.helyseg,
+            ivmasodpercre(e.hosszFok, e.hosszPerc),
+            ivmasodpercre(e.szelFok, e.szelPerc),
+            e.analogia,
+            index,
+            std::to_string(e.solarNap)};
+}
+
+void rekordIras(std::ostream& ki, const TKvhRekord& rekord) {
+    for (const std::uint8_t bajt : KvhKodolas(rekord)) ki.put(static_cast<char>(bajt));
+}
+
+std::optional<TKvhRekord> rekordOlvasas(std::istream& be) {
+    TKvhBajtok bajtok{};
+    for (std::uint8_t& bajt : bajtok) {
+        const int c = be.get();
+        if (c == std::istream::traits_type::eof()) return std::nullopt;
+        bajt = static_cast<std::uint8_t>(c);
+    }
+    return KvhDekodolas(bajtok);
+}
+
+void kepletAtvetel(Allapot& allapot, const TKvhRekord& r) {
+    TKeplet& k = allapot.Keplet;
+    TSzemely& sz = allapot.Szemely;
+    sz.nev = r.nev;
+    sz.beirt(r.pillanat);
+    k.idozona = r.idozona;
+    k.nyariIdo = r.nyariIdo;
+    k.helyseg = r.helyseg;
+    k.hosszusag = r.hosszusag;
+    k.szelesseg = r.szelesseg;
+    sz.jegyzet = r.jegyzet;
+    sz.hangJel = r.hang;
+}
+
+std::optional<TEletesemeny> esemenyAtvetel(const TKvhRekord& r) {
+    TEletesemeny e;
+    const char* vege = r.hang.data() + r.hang.size();
+    const auto [hely, hiba] = std::from_chars(r.hang.data(), vege, e.solarNap);
+    if (hiba != std::errc{} || hely != vege) return std::nullopt;
+    e.esemeny = r.nev;
+    e.analogia = r.jegyzet;
+    e.ev = r.pillanat.ev, e.ho = r.pillanat.ho, e.nap = r.pillanat.nap;
+    e.ora = r.pillanat.ora, e.perc = r.pillanat.perc, e.mperc = r.pillanat.mperc;
+    e.helyseg = r.helyseg;
+    e.idozona = r.idozona;
+    e.nyariIdo = r.nyariIdo;
+    e.hosszFok = fokPercre(r.hosszusag).fok, e.hosszPerc = fokPercre(r.hosszusag).perc;
+    e.szelFok = fokPercre(r.szelesseg).fok, e.szelPerc = fokPercre(r.szelesseg).perc;
+    return e;
+}
+
+}  // namespace
+
+TKvhHiba KepletMentes(const Allapot& allapot, const std::string& fajl) {
+    std::ofstream ki(fajl, std::ios::binary | std::ios::trunc);
+    rekordIras(ki, kepletRekord(allapot));
+    for (int i = 1; i <= allapot.Esemenyek.EsemenyDb; ++i)
+        rekordIras(ki, esemenyRekord(allapot.Esemenyek.esemenyek[i], i));
+    ki.close();
+    return ki ? TKvhHiba{} : irasiHiba;
+}
+
+TKvhHiba KepletBeolvasas(Allapot& allapot, std::istream& be) {
+    allapot.Szemely.jegyzet.clear();
+    const auto keplet = rekordOlvasas(be);
+    if (!keplet) return olvasasiHiba;
+    kepletAtvetel(allapot, *keplet);
+    if (keplet->esemenySzam < 0 || keplet->esemenySzam > esemenyHelyek) return olvasasiHiba;
+    allapot.Esemenyek.EsemenyDb = keplet->esemenySzam;
+    for (int i = 1; i <= keplet->esemenySzam; ++i) {
+        const auto rekord = rekordOlvasas(be);
+        if (!rekord) return olvasasiHiba;
+        const auto esemeny = esemenyAtvetel(*rekord);
+        if (!esemeny) return olvasasiHiba;
+        allapot.Esemenyek.esemenyek[i] = *esemeny;
+    }
+    return {};
+}
+
+TKvhHiba KepletMegnyitas(Allapot& allapot, FoAblak& ablak, const std::string& fajl,
+                         const std::function<void()>& hangLink) {
+    std::ifstream be(fajl, std::ios::binary);
+    if (TKvhHiba hiba = KepletBeolvasas(allapot, be)) return hiba;
+    hangLink();
+    allapot.Keplet.pillanat(allapot.Szemely.beirt());
+    DatumRendezes(allapot.Keplet);
+    allapot.Szemely.idoTipus = "ZN";
+    BevittKepletMutatasa(allapot, ablak);
+    return {};
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <functional>
+#include <iosfwd>
+#include <optional>
+#include <string>
+
+#include "chart/allapot.h"
+#include "chart/foablak.h"
+
+/// Chart files: the chart's record, then as many event records as it says.
+
+/// A failure's message to the user; nothing on success.
+using TKvhHiba = std::optional<std::string>;
+
+/// Writes the chart on screen with its events over the file. After a failure the file is as far as written.
+TKvhHiba KepletMentes(const Allapot& allapot, const std::string& fajl);
+
+/// Reads the file's fields into the state: the chart as typed data, the events into the store, whose slots
+/// above the count keep what they held. After a failure, which an event count outside 0..20 is too, what was
+/// read stays.
+TKvhHiba KepletBeolvasas(Allapot& allapot, std::istream& be);
+
+/// Reads a file, plays its sound, and shows its chart.
+/// @param hangLink  called between reading and showing
+TKvhHiba KepletMegnyitas(Allapot& allapot, FoAblak& ablak, const std::string& fajl,
+                         const std::function<void()>& hangLink);

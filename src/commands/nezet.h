@@ -1,0 +1,20 @@
+#pragma once
+
+#include "chart/allapot.h"
+#include "chart/foablak.h"
+
+/// The three views of a chart and the commands that switch them. None of these commands sets the day number
+/// from the date anew, so a chart whose clock less zone and summer time is negative moves one day back at
+/// each of them while the status bar stands still. This is meant.
+
+/// Sets the view with the text of panel 0 and the caption of the button that leads to the next view.
+/// @param tipus  1 Radix, 2 Mundán, 3 Dekád
+void NezetBeallitas(Allapot& allapot, int tipus);
+
+/// "Vált": the next view in the ring, with the whole cycle.
+void ValtParancs(Allapot& allapot, FoAblak& ablak);
+/// "Horizont": the Radix view, with the whole cycle.
+void HorizontParancs(Allapot& allapot, FoAblak& ablak);
+/// "Mundán", "Dekád": the rulers and their sentences stay as they were; only the decan texts follow.
+void MundanParancs(Allapot& allapot, FoAblak& ablak);
+void DekadParancs(Allapot& allapot, FoAblak& ablak);

@@ -1,0 +1,42 @@
+#include "commands/nyomtatas.h"
+
+#include "chart/statuszsor.h"
+#include "commands/nezet.h"
+#include "drawing/betutipus.h"
+#include "drawing/geometria.h"
+#include "drawing/kepletrajz.h"
+#include "tables/szamtan.h"
+#include "tables/szotar.h"
+#include "tables/szoveg.h"
+
+std::string FejlecSzoveg(const TKeplet& k, const std::string& megnevezes) {
+    const std::string datum = datumSzoveg(k.pillanat());
+    const std::string ido = std::to_string(k.ora) + ":" + ketJegy(k.perc) + ":" + ketJegy(k.mperc);
+    const std::string armc =
+        std::to_string(k.armcOra) + ":" + ketJegy(k.armcPerc) + ":" + std::to_string(egesz(k.armcMperc));
+    return megnevezes + ",  " + datum + "  " + ido + "  " + k.helyseg + ",  ARMC: " + armc;
+}
+
+void NyomtatasNezete(Allapot& allapot, const std::string& megnevezes) {
+    NezetBeallitas(allapot, 1);
+    allapot.Feliratok.statusz[panelNev] = megnevezes;
+}
+
+namespace {
+
+constexpr int fejlecMagassag = 60;  ///< device pixels
+constexpr int kapcsolatMagassag = 36;
+
+void kozepreIras(Vaszon& vaszon, std::string_view szoveg, int betuMagassag, int szelesseg, int y) {
+    vaszon.Betu(szovegFont, betuMagassag);
+    vaszon.TextOut((szelesseg - vaszon.TextWidth(szoveg)) / 2, y, szoveg);
+}
+
+}  // namespace
+
+void LapRajz(Vaszon& vaszon, Allapot& allapot, const std::string& fejlec, int szelesseg, int magassag) {
+    LapGeometria(allapot.Rajz, szelesseg, magassag);
+    KepletRajz(vaszon, allapot);
+    kozepreIras(vaszon, fejlec, fejlecMagassag, szelesseg, egesz(magassag * 0.03));
+    kozepreIras(vaszon, kapcsolatSor, kapcsolatMagassag, szelesseg, egesz(magassag - magassag * 0.05));
+}

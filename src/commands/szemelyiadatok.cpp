@@ -1,0 +1,164 @@
+#include "commands/szemelyiadatok.h"
+
+#include <algorithm>
+#include <array>
+
+#include "chart/kepletciklus.h"
+#include "chart/kepletmutatas.h"
+#include "chart/statuszsor.h"
+#include "commands/nezet.h"
+#include "tables/efemerida.h"
+#include "tables/fokperc.h"
+#include "tables/nyariido.h"
+#include "tables/szamtan.h"
+#include "tables/telepulesek.h"
+
+namespace {
+
+constexpr std::int64_t napMasodperc = 86400;
+
+/// Local mean time to zone time by the meridian's offset, 4 minutes of time a degree.
+void helyiKozepidobol(TPillanat& p, std::int32_t& julianszam, std::int32_t idozona, std::int32_t hosszusag) {
+    const auto [fok, perc] = fokPercre(hosszusag);
+    const std::int64_t eltolas = std::int64_t{perc} * 4 + std::int64_t{fok} * 240;
+    std::int64_t t = std::int64_t{p.ora} * 3600 + std::int64_t{p.perc} * 60 + p.mperc - eltolas +
+                     std::int64_t{idozona} * 3600;
+    if (t < 0) {
+        t += napMasodperc;
+        --julianszam;
+    } else if (t >= napMasodperc) {
+        t -= napMasodperc;
+        ++julianszam;
+    }
+    p.ora = alsoBitek(t / 3600);
+    p.perc = alsoBitek(t % 3600 / 60);
+    p.mperc = alsoBitek(t % 60);
+}
+
+void greenwichiIdobol(TPillanat& p, std::int32_t& julianszam, std::int32_t idozona) {
+    p.ora = alsoBitek(std::int64_t{p.ora} + idozona);
+    if (p.ora > 23) {
+        p.ora -= 24;
+        ++julianszam;
+    } else if (p.ora < 0) {
+        p.ora += 24;
+        --julianszam;
+    }
+}
+
+}  // namespace
+
+void IdoAtvaltas(TPillanat& pillanat, std::int32_t& julianszam, std::string_view idoTipus,
+                 std::int32_t idozona, std::int32_t hosszusag) {
+    if (idoTipus == "LMT") helyiKozepidobol(pillanat, julianszam, idozona, hosszusag);
+    if (idoTipus == "GMT") greenwichiIdobol(pillanat, julianszam, idozona);
+    JulianszambolDatum(julianszam, pillanat.ev, pillanat.ho, pillanat.nap);
+}
+
+namespace {
+
+void koordinataMezok(TSzemelyiAdatok& mezok, std::int32_t hosszusag, std::int32_t szelesseg) {
+    const auto [hosszFok, hosszPerc] = fokPercre(hosszusag);
+    const auto [szelFok, szelPerc] = fokPercre(szelesseg);
+    mezok.hosszFok = hosszFok;
+    mezok.hosszPerc = hosszPerc;
+    mezok.szelFok = szelFok;
+    mezok.szelPerc = szelPerc;
+}
+
+}  // namespace
+
+TSzemelyiAdatok UjKepletMezok(Allapot& allapot) {
+    allapot.Szemely.idoTipus = "ZN";
+    allapot.Szemely.idoTipusIndex = 0;
+
+    TSzemelyiAdatok mezok;
+    mezok.nev = "Új képlet";
+    mezok.ido = allapot.Szemely.beirt();
+    mezok.helyseg = allapot.Keplet.helyseg;
+    TPillanat p = mezok.ido;
+    mezok.nyariIdo = NyariIdoE(DatumbolJulianszam(p.ev, p.ho, p.nap), p.ora, p.perc, p.mperc);
+    TTelepules hely{};
+    TelepulesKeres(mezok.helyseg, hely.idozona, hely.szelesseg, hely.hosszusagJel, hely.szelessegJel,
+                   hely.hosszusag);
+    mezok.idozona = hely.idozona;
+    koordinataMezok(mezok, hely.hosszusag, hely.szelesseg);
+    return mezok;
+}
+
+TSzemelyiAdatok SzemelyMezok(const Allapot& allapot) {
+    const TKeplet& k = allapot.Keplet;
+    TSzemelyiAdatok mezok;
+    mezok.nev = allapot.Szemely.nev;
+    mezok.ido = allapot.Szemely.beirt();
+    mezok.helyseg = k.helyseg;
+    mezok.idozona = k.idozona;
+    mezok.nyariIdo = k.nyariIdo;
+    koordinataMezok(mezok, k.hosszusag, k.szelesseg);
+    mezok.jegyzet = allapot.Szemely.jegyzet;
+    return mezok;
+}
+
+void HelysegValtozas(Allapot& allapot, TSzemelyiAdatok& mezok) {
+    TKeplet& k = allapot.Keplet;
+    k.helyseg = mezok.helyseg;
+    TelepulesKeres(k.helyseg, k.idozona, k.szelesseg, k.hosszusagJel, k.szelessegJel, k.hosszusag);
+    mezok.idozona = k.idozona;
+    koordinataMezok(mezok, k.hosszusag, k.szelesseg);
+
+    TPillanat& ido = mezok.ido;
+    k.julianszam = DatumbolJulianszam(ido.ev, ido.ho, ido.nap);
+    JulianszambolDatum(k.julianszam, ido.ev, ido.ho, ido.nap);
+    allapot.Szemely.beirt(ido);
+
+    k.nyariIdo = allapot.Szemely.idoTipus == "ZN" ? NyariIdoE(k.julianszam, ido.ora, ido.perc, ido.mperc) : 0;
+    mezok.nyariIdo = k.nyariIdo;
+}
+
+void IdoTipusValasztas(Allapot& allapot, int index) {
+    constexpr std::array<std::string_view, 3> tipusok{"ZN", "LMT", "GMT"};
+    allapot.Szemely.idoTipus = tipusok[static_cast<std::size_t>(std::clamp(index, 0, 2))];
+    allapot.Szemely.idoTipusIndex = index;
+}
+
+void SzemelyiRendben(Allapot& allapot, const TSzemelyiAdatok& mezok) {
+    TKeplet& k = allapot.Keplet;
+    TSzemely& szemely = allapot.Szemely;
+    szemely.jegyzet = mezok.jegyzet;
+    szemely.nev = mezok.nev;
+    TPillanat beirt = mezok.ido;
+    k.julianszam = DatumbolJulianszam(beirt.ev, beirt.ho, beirt.nap);
+    szemely.beirt(beirt);
+
+    k.helyseg = mezok.helyseg;
+    k.nyariIdo = mezok.nyariIdo;
+    k.idozona = mezok.idozona;
+    k.hosszusag = ivmasodpercre(mezok.hosszFok, mezok.hosszPerc);
+    k.szelesseg = ivmasodpercre(mezok.szelFok, mezok.szelPerc);
+
+    TPillanat pillanat = szemely.beirt();
+    IdoAtvaltas(pillanat, k.julianszam, szemely.idoTipus, k.idozona, k.hosszusag);
+    k.pillanat(pillanat);
+    allapot.Megsem2 = false;
+}
+
+void BevittKepletMutatasa(Allapot& allapot, FoAblak& ablak) {
+    TFeliratok& feliratok = allapot.Feliratok;
+    feliratok.memo = allapot.Szemely.jegyzet;
+    allapot.MostFut = false;
+    feliratok.mostGomb = "Most";
+    NezetBeallitas(allapot, 1);
+    feliratok.statusz[panelNev] = allapot.Szemely.nev + " ";
+    ablak.Mutat();
+    ablak.Ujrafest();
+
+    CsillagIdoLepes(allapot.Keplet);
+    allapot.RadixPillanat = allapot.Keplet.pillanat();
+    allapot.SzuletesiPillanat = allapot.Keplet.pillanat();
+    allapot.Szemely.jegyzetMentett = allapot.Szemely.jegyzet;
+
+    IrStatuszSor(allapot, allapot.Szemely.beirt(), allapot.Szemely.idoTipus);
+    feliratok.statusz[panelHely] += " ";
+    KepletCiklus(allapot);
+    KepletMutatas(allapot, ablak);
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "chart/allapot.h"
+
+/// Houses whose cusps the side panel and the cusp labels show.
+inline constexpr std::array<int, 6> feliratosCsucsok{1, 2, 3, 10, 11, 12};
+
+/// Degrees, minutes and seconds within the sign, all cut off and unpadded, as in 12°5'9''.
+std::string helyzetSzoveg(double hossz);
+
+/// The sixteen rows of the side panel from the kept bodies and cusps.
+void OldalPanelIras(Allapot& allapot);
+
+/// The sixteen aspect points of each kept body, degrees, 0..360.
+void FenyszogPontSzamitas(Allapot& allapot);

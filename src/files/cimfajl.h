@@ -1,0 +1,13 @@
+#pragma once
+
+#include <iosfwd>
+#include <string>
+
+#include "chart/allapot.h"
+
+/// Name of the title file, looked for in the process's current directory.
+inline constexpr const char* cimFajlNev = "Korvend.txt";
+
+/// Reads up to six title texts, one a line, up to the first empty line. Each line gets a blank and is
+/// repeated until it is at least 200 characters long, so that it can scroll. Slots without a line stay empty.
+void CimFajlOlvas(std::istream& be, Tomb<std::string, feliratHelyek>& szovegek);

@@ -1,8 +1,0 @@
-#include "shell/jelszo.h"
-
-JelszoValasz JelszoValtozas(Allapot& allapot, bool egyezik) {
-    if (++allapot.JelszoProba >= jelszoValtozasok) return JelszoValasz::vege;
-    if (!egyezik) return JelszoValasz::tovabb;
-    allapot.JelszoRendben = true;
-    return JelszoValasz::jo;
-}

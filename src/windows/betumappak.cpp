@@ -1,0 +1,47 @@
+#include "windows/betumappak.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFont>
+#include <QFontDatabase>
+#include <QStandardPaths>
+
+#include "drawing/betutipus.h"
+#include "windows/qszoveg.h"
+
+namespace {
+
+QStringList sajatMappak() {
+    const QString alap = QCoreApplication::applicationDirPath();
+    return {alap + "/fonts", alap + "/../share/korvend/fonts"};
+}
+
+}  // namespace
+
+std::vector<std::string> betuMappak() {
+    QStringList mappak = sajatMappak();
+    mappak << QStandardPaths::standardLocations(QStandardPaths::FontsLocation) << "/usr/share/fonts"
+           << "/usr/local/share/fonts";
+    std::vector<std::string> nevek;
+    for (const QString& mappa : mappak) nevek.push_back((mappa + "/").toStdString());
+    return nevek;
+}
+
+void sajatBetukBetoltese() {
+    for (const QString& mappa : sajatMappak())
+        for (const QFileInfo& fajl : QDir(mappa).entryInfoList({"*.ttf"}, QDir::Files))
+            QFontDatabase::addApplicationFont(fajl.absoluteFilePath());
+    // The text face's name is on no system. The labels of the wheel are laid out for a face of these widths;
+    // where none is there the system's default takes its place.
+    QFont::insertSubstitutions(qszoveg(szovegFont), {"Arial", "Liberation Sans"});
+}
+
+QStringList szimbolumFontok() {
+    QStringList nevek;
+    for (const std::string& mappa : betuMappak())
+        for (const QFileInfo& fajl :
+             QDir(QString::fromStdString(mappa)).entryInfoList({"Astro*.ttf"}, QDir::Files))
+            nevek << fajl.completeBaseName();
+    nevek.removeDuplicates();
+    return nevek;
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QFont>
+#include <QPainter>
+#include <QPen>
+#include <QRawFont>
+#include <QString>
+
+#include "drawing/vaszon.h"
+
+/// The canvas on a QPainter: black antialiased lines, white fillings, one pixel being one unit of the
+/// painter. A coordinate is the middle of its pixel.
+class QtVaszon : public Vaszon {
+public:
+    /// @param festo  active; it must outlive the canvas
+    explicit QtVaszon(QPainter& festo);
+
+    void Ellipse(int x1, int y1, int x2, int y2) override;
+    void MoveTo(int x, int y) override { hely_ = {x, y}; }
+    void LineTo(int x, int y) override;
+    void TextOut(int x, int y, std::string_view szoveg) override;
+    int TextWidth(std::string_view szoveg) override;
+    void TollSzelesseg(int szelesseg) override;
+    void Stilus(TollStilus stilus) override;
+    /// A height of 0 or less draws no text.
+    void Betu(std::string_view nev, int magassag) override;
+
+private:
+    void tollBeallitas();
+    /// For texts with characters that the face lacks.
+    QFont tartalekBetu() const;
+
+    QPainter& festo_;
+    QPoint hely_;
+    QPen toll_;
+    int magassag_ = 0;
+    QString betuNev_;
+    QRawFont betu_;
+};
+
+/// A font whose character cell, ascent and descent together, is so many pixels high.
+/// @param dpi  resolution of the device that it is used on
+QFont cellaMagassaguBetu(const QString& nev, int magassag, int dpi);

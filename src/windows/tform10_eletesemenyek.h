@@ -1,0 +1,66 @@
+#pragma once
+
+#include <array>
+#include <functional>
+
+#include <QComboBox>
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
+
+#include "chart/allapot.h"
+#include "chart/foablak.h"
+#include "events/eletesemenyek.h"
+
+/// Life events: the list of up to twenty, and the fields of the one that is typed or selected.
+class TForm10 : public QDialog {
+    Q_OBJECT
+
+public:
+    TForm10(Allapot& allapot, FoAblak& ablak, QWidget* fo);
+
+    /// Fills the list from the store, keeps a second set for "Mégsem", shows the dialog and waits for its
+    /// end.
+    /// @param szuletes  gives the birth data as they stand in the personal-data dialog
+    void megmutat(std::function<TSzuletes()> szuletes);
+
+private slots:
+    void Button_Rendben1Click();
+    void Button_Torol1Click();
+    void Button_Rendben2Click();
+    void Button_Megsem2Click();
+    void ComboBoxHelyseg1Change();
+    void SpinEditEv1Change();
+
+private:
+    void mezokEpitese();
+    void listaEpitese();
+    QSpinBox* szamMezo(const char* nev, int also, int felso, const QRect& hely);
+    QLineEdit* szovegMezo(const char* nev, const QRect& hely);
+    QPushButton* gomb(const char* nev, const QString& felirat, const QRect& hely, void (TForm10::*kezelo)());
+    void cimke(const QString& szoveg, int x, int y);
+    void LEletesClick(const QString& felirat);
+    int tablaNyariIdo() const;
+    void listaMutatasa();
+    void mezokMutatasa(const TEletesemeny& e);
+    TEletesemeny mezok() const;
+    bool eventFilter(QObject* targy, QEvent* esemeny) override;
+    void reject() override { Button_Megsem2Click(); }
+
+    Allapot& allapot_;
+    QWidget* fo_;
+    TEsemenyTar masodik_;  ///< the events at the opening
+    int kijelolt_ = 0;     ///< 1..20, 0 for none
+    std::function<TSzuletes()> szuletes_;
+
+    std::array<std::array<QLabel*, esemenyOszlopok>, esemenyHelyek> sorok_{};
+    QLineEdit *esemeny_ = nullptr, *analogia_ = nullptr;
+    QSpinBox *ev_ = nullptr, *ho_ = nullptr, *nap_ = nullptr, *ora_ = nullptr, *perc_ = nullptr,
+             *mperc_ = nullptr;
+    QComboBox* helyseg_ = nullptr;
+    QSpinBox *idozona_ = nullptr, *nyariIdo_ = nullptr;
+    QSpinBox *hosszFok_ = nullptr, *hosszPerc_ = nullptr, *szelFok_ = nullptr, *szelPerc_ = nullptr;
+    QLabel* solarNap_ = nullptr;
+};

@@ -1,0 +1,103 @@
+#include "windows/tform12_primer.h"
+
+#include <QPushButton>
+
+#include "predictive/primer.h"
+#include "windows/ablakelhelyezes.h"
+#include "windows/gomb.h"
+#include "windows/qszoveg.h"
+#include "windows/qtvaszon.h"
+
+namespace {
+
+constexpr QSize ablakMeret{560, 470};
+constexpr int alsoTav = 18;  ///< pixels above the main window's bottom
+constexpr int memoBal = 8;
+constexpr int fejTetej = 48;
+
+}  // namespace
+
+TForm12::TForm12(Allapot& allapot, FoAblak&, QWidget* fo)
+    : QDialog(fo, Qt::Dialog | Qt::WindowStaysOnTopHint),
+      allapot_(allapot),
+      fo_(fo),
+      memo1_(new QPlainTextEdit(this)) {
+    setObjectName("TForm12");
+    setWindowTitle("Primer direkció");
+    setFixedSize(ablakMeret);
+    const auto mezo = [this](const char* nev, const char* felirat, int also, int felso, int x,
+                             int feliratSzelesseg) {
+        auto* cimke = new QLabel(felirat, this);
+        cimke->move(x, 15);
+        auto* uj = new QSpinBox(this);
+        uj->setObjectName(nev);
+        uj->setRange(also, felso);
+        uj->setGeometry(x + feliratSzelesseg, 10, 66, 26);
+        return uj;
+    };
+    ev_ = mezo("SpinEditEv1", "Kezdő év:", 1900, 2068, 10, 66);
+    ho_ = mezo("SpinEditHo1", "hó:", 1, 12, 156, 28);
+    nap_ = mezo("SpinEditNap1", "nap:", 1, 31, 264, 36);
+    const auto gomb = [this](const char* nev, const char* felirat, const QRect& hely,
+                             void (TForm12::*kezelo)()) {
+        auto* uj = ujGomb(this, nev, felirat, hely);
+        connect(uj, &QPushButton::clicked, this, kezelo);
+        return uj;
+    };
+    gomb("Button_Rendben1", "Rendben", {384, 9, 80, 28}, &TForm12::Button_Rendben1Click)->setDefault(true);
+    gomb("Button_Megsem1", "Mégsem", {470, 9, 80, 28}, &TForm12::Button_Megsem1Click);
+    connect(ujGomb(this, "Button_Pontositas1", "Pontosítás", {450, 436, 100, 28}), &QPushButton::clicked,
+            this, [this] {
+                if (pontositas) pontositas();
+            });
+
+    label8_ = new QLabel("Solar-Nap:", this);
+    label8_->setObjectName("Label8");
+    std::size_t n = 0;
+    for (const char* fej : {"dMC:", "cMC:", "dAsc:", "cAsc:"}) fejek_[n++] = new QLabel(fej, this);
+    memo1_->setObjectName("Memo1");
+    memo1_->setReadOnly(true);
+    memo1_->setLineWrapMode(QPlainTextEdit::NoWrap);
+    memo1_->setGeometry(memoBal, fejTetej + 20, ablakMeret.width() - 2 * memoBal, 360);
+}
+
+/// Symbol font in the list, and each head over its column: the columns are indented by that font's blanks.
+void TForm12::betukEsFejek() {
+    const QFont betu = cellaMagassaguBetu("Astro Symbols", 14, logicalDpiY());
+    memo1_->setFont(betu);
+    const QFontMetrics meretek(betu);
+    const int bal = memoBal + memo1_->frameWidth() + static_cast<int>(memo1_->document()->documentMargin());
+    const QString datum = "2000.01.01.   ";
+    label8_->move(bal + meretek.horizontalAdvance(datum) - label8_->sizeHint().width() / 2, fejTetej);
+    constexpr std::array<int, 4> koz{5, 20, 32, 46};  // blanks before each column
+    for (std::size_t i = 0; i < fejek_.size(); ++i)
+        fejek_[i]->move(bal + meretek.horizontalAdvance(datum + "w" + QString(koz[i], u' ')), fejTetej);
+}
+
+void TForm12::megmutat(int kezdoEv) {
+    ev_->setValue(kezdoEv);
+    ho_->setValue(1);
+    nap_->setValue(1);
+    memo1_->clear();
+    betukEsFejek();
+    jobbraLent(*this, *fo_, alsoTav);
+    show();
+    raise();
+}
+
+void TForm12::futtat() {
+    QStringList sorok;
+    for (const std::string& sor : PrimerFutas(allapot_, {ev_->value(), ho_->value(), nap_->value(), 0, 0, 0}))
+        sorok << qszoveg(sor);
+    memo1_->setPlainText(sorok.join('\n'));
+}
+
+void TForm12::Button_Rendben1Click() {
+    allapot_.PrimerFut = true;
+    futtat();
+}
+
+void TForm12::Button_Megsem1Click() {
+    allapot_.PrimerFut = false;
+    close();
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <array>
+#include <functional>
+
+#include <QDialog>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QSpinBox>
+
+#include "chart/allapot.h"
+#include "chart/foablak.h"
+
+/// List of primary directions. It stays open beside the main window and follows the chart while `PrimerFut`
+/// is set.
+class TForm12 : public QDialog {
+    Q_OBJECT
+
+public:
+    TForm12(Allapot& allapot, FoAblak& ablak, QWidget* fo);
+
+    /// Prepares the fields for a start year and shows the window at the main window's lower right.
+    void megmutat(int kezdoEv);
+    /// Runs the list with the fields as they stand.
+    void futtat();
+
+    /// What "Pontosítás" opens.
+    std::function<void()> pontositas;
+
+private slots:
+    void Button_Rendben1Click();
+    void Button_Megsem1Click();
+
+private:
+    void betukEsFejek();
+
+    Allapot& allapot_;
+    QWidget* fo_;
+    QSpinBox* ev_;
+    QSpinBox* ho_;
+    QSpinBox* nap_;
+    QLabel* label8_;
+    std::array<QLabel*, 4> fejek_{};
+    QPlainTextEdit* memo1_;
+};

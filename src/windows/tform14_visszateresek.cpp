@@ -1,0 +1,140 @@
+#include "windows/tform14_visszateresek.h"
+
+#include <QGridLayout>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+
+#include "tables/fokperc.h"
+#include "tables/telepulesek.h"
+#include "windows/ablakelhelyezes.h"
+#include "windows/gomb.h"
+#include "windows/helysegmezo.h"
+#include "windows/idovalaszto.h"
+#include "windows/qszoveg.h"
+
+namespace {
+
+QSpinBox* kijelzo(QWidget* szulo, const char* nev, int also, int felso) {
+    auto* mezo = new QSpinBox(szulo);
+    mezo->setObjectName(nev);
+    mezo->setRange(also, felso);
+    return mezo;
+}
+
+}  // namespace
+
+TForm14::TForm14(Allapot& allapot, FoAblak&, QWidget* fo)
+    : QDialog(fo),
+      allapot_(allapot),
+      fo_(fo),
+      label1_(new QLabel(this)),
+      datumBekero1_(new QLabel(this)),
+      helyseg_(ujHelysegMezo(this, "ComboBoxHelyseg1")),
+      listBox1_(new QListWidget(this)) {
+    setObjectName("TForm14");
+    setWindowTitle("Nap-áthaladások");
+    label1_->setObjectName("Label1");
+    datumBekero1_->setObjectName("Datum_bekero1");
+    listBox1_->setObjectName("ListBox1");
+    listBox1_->setMinimumSize(220, 280);
+
+    auto* jobb = new QGridLayout;
+    jobb->addWidget(datumBekero1_, 0, 0, 1, 4);
+    constexpr std::array<const char*, 3> datumNevek{"SpinEditEv1", "SpinEditHo1", "SpinEditNap1"};
+    constexpr std::array<const char*, 3> editNevek{"Edit1", "Edit2", "Edit3"};
+    for (std::size_t i = 0; i < 3; ++i) {
+        datum_[i] = kijelzo(this, datumNevek[i], 0, 9999);
+        edit_[i] = new QLineEdit(this);
+        edit_[i]->setObjectName(editNevek[i]);
+        edit_[i]->setReadOnly(true);
+        edit_[i]->setMaximumWidth(60);
+        jobb->addWidget(datum_[i], 1, static_cast<int>(i));
+        jobb->addWidget(edit_[i], 2, static_cast<int>(i));
+    }
+    jobb->addWidget(ujIdoValaszto(this), 3, 0, 1, 4);
+    jobb->addWidget(new QLabel("Helység:", this), 4, 0);
+    jobb->addWidget(helyseg_, 4, 1, 1, 3);
+    constexpr std::array<const char*, 4> koordinataNevek{"SpinEditHosszFok1", "SpinEditHosszPerc1",
+                                                         "SpinEditSzelFok1", "SpinEditSzelPerc1"};
+    for (std::size_t i = 0; i < 4; ++i)
+        koordinata_[i] = kijelzo(this, koordinataNevek[i], i % 2 == 0 ? -180 : 0, i % 2 == 0 ? 180 : 59);
+    jobb->addWidget(new QLabel("Hosszúság (+/K, -/Ny):", this), 5, 0, 1, 2);
+    jobb->addWidget(koordinata_[0], 5, 2);
+    jobb->addWidget(koordinata_[1], 5, 3);
+    jobb->addWidget(new QLabel("Szélesség (+/É, -/D):", this), 6, 0, 1, 2);
+    jobb->addWidget(koordinata_[2], 6, 2);
+    jobb->addWidget(koordinata_[3], 6, 3);
+    jobb->setRowStretch(7, 1);
+    auto* rendben = ujGomb(this, "Button_Rendben1", "Rendben");
+    rendben->setDefault(true);
+    auto* megsem = ujGomb(this, "Button_Megsem1", "Mégsem");
+    jobb->addWidget(rendben, 8, 0, 1, 2);
+    jobb->addWidget(megsem, 8, 2, 1, 2);
+
+    auto* egesz = new QGridLayout(this);
+    egesz->addWidget(label1_, 0, 0);
+    egesz->addWidget(listBox1_, 1, 0);
+    egesz->addLayout(jobb, 0, 1, 2, 1);
+    connect(rendben, &QPushButton::clicked, this, &TForm14::Button_Rendben1Click);
+    connect(megsem, &QPushButton::clicked, this, &TForm14::Button_Megsem1Click);
+    connect(this, &QDialog::rejected, this, [this] { allapot_.Megsem14 = true; });
+    connect(listBox1_, &QListWidget::currentRowChanged, this, &TForm14::ListBox1Click);
+    connect(helyseg_, &QComboBox::editTextChanged, this, &TForm14::ComboBoxHelyseg1Change);
+}
+
+void TForm14::kitoltes(const TVisszateresFajta& fajta, const TPillanat& kezdo) {
+    setWindowTitle(qszoveg(fajta.cim.hosszu));
+    label1_->setText(fajta.listaCim);
+    datumBekero1_->setText("Kezdő dátum:");
+    const QSignalBlocker blokk(helyseg_);
+    if (helyseg_->count() == 0) helysegekHozzaadasa(*helyseg_);
+    helyseg_->setEditText(qszoveg(allapot_.Keplet.helyseg));
+    listBox1_->clear();
+    findChildren<QRadioButton*>().last()->setChecked(true);
+    sor_ = 1;
+    const std::array<int, 3> datum{kezdo.ev, kezdo.ho, kezdo.nap};
+    for (std::size_t i = 0; i < datum.size(); ++i) {
+        datum_[i]->setValue(datum[i]);
+        edit_[i]->setText(QString::number(datum[i]));
+    }
+    koordinatak(allapot_.Keplet.hosszusag, allapot_.Keplet.szelesseg);
+}
+
+void TForm14::megmutat(const std::vector<std::string>& sorok) {
+    for (const std::string& sor : sorok) listBox1_->addItem(qszoveg(sor));
+    adjustSize();
+    kozepre(*this, *fo_);
+    exec();
+}
+
+std::string TForm14::helyseg() const {
+    return szoveg(helyseg_->currentText());
+}
+
+void TForm14::koordinatak(std::int32_t hosszusag, std::int32_t szelesseg) {
+    const TFokPerc hossz = fokPercre(hosszusag);
+    const TFokPerc szel = fokPercre(szelesseg);
+    const std::array<int, 4> ertekek{hossz.fok, hossz.perc, szel.fok, szel.perc};
+    for (std::size_t i = 0; i < ertekek.size(); ++i) koordinata_[i]->setValue(ertekek[i]);
+}
+
+void TForm14::Button_Rendben1Click() {
+    allapot_.Megsem14 = false;
+    accept();
+}
+
+void TForm14::Button_Megsem1Click() {
+    reject();
+}
+
+void TForm14::ListBox1Click() {
+    sor_ = std::max(0, listBox1_->currentRow()) + 1;
+}
+
+void TForm14::ComboBoxHelyseg1Change() {
+    TTelepules hely{};
+    TelepulesKeres(helyseg(), hely.idozona, hely.szelesseg, hely.hosszusagJel, hely.szelessegJel,
+                   hely.hosszusag);
+    koordinatak(hely.hosszusag, hely.szelesseg);
+}

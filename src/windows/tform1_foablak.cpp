@@ -1,0 +1,351 @@
+// The main window itself: its parts, its drawing surface, its texts.
+
+#include "windows/tform1_foablak.h"
+
+#include <QDate>
+#include <QFrame>
+#include <QLocale>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QMouseEvent>
+#include <QSignalBlocker>
+#include <QStatusBar>
+#include <QTime>
+
+#include "commands/indulas.h"
+#include "commands/orajel.h"
+#include "drawing/betutipus.h"
+#include "drawing/geometria.h"
+#include "drawing/kepletrajz.h"
+#include "tables/szotar.h"
+#include "windows/ablakok.h"
+#include "windows/betumappak.h"
+#include "windows/datumformatum.h"
+#include "windows/qszoveg.h"
+
+namespace {
+
+constexpr int tervezettSzelesseg = 995;
+constexpr int tervezettMagassag = 717;
+constexpr int panelSzelesseg = 49;
+constexpr int gombMagassag = 24;
+constexpr int panelSorMagassag = 28;
+constexpr int panelSorokTeteje = 6 * gombMagassag + 2;
+
+struct TMemoHely {
+    int tetej, magassag;
+};
+constexpr TMemoHely kicsiMemo{600, 281};
+constexpr TMemoHely nagyMemo{144, 737};  ///< over the side table too, so that the note can be read
+
+using TKezelo = void (TForm1::*)();
+
+/// One line of the menu: a submenu if it has no name.
+struct TMenuSor {
+    int szint;
+    const char* felirat;
+    const char* nev;
+    TKezelo kezelo;
+};
+
+constexpr TMenuSor menuSorok[]{
+    {0, "Horoszkóp", nullptr, nullptr},
+    {1, "Személyi adatok", "Szemely_adatok1", &TForm1::Szemely_adatok1Click},
+    {1, "Új", "Uj1", &TForm1::Uj1Click},
+    {1, "Megnyitás", "Megnyitas1", &TForm1::Megnyitas1Click},
+    {1, "Mentés", "Mentes1", &TForm1::Mentes1Click},
+    {1, "Nyomtat", "Nyomtat1", &TForm1::Nyomtat1Click},
+    {1, "Nyomtatóbeállítás", "Nyomtato_beallitas1", &TForm1::Nyomtato_beallitas1Click},
+    {1, "Kilépés", "Kilepes1", &TForm1::Kilepes1Click},
+    {0, "Nézet", nullptr, nullptr},
+    {1, "Horizont", "Horizont1", &TForm1::Horizont1Click},
+    {1, "Mundán", "Mundan1", &TForm1::Mundan1Click},
+    {1, "Dekád", "Dekad1", &TForm1::Dekad1Click},
+    {0, "Progressziók", nullptr, nullptr},
+    {1, "Revolúció", nullptr, nullptr},
+    {2, "Szolár", "Szolar1", &TForm1::Szolar1Click},
+    {2, "Lunár", "Lunar1", &TForm1::Lunar1Click},
+    {2, "Merkúr Rev", "MerkurRev1", &TForm1::MerkurRev1Click},
+    {2, "Vénusz Rev", "VenuszRev1", &TForm1::VenuszRev1Click},
+    {2, "Mars Rev", "MarsRev1", &TForm1::MarsRev1Click},
+    {2, "Jupiter Rev", "JupiterRev1", &TForm1::JupiterRev1Click},
+    {2, "Szaturnusz Rev", "SzaturnuszRev1", &TForm1::SzaturnuszRev1Click},
+    {1, "Personar", nullptr, nullptr},
+    {2, "Asc Pers", "AscPers1", &TForm1::AscPers1Click},
+    {2, "Mc Pers", "McPers1", &TForm1::McPers1Click},
+    {2, "Hold Pers", "HoldPers1", &TForm1::HoldPers1Click},
+    {2, "Merkúr Pers", "MerkurPers1", &TForm1::MerkurPers1Click},
+    {2, "Vénusz Pers", "VenuszPers1", &TForm1::VenuszPers1Click},
+    {2, "Mars Pers", "MarsPers1", &TForm1::MarsPers1Click},
+    {2, "Jupiter Pers", "JupiterPers1", &TForm1::JupiterPers1Click},
+    {2, "Szaturnusz Pers", "SzaturnuszPers1", &TForm1::SzaturnuszPers1Click},
+    {2, "Uranusz Pers", "UranuszPers1", &TForm1::UranuszPers1Click},
+    {2, "Neptun Pers", "NeptunPers1", &TForm1::NeptunPers1Click},
+    {2, "Plutó Pers", "PlutoPers1", &TForm1::PlutoPers1Click},
+    {1, "Primer direkció", "Primer1", &TForm1::Primer1Click},
+    {1, "Tercier direkció", "Tercier1", &TForm1::Tercier1Click},
+    {1, "Szolár ingresszió", "Szolaringresszio11", &TForm1::Szolaringresszio11Click},
+    {0, "Beállítások", nullptr, nullptr},
+    {1, "Léptet", "Radixlepteto1", &TForm1::Radixlepteto1Click},
+    {1, "Orbisok", "Orbisok1", &TForm1::Orbisok1Click},
+    {1, "Mundánházas pontosítás", "Mundnhzaspontosts1", &TForm1::Mundnhzaspontosts1Click},
+    {1, "Szimbólumok", "Szimbolumok1", &TForm1::Szimbolumok1Click},
+};
+
+constexpr std::array<int, 7> statuszSzelessegek{48, 90, 150, 135, 150, 90, 750};
+
+}  // namespace
+
+TForm1::TForm1()
+    : felulet_(new KepletFelulet(this)), panel1_(new QFrame(felulet_)), timer1_(new QTimer(this)) {
+    setObjectName("TForm1");
+    resize(tervezettSzelesseg, tervezettMagassag);
+    felulet_->setObjectName("Felulet");
+    felulet_->installEventFilter(this);
+    setCentralWidget(felulet_);
+    menuEpites();
+    panelEpites();
+    statuszEpites();
+    connect(felulet_, &KepletFelulet::festesKeres, this, &TForm1::FormPaint);
+    connect(felulet_, &KepletFelulet::meretValtozott, this, &TForm1::FormResize);
+    FormCreate();
+    timer1_->setObjectName("Timer1");
+    timer1_->setInterval(orajelEzredmasodperc);
+    connect(timer1_, &QTimer::timeout, this, &TForm1::Timer1Timer);
+    timer1_->start();
+}
+
+void TForm1::menuEpites() {
+    menuBar()->setObjectName("MainMenu1");
+    std::array<QMenu*, 3> menuk{};
+    for (const TMenuSor& sor : menuSorok) {
+        const auto szint = static_cast<std::size_t>(sor.szint);
+        if (sor.nev == nullptr) {
+            menuk[szint] =
+                szint == 0 ? menuBar()->addMenu(sor.felirat) : menuk[szint - 1]->addMenu(sor.felirat);
+            continue;
+        }
+        QAction* pont = menuk[szint - 1]->addAction(sor.felirat);
+        pont->setObjectName(sor.nev);
+        connect(pont, &QAction::triggered, this, [this, kezelo = sor.kezelo] {
+            if (kezelo == &TForm1::Kilepes1Click || JelszoKeres()) (this->*kezelo)();
+        });
+    }
+}
+
+void TForm1::gombEpites(int hely, const char* nev, const QString& felirat, TKezelo kezelo) {
+    auto* gomb = new QPushButton(felirat, panel1_);
+    gomb->setObjectName(nev);
+    gomb->setGeometry(0, hely * gombMagassag, panelSzelesseg, gombMagassag);
+    gomb->setFocusPolicy(Qt::NoFocus);
+    connect(gomb, &QPushButton::clicked, this, [this, kezelo] {
+        if (JelszoKeres()) (this->*kezelo)();
+    });
+}
+
+void TForm1::panelSorEpites(int sor) {
+    constexpr std::array<const char*, 6> csucsFeliratok{"I", "2", "3", "X", "11", "12"};
+    constexpr int jelMagassag = 15;
+    const int y = panelSorokTeteje + sor * panelSorMagassag;
+    const auto uj = [&](int n, const QRect& hely) {
+        auto* felirat = new QLabel(panel1_);
+        felirat->setObjectName(QStringLiteral("Label%1").arg(n));
+        felirat->setGeometry(hely);
+        felirat->setAlignment(Qt::AlignCenter);
+        label_[static_cast<std::size_t>(n - 1)] = felirat;
+        return felirat;
+    };
+    const int fel = panelSzelesseg / 2;
+    QLabel* nev = uj(3 * sor + 1, {0, y, fel, jelMagassag});
+    uj(3 * sor + 2, {fel, y, panelSzelesseg - fel, jelMagassag});
+    uj(3 * sor + 3, {0, y + jelMagassag, panelSzelesseg, panelSorMagassag - jelMagassag});
+    nev->setText(sor < 10 ? QString(QChar(u'A' + sor))
+                          : QString(csucsFeliratok[static_cast<std::size_t>(sor - 10)]));
+}
+
+void TForm1::panelEpites() {
+    panel1_->setObjectName("Panel1");
+    panel1_->setAutoFillBackground(true);
+    panel1_->installEventFilter(this);
+    QFont kicsi = font();
+    kicsi.setPixelSize(10);
+    panel1_->setFont(kicsi);
+
+    gombEpites(0, "PanelButton2_Most", qszoveg(allapot_.Feliratok.mostGomb), &TForm1::PanelButton2_MostClick);
+    gombEpites(1, "PanelButton3_Valt", qszoveg(allapot_.Feliratok.valtGomb), &TForm1::PanelButton3_ValtClick);
+    gombEpites(2, "PanelButton4Leptet", "Léptet", &TForm1::Radixlepteto1Click);
+    gombEpites(3, "PanelButton5Orbis", "Orbis", &TForm1::Orbisok1Click);
+    gombEpites(4, "PanelButton6MHP", "MHP", &TForm1::Mundnhzaspontosts1Click);
+    gombEpites(5, "PanelButton7Tercier", "Tercier", &TForm1::Tercier1Click);
+    mostGomb_ = panel1_->findChild<QPushButton*>("PanelButton2_Most");
+    valtGomb_ = panel1_->findChild<QPushButton*>("PanelButton3_Valt");
+    for (int sor = 0; sor < 16; ++sor) panelSorEpites(sor);
+
+    memo1_ = new QPlainTextEdit(panel1_);
+    memo1_->setObjectName("Memo1");
+    memo1_->setFocusPolicy(Qt::ClickFocus);
+    QPalette szinek = memo1_->palette();
+    szinek.setColor(QPalette::Base, szinek.color(QPalette::Button));
+    memo1_->setPalette(szinek);
+    memo1_->viewport()->installEventFilter(this);
+    memoHely();
+    connect(memo1_, &QPlainTextEdit::textChanged, this, [this] {
+        allapot_.Feliratok.memo = szoveg(memo1_->toPlainText());
+        Memo1Change();
+    });
+}
+
+void TForm1::statuszEpites() {
+    auto* sav = statusBar();
+    sav->setObjectName("StatusBar1");
+    sav->setSizeGripEnabled(false);
+    QFont betu(qszoveg(szovegFont));
+    betu.setPixelSize(11);
+    sav->setFont(betu);
+    for (std::size_t i = 0; i < statusz_.size(); ++i) {
+        auto* felirat = new QLabel(qszoveg(allapot_.Feliratok.statusz[i]), sav);
+        felirat->setObjectName(QStringLiteral("StatusBar1Panel%1").arg(i));
+        const bool utolso = i + 1 == statusz_.size();
+        felirat->setMinimumWidth(utolso ? 0 : statuszSzelessegek[i]);
+        felirat->setMaximumWidth(statuszSzelessegek[i]);
+        felirat->setTextFormat(Qt::PlainText);
+        felirat->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+        sav->addWidget(felirat, utolso ? 1 : 0);
+        statusz_[i] = felirat;
+    }
+}
+
+void TForm1::FormCreate() {
+    if (!Indulas(allapot_, *this, betuMappak()))
+        QMessageBox::critical(this, "Korvend", "A rendszer dátuma vagy ideje nem olvasható.");
+}
+
+void TForm1::RajzolKeplet() {
+    AblakGeometria(allapot_.Rajz, allapot_.Keplet.hazCsucs[1], felulet_->width(), felulet_->height());
+    felulet_->rajzol([this](QtVaszon& vaszon) { KepletRajz(vaszon, allapot_); });
+    oldalPanelMutatas();
+    felulet_->megmutat();
+}
+
+void TForm1::Ujrafest() {
+    felulet_->torol();
+    FormPaint(felulet_->rect());
+    felulet_->megmutat();
+}
+
+void TForm1::FormPaint(const QRegion& resz) {
+    megjelent_ = true;
+    felulet_->torol(resz);
+    if (allapot_.TeljesTorles) return;
+    AblakGeometria(allapot_.Rajz, allapot_.Keplet.hazCsucs[1], felulet_->width(), felulet_->height());
+    felulet_->rajzol([this](QtVaszon& vaszon) { KepletRajz(vaszon, allapot_); });
+    oldalPanelMutatas();
+}
+
+void TForm1::FormResize() {
+    panel1_->setGeometry(0, 0, panelSzelesseg, felulet_->height());
+    allapot_.TeljesTorles = false;
+    if (!megjelent_) return;  // the first paint request draws
+    felulet_->torol();
+    RajzolKeplet();
+}
+
+namespace {
+
+/// The largest text font whose widest position text still fits in the panel.
+QFont panelSzamBetu(int dpi) {
+    const QString nev = qszoveg(szovegFont);
+    int magassag = 13;  // pixels
+    while (magassag > 8 &&
+           QFontMetrics(cellaMagassaguBetu(nev, magassag, dpi)).horizontalAdvance("28°58'58''") >=
+               panelSzelesseg)
+        --magassag;
+    return cellaMagassaguBetu(nev, magassag, dpi);
+}
+
+}  // namespace
+
+void TForm1::oldalPanelMutatas() {
+    const QString szimbolum = qszoveg(allapot_.Rajz.szimbolumFont);
+    const auto& panel = allapot_.Rajz.panel;
+    for (std::size_t sor = 0; sor < panel.size(); ++sor) {
+        label_[3 * sor + 1]->setText(qszoveg(panel[sor].jel));
+        label_[3 * sor + 2]->setText(qszoveg(panel[sor].szoveg));
+    }
+    if (betutipus_ == szimbolum) return;
+    betutipus_ = szimbolum;
+    const QFont jel = cellaMagassaguBetu(szimbolum, 15, logicalDpiY());
+    const QFont szam = panelSzamBetu(logicalDpiY());
+    for (std::size_t sor = 0; sor < panel.size(); ++sor) {
+        label_[3 * sor]->setFont(sor < 10 ? jel : szam);
+        label_[3 * sor + 1]->setFont(jel);
+        label_[3 * sor + 2]->setFont(szam);
+    }
+}
+
+void TForm1::Mutat() {
+    const TFeliratok& f = allapot_.Feliratok;
+    const auto frissit = [](auto* mezo, const std::string& ertek) {
+        if (const QString uj = qszoveg(ertek); mezo->text() != uj) mezo->setText(uj);
+    };
+    for (std::size_t i = 0; i < statusz_.size(); ++i) frissit(statusz_[i], f.statusz[i]);
+    frissit(mostGomb_, f.mostGomb);
+    frissit(valtGomb_, f.valtGomb);
+    setWindowTitle(qszoveg(f.cim));
+    if (const QString memo = qszoveg(f.memo); memo1_->toPlainText() != memo) memo1_->setPlainText(memo);
+    if (ablakok_ == nullptr) return;
+    ablakok_->form7.setWindowTitle(qszoveg(f.leptetoCim));
+    ablakok_->form5.setWindowTitle(qszoveg(f.hangCim));
+}
+
+std::string TForm1::RendszerDatum() {
+    const QLocale nyelv = QLocale::system();
+    return szoveg(QLocale::c().toString(QDate::currentDate(), rovidDatumFormatum(nyelv)));
+}
+
+std::string TForm1::RendszerIdo() {
+    return szoveg(QTime::currentTime().toString("H:mm:ss"));
+}
+
+void TForm1::MundanFrissit() {
+    ablakok_->form8.frissit();
+}
+void TForm1::PontositasFuttat() {
+    ablakok_->form13.futtat();
+}
+void TForm1::PrimerFuttat() {
+    ablakok_->form12.futtat();
+}
+
+void TForm1::Timer1Timer() {
+    Orajel(allapot_, *this);
+}
+
+void TForm1::memoHely() {
+    const TMemoHely hely = allapot_.MemoKicsi ? kicsiMemo : nagyMemo;
+    memo1_->setGeometry(0, hely.tetej, panelSzelesseg, hely.magassag);
+}
+
+void TForm1::FormMouseDown() {
+    JelszoKeres();
+}
+
+void TForm1::Panel1Click() {
+    if (!JelszoKeres()) return;
+    allapot_.MemoKicsi = !allapot_.MemoKicsi;
+    memoHely();
+}
+
+/// A change of the note flips its position too, also a change that comes from the program: meant so.
+void TForm1::Memo1Change() {
+    Panel1Click();
+}
+
+bool TForm1::eventFilter(QObject* targy, QEvent* esemeny) {
+    if (targy == felulet_ && esemeny->type() == QEvent::MouseButtonPress) FormMouseDown();
+    if (esemeny->type() == QEvent::MouseButtonRelease) {
+        if (targy == panel1_) Panel1Click();
+        if (targy == memo1_->viewport()) Memo1Change();
+    }
+    return QMainWindow::eventFilter(targy, esemeny);
+}

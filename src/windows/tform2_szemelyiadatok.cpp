@@ -1,0 +1,198 @@
+#include "windows/tform2_szemelyiadatok.h"
+
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include "windows/gomb.h"
+#include "windows/helysegmezo.h"
+#include "windows/idovalaszto.h"
+#include "windows/qszoveg.h"
+
+TForm2::TForm2(Allapot& allapot, FoAblak& ablak, QWidget* fo)
+    : QDialog(fo), allapot_(allapot), ablak_(ablak) {
+    setObjectName("TForm2");
+    setWindowTitle("Személyi adatok");
+    epites();
+}
+
+QSpinBox* TForm2::szamMezo(const char* nev, int also, int felso) {
+    auto* mezo = new QSpinBox(this);
+    mezo->setObjectName(nev);
+    mezo->setRange(also, felso);
+    return mezo;
+}
+
+namespace {
+
+QLabel* cimke(const QString& szoveg) {
+    auto* felirat = new QLabel(szoveg);
+    felirat->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    return felirat;
+}
+
+}  // namespace
+
+void TForm2::epites() {
+    editNev1_ = new QLineEdit(this);
+    editNev1_->setObjectName("EditNev1");
+    spinEditEv1_ = szamMezo("SpinEditEv1", 1900, 2068);
+    spinEditHo1_ = szamMezo("SpinEditHo1", 1, 12);
+    spinEditNap1_ = szamMezo("SpinEditNap1", 1, 31);
+    spinEditOra1_ = szamMezo("SpinEditOra1", 0, 23);
+    spinEditPerc1_ = szamMezo("SpinEditPerc1", 0, 59);
+    spinEditMperc1_ = szamMezo("SpinEditMperc1", 0, 59);
+    comboBoxHelyseg1_ = ujHelysegMezo(this, "ComboBoxHelyseg1");
+    spinEditIdozona1_ = szamMezo("SpinEditIdozona1", -12, 12);
+    spinEditNyariidosz1_ = szamMezo("SpinEditNyariidosz1", 0, 1);
+    spinEditHosszFok1_ = szamMezo("SpinEditHosszFok1", -180, 180);
+    spinEditHosszPerc1_ = szamMezo("SpinEditHosszPerc1", 0, 59);
+    spinEditSzelFok1_ = szamMezo("SpinEditSzelFok1", -180, 180);
+    spinEditSzelPerc1_ = szamMezo("SpinEditSzelPerc1", 0, 59);
+    memo_Jegyzet1_ = new QPlainTextEdit(this);
+    memo_Jegyzet1_->setObjectName("Memo_Jegyzet1");
+    memo_Jegyzet1_->setTabChangesFocus(true);
+
+    auto* valaszto = ujIdoValaszto(this);
+    idovalaszto_ = new QButtonGroup(valaszto);
+    int index = 0;
+    for (QRadioButton* radio : valaszto->findChildren<QRadioButton*>())
+        idovalaszto_->addButton(radio, index++);
+
+    auto* racs = new QGridLayout;
+    racs->addWidget(cimke("Név:"), 0, 0);
+    racs->addWidget(editNev1_, 0, 1, 1, 5);
+    const auto harom = [racs](int sor, const char* a, QWidget* wa, const char* b, QWidget* wb, const char* c,
+                              QWidget* wc) {
+        int oszlop = 0;
+        for (const auto& [felirat, mezo] : {std::pair{a, wa}, std::pair{b, wb}, std::pair{c, wc}}) {
+            racs->addWidget(cimke(felirat), sor, oszlop++);
+            racs->addWidget(mezo, sor, oszlop++);
+        }
+    };
+    harom(1, "Év:", spinEditEv1_, "Hó:", spinEditHo1_, "Nap:", spinEditNap1_);
+    harom(2, "Óra:", spinEditOra1_, "Perc:", spinEditPerc1_, "Mp:", spinEditMperc1_);
+    racs->addWidget(cimke("Helység:"), 3, 0);
+    racs->addWidget(comboBoxHelyseg1_, 3, 1, 1, 5);
+    racs->addWidget(cimke("Időzóna (+/K, -/Ny):"), 4, 0, 1, 2);
+    racs->addWidget(spinEditIdozona1_, 4, 2, 1, 2);
+    racs->addWidget(cimke("Nyári idősz. (0/1):"), 5, 0, 1, 2);
+    racs->addWidget(spinEditNyariidosz1_, 5, 2, 1, 2);
+    const auto koordinata = [racs](int sor, const char* felirat, QWidget* fok, QWidget* perc) {
+        racs->addWidget(cimke(felirat), sor, 0, 1, 2);
+        racs->addWidget(cimke("fok:"), sor, 2);
+        racs->addWidget(fok, sor, 3);
+        racs->addWidget(cimke("perc:"), sor, 4);
+        racs->addWidget(perc, sor, 5);
+    };
+    koordinata(6, "Hosszúság (+/K, -/Ny):", spinEditHosszFok1_, spinEditHosszPerc1_);
+    koordinata(7, "Szélesség (+/É, -/D):", spinEditSzelFok1_, spinEditSzelPerc1_);
+    racs->addWidget(valaszto, 8, 0, 1, 6);
+    racs->addWidget(cimke("Jegyzet:"), 9, 0);
+    racs->addWidget(memo_Jegyzet1_, 9, 1, 1, 5);
+
+    auto* rendben = ujGomb(this, "Button_Rendben1", "Rendben");
+    rendben->setDefault(true);
+    auto* megsem = ujGomb(this, "Button_Megsem1", "Mégsem");
+    auto* esemenyek = ujGomb(this, "Button_Eletesemenyek1", "Életesemények");
+    auto* gombok = new QHBoxLayout;
+    gombok->addWidget(esemenyek);
+    gombok->addStretch();
+    gombok->addWidget(rendben);
+    gombok->addWidget(megsem);
+    auto* egesz = new QVBoxLayout(this);
+    egesz->addLayout(racs);
+    egesz->addLayout(gombok);
+
+    connect(rendben, &QPushButton::clicked, this, &TForm2::Button_Rendben1Click);
+    connect(megsem, &QPushButton::clicked, this, &TForm2::Button_Megsem1Click);
+    connect(this, &QDialog::rejected, this, [this] { allapot_.Megsem2 = true; });
+    connect(esemenyek, &QPushButton::clicked, this, &TForm2::Button_Eletesemenyek1Click);
+    connect(comboBoxHelyseg1_, &QComboBox::editTextChanged, this, &TForm2::ComboBoxHelyseg1Change);
+    connect(idovalaszto_, &QButtonGroup::idClicked, this, &TForm2::RadioGroupIdovalaszto1Click);
+}
+
+void TForm2::kitoltes(bool ujKeplet) {
+    const QSignalBlocker blokk(comboBoxHelyseg1_);
+    helysegekHozzaadasa(*comboBoxHelyseg1_);
+    mutat(ujKeplet ? UjKepletMezok(allapot_) : SzemelyMezok(allapot_));
+    idoTipusMutatas(ujKeplet ? -1 : allapot_.Szemely.idoTipusIndex);
+    editNev1_->setFocus();
+    editNev1_->selectAll();
+}
+
+void TForm2::idoTipusMutatas(int index) {
+    idovalaszto_->setExclusive(false);
+    for (QAbstractButton* radio : idovalaszto_->buttons())
+        radio->setChecked(idovalaszto_->id(radio) == index);
+    idovalaszto_->setExclusive(true);
+}
+
+void TForm2::mutat(const TSzemelyiAdatok& mezok) {
+    editNev1_->setText(qszoveg(mezok.nev));
+    spinEditEv1_->setValue(mezok.ido.ev);
+    spinEditHo1_->setValue(mezok.ido.ho);
+    spinEditNap1_->setValue(mezok.ido.nap);
+    spinEditOra1_->setValue(mezok.ido.ora);
+    spinEditPerc1_->setValue(mezok.ido.perc);
+    spinEditMperc1_->setValue(mezok.ido.mperc);
+    comboBoxHelyseg1_->setEditText(qszoveg(mezok.helyseg));
+    spinEditIdozona1_->setValue(mezok.idozona);
+    spinEditNyariidosz1_->setValue(mezok.nyariIdo);
+    spinEditHosszFok1_->setValue(mezok.hosszFok);
+    spinEditHosszPerc1_->setValue(mezok.hosszPerc);
+    spinEditSzelFok1_->setValue(mezok.szelFok);
+    spinEditSzelPerc1_->setValue(mezok.szelPerc);
+    memo_Jegyzet1_->setPlainText(qszoveg(mezok.jegyzet));
+}
+
+TSzemelyiAdatok TForm2::mezok() const {
+    TSzemelyiAdatok m;
+    m.nev = szoveg(editNev1_->text());
+    m.ido = {spinEditEv1_->value(),  spinEditHo1_->value(),   spinEditNap1_->value(),
+             spinEditOra1_->value(), spinEditPerc1_->value(), spinEditMperc1_->value()};
+    m.helyseg = szoveg(comboBoxHelyseg1_->currentText());
+    m.idozona = spinEditIdozona1_->value();
+    m.nyariIdo = spinEditNyariidosz1_->value();
+    m.hosszFok = spinEditHosszFok1_->value();
+    m.hosszPerc = spinEditHosszPerc1_->value();
+    m.szelFok = spinEditSzelFok1_->value();
+    m.szelPerc = spinEditSzelPerc1_->value();
+    m.jegyzet = szoveg(memo_Jegyzet1_->toPlainText());
+    return m;
+}
+
+void TForm2::ComboBoxHelyseg1Change() {
+    TSzemelyiAdatok m = mezok();
+    HelysegValtozas(allapot_, m);
+    spinEditIdozona1_->setValue(m.idozona);
+    spinEditHosszFok1_->setValue(m.hosszFok);
+    spinEditHosszPerc1_->setValue(m.hosszPerc);
+    spinEditSzelFok1_->setValue(m.szelFok);
+    spinEditSzelPerc1_->setValue(m.szelPerc);
+    spinEditEv1_->setValue(m.ido.ev);
+    spinEditHo1_->setValue(m.ido.ho);
+    spinEditNap1_->setValue(m.ido.nap);
+    spinEditNyariidosz1_->setValue(m.nyariIdo);
+}
+
+void TForm2::RadioGroupIdovalaszto1Click(int index) {
+    IdoTipusValasztas(allapot_, index);
+}
+
+void TForm2::Button_Rendben1Click() {
+    SzemelyiRendben(allapot_, mezok());
+    accept();
+}
+
+void TForm2::Button_Megsem1Click() {
+    reject();
+}
+
+void TForm2::Button_Eletesemenyek1Click() {
+    if (eletesemenyek) eletesemenyek();
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <functional>
+
+#include <QComboBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QSpinBox>
+
+#include "chart/foablak.h"
+#include "commands/szemelyiadatok.h"
+
+/// Personal data: the one dialog where a chart is typed in.
+class TForm2 : public QDialog {
+    Q_OBJECT
+
+public:
+    TForm2(Allapot& allapot, FoAblak& ablak, QWidget* fo);
+
+    /// Fills the fields for a new chart or for the one in hand. The list of places grows by the whole
+    /// gazetteer at each filling: that is meant.
+    void kitoltes(bool ujKeplet);
+
+    /// The fields as they stand.
+    TSzemelyiAdatok mezok() const;
+
+    /// What the button "Életesemények" opens.
+    std::function<void()> eletesemenyek;
+
+private slots:
+    void Button_Rendben1Click();
+    void Button_Megsem1Click();
+    void Button_Eletesemenyek1Click();
+    void ComboBoxHelyseg1Change();
+    void RadioGroupIdovalaszto1Click(int index);
+
+private:
+    void epites();
+    QSpinBox* szamMezo(const char* nev, int also, int felso);
+    void mutat(const TSzemelyiAdatok& mezok);
+    void idoTipusMutatas(int index);
+
+    Allapot& allapot_;
+    FoAblak& ablak_;
+    QLineEdit* editNev1_ = nullptr;
+    QSpinBox *spinEditEv1_ = nullptr, *spinEditHo1_ = nullptr, *spinEditNap1_ = nullptr;
+    QSpinBox *spinEditOra1_ = nullptr, *spinEditPerc1_ = nullptr, *spinEditMperc1_ = nullptr;
+    QComboBox* comboBoxHelyseg1_ = nullptr;
+    QSpinBox *spinEditIdozona1_ = nullptr, *spinEditNyariidosz1_ = nullptr;
+    QSpinBox *spinEditHosszFok1_ = nullptr, *spinEditHosszPerc1_ = nullptr;
+    QSpinBox *spinEditSzelFok1_ = nullptr, *spinEditSzelPerc1_ = nullptr;
+    QButtonGroup* idovalaszto_ = nullptr;
+    QPlainTextEdit* memo_Jegyzet1_ = nullptr;
+};

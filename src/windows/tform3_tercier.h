@@ -1,0 +1,49 @@
+#pragma once
+
+#include <string>
+
+#include <QDialog>
+#include <QLabel>
+#include <QSpinBox>
+
+#include "chart/allapot.h"
+#include "chart/foablak.h"
+#include "predictive/tercier.h"
+
+/// Date dialog of the tertiary directions and of the solar ingress; `TercierAblak` of the state tells which.
+class TForm3 : public QDialog {
+    Q_OBJECT
+
+public:
+    TForm3(Allapot& allapot, FoAblak& ablak, QWidget* fo);
+
+    /// Sets the dialog up for the technique in force, with the last confirmed date, searches once, shows it
+    /// and waits.
+    void megmutat();
+
+    /// The text of the last search, and what it means.
+    const std::string& eredmeny() const { return eredmeny_; }
+    const TVerdikt& verdikt() const { return allapot_.TercierAblak ? tercierVerdikt : ingresszioVerdikt; }
+
+private slots:
+    void Button_Rendben1Click();
+    void Button_Megsem1Click();
+    void DatumChange();
+    void SpinEditOrbis1Change();
+
+private:
+    QSpinBox* mezo(const char* nev, const char* felirat, int also, int felso, int x);
+    void keres();
+    void atfordulas();
+
+    Allapot& allapot_;
+    QWidget* fo_;
+    QSpinBox* ev_;
+    QSpinBox* ho_;
+    QSpinBox* nap_;
+    QLabel* orbisFelirat_;
+    QSpinBox* orbis_;
+    QLabel* direkcio1_;
+    QLabel* direkcio2_;
+    std::string eredmeny_;
+};

@@ -1,0 +1,72 @@
+#include "windows/tform5_hanglejatszo.h"
+
+#include <QAudioOutput>
+#include <QDir>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QUrl>
+
+#include "commands/hang.h"
+#include "windows/ablakelhelyezes.h"
+#include "windows/gomb.h"
+#include "windows/qszoveg.h"
+
+namespace {
+
+constexpr QSize lejatszoMeret{208, 30};
+
+#ifdef Q_OS_WIN
+constexpr bool vannakMeghajtok = true;
+#else
+constexpr bool vannakMeghajtok = false;
+#endif
+
+std::string hangFajl(const std::string& nev) {
+    const auto mappak = HangMappak(szoveg(QDir::currentPath()), szoveg(QDir::homePath()), vannakMeghajtok);
+    return HangFajlKeres(nev, mappak,
+                         [](const std::string& fajl) { return QFileInfo::exists(qszoveg(fajl)); });
+}
+
+}  // namespace
+
+TForm5::TForm5(Allapot& allapot, FoAblak&, QWidget* fo) : QDialog(fo), allapot_(allapot), fo_(fo) {
+    setObjectName("TForm5");
+    setWindowTitle("Hanglejátszás");
+    auto* sor = new QHBoxLayout(this);
+    sor->setContentsMargins(0, 0, 0, 0);
+    QPushButton* lejatszas = ujGomb(this, "Lejatszas1", "▶");
+    QPushButton* szunet = ujGomb(this, "Szunet1", "▮▮");
+    QPushButton* megallitas = ujGomb(this, "Megallitas1", "■");
+    for (QPushButton* g : {lejatszas, szunet, megallitas}) sor->addWidget(g);
+    connect(lejatszas, &QPushButton::clicked, this, [this] { lejatszo().play(); });
+    connect(szunet, &QPushButton::clicked, this, [this] { lejatszo().pause(); });
+    connect(megallitas, &QPushButton::clicked, this, [this] { lejatszo().stop(); });
+    setFixedSize(lejatszoMeret);
+}
+
+QMediaPlayer& TForm5::lejatszo() {
+    if (lejatszo_ != nullptr) return *lejatszo_;
+    lejatszo_ = new QMediaPlayer(this);
+    lejatszo_->setObjectName("MediaPlayer1");
+    lejatszo_->setAudioOutput(new QAudioOutput(lejatszo_));
+    connect(lejatszo_, &QMediaPlayer::errorOccurred, this, &TForm5::hiba);
+    return *lejatszo_;
+}
+
+void TForm5::HangLink() {
+    const std::string fajl = hangFajl(allapot_.Szemely.nev);
+    if (!VanHang(allapot_.Szemely) || fajl.empty()) return;
+    lejatszo().stop();
+    lejatszo().setSource(QUrl());
+    lejatszo().setSource(QUrl::fromLocalFile(qszoveg(fajl)));
+    lejatszo().play();
+    felulKozepre(*this, *fo_);
+    show();
+    allapot_.HangCim = allapot_.Szemely.nev + "   ";
+    allapot_.HangAktiv = true;
+}
+
+void TForm5::hiba(int kod, const QString& szoveg) {
+    if (parbeszed_ != nullptr)
+        parbeszed_->uzenet(this, QStringLiteral("Hibakód: %1\r\n%2").arg(kod).arg(szoveg));
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+
+#include <QDialog>
+#include <QMediaPlayer>
+#include <QPushButton>
+
+#include "chart/allapot.h"
+#include "chart/foablak.h"
+#include "windows/parbeszed.h"
+
+/// Sound player: play, pause and stop for the sound of a chart. It stays open until the user closes it.
+class TForm5 : public QDialog {
+    Q_OBJECT
+
+public:
+    TForm5(Allapot& allapot, FoAblak& ablak, QWidget* fo);
+
+    void parbeszedBeallitasa(TParbeszed& parbeszed) { parbeszed_ = &parbeszed; }
+
+    /// Plays the chart's sound if its file has the mark and the sound file is found; otherwise nothing
+    /// happens, and a sound that runs goes on.
+    void HangLink();
+
+private:
+    /// The player; made at the first sound, since most charts have none and it loads the media system.
+    QMediaPlayer& lejatszo();
+    void hiba(int kod, const QString& szoveg);
+
+    Allapot& allapot_;
+    QWidget* fo_;
+    TParbeszed* parbeszed_ = nullptr;
+    QMediaPlayer* lejatszo_ = nullptr;
+};

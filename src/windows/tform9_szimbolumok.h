@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QComboBox>
+#include <QDialog>
+
+#include "chart/allapot.h"
+#include "chart/foablak.h"
+
+/// Choice of the symbol font among the font files whose names begin with "Astro".
+class TForm9 : public QDialog {
+    Q_OBJECT
+
+public:
+    TForm9(Allapot& allapot, FoAblak& ablak, QWidget* fo);
+
+    /// Lists the fonts, shows the dialog at the right end of the main window and waits for its end.
+    void megmutat();
+
+private slots:
+    void Button_Rendben1Click();
+    void Button_Megsem1Click();
+
+private:
+    Allapot& allapot_;
+    QWidget* fo_;
+    QComboBox* comboBox1_;
+};

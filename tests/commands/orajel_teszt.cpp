@@ -1,0 +1,361 @@
+// The tick, the `Most` mode and the start-up, without a window.
+
+#include <functional>
+
+#include <gtest/gtest.h>
+
+#include "chart/statuszsor.h"
+#include "commands/indulas.h"
+#include "commands/nezet.h"
+#include "commands/orajel.h"
+#include "commands/szemelyiadatok.h"
+#include "mintakeplet.h"
+#include "predictive/visszateresek.h"
+#include "probaablak.h"
+#include "tables/efemerida.h"
+#include "tables/szotar.h"
+#include "tables/szoveg.h"
+
+namespace {
+
+using THivasok = std::vector<std::string>;
+
+class TOrajel : public testing::Test {
+protected:
+    TOrajel() {
+        EXPECT_TRUE(Indulas(a, ablak, {}));
+        ablak.hivasok.clear();
+    }
+    void orajelek(int szam) {
+        for (int i = 0; i < szam; ++i) Orajel(a, ablak);
+    }
+    void szuletes() {
+        a.Szemely.idoTipus = "ZN";
+        TSzemelyiAdatok m = mintaSzemely({1975, 3, 21, 6, 4, 9});
+        m.jegyzet = "jegyzet";
+        SzemelyiRendben(a, m);
+        BevittKepletMutatasa(a, ablak);
+        ablak.hivasok.clear();
+    }
+    std::string& panel(int i) { return a.Feliratok.statusz[static_cast<std::size_t>(i)]; }
+
+    Allapot a;
+    TProbaAblak ablak;
+};
+
+TEST_F(TOrajel, IndulasUtanAJelenPillanatBudapesten) {
+    EXPECT_EQ(a.Keplet.pillanat(), (TPillanat{2024, 3, 5, 8, 15, 0}));
+    EXPECT_EQ(a.RadixPillanat, a.Keplet.pillanat());
+    EXPECT_EQ(a.SzuletesiPillanat, a.Keplet.pillanat());
+    EXPECT_EQ(a.InduloDatum.ev, 2024);
+    EXPECT_EQ(a.RevDatum.nap, 5);
+    EXPECT_EQ(a.Szemely.beirt(), a.Keplet.pillanat());
+    EXPECT_EQ(a.Keplet.helyseg, "Budapest");
+    EXPECT_EQ(panel(panelTipus), "Radix");
+    EXPECT_EQ(panel(panelNev), "Most");
+    EXPECT_EQ(panel(panelIdo), "2024.03.05. 08:15:00 ZN");
+    EXPECT_EQ(panel(panelHely), "Budapest");
+    EXPECT_EQ(panel(panelKoordinata), "19°4'K  47°30'É");
+    EXPECT_EQ(a.Feliratok.mostGomb, "Állj");
+    EXPECT_EQ(a.Feliratok.valtGomb, "Mundán");
+    EXPECT_EQ(a.FeliratSzamlalo, 400);
+    EXPECT_FALSE(a.TeljesTorles);
+    EXPECT_EQ(a.PontositasHatotav, 25);
+    EXPECT_EQ(a.TercierOrbisNap, 45.0);
+}
+
+TEST(Indulas, OlvashatatlanDatumnalMegall) {
+    Allapot a;
+    TProbaAblak ablak;
+    ablak.datum = "ma";
+    EXPECT_FALSE(Indulas(a, ablak, {}));
+    EXPECT_TRUE(ablak.hivasok.empty());
+}
+
+TEST(Indulas, BetutipusNelkulAPotNev) {
+    Allapot a;
+    TProbaAblak ablak;
+    Indulas(a, ablak, {"/nincs ilyen mappa/"});
+    EXPECT_EQ(a.Rajz.szimbolumFont, "AstroMidget Bold");
+}
+
+TEST_F(TOrajel, AFelirat2500EzredmasodpercElottiHetOrajelUtanValt) {
+    for (int i = 1; i <= 6; ++i) a.FeliratSzovegek[i] = "cim" + std::to_string(i) + " ";
+    orajelek(7);
+    EXPECT_EQ(a.FeliratIndex, 0);
+    orajelek(1);
+    EXPECT_EQ(a.FeliratIndex, 1);
+    EXPECT_EQ(a.Feliratok.cim, "im1 c");
+}
+
+TEST_F(TOrajel, ATeljesFelirat500OrajeligFut) {
+    for (int i = 1; i <= 6; ++i) a.FeliratSzovegek[i] = "cim" + std::to_string(i) + " ";
+    orajelek(8);
+    ASSERT_EQ(a.FeliratIndex, 1);
+    orajelek(500);
+    EXPECT_EQ(a.FeliratIndex, 1);
+    orajelek(1);
+    EXPECT_EQ(a.FeliratIndex, 2);
+}
+
+TEST_F(TOrajel, AzUresFelirat32OrajelAlattMulikEl) {
+    orajelek(8);
+    ASSERT_EQ(a.FeliratIndex, 1);
+    orajelek(31);
+    EXPECT_EQ(a.FeliratIndex, 1);
+    orajelek(1);
+    EXPECT_EQ(a.FeliratIndex, 2);
+    // Six slots: 8 s each, 48 s for a round.
+    orajelek(5 * 32);
+    EXPECT_EQ(a.FeliratIndex, 1);
+}
+
+TEST_F(TOrajel, CimfajlNelkulAzOsszetettCimMindig) {
+    szuletes();
+    orajelek(1);
+    EXPECT_EQ(a.Feliratok.cim, "  1975.03.21. 06:04:09 ZN  Minta Anna");
+    const std::string szoveg = a.Uralkodok.UralkodoSzoveg;
+    orajelek(1);
+    EXPECT_EQ(a.Feliratok.cim, szoveg + "  1975.03.21. 06:04:09 ZN  Minta Anna");
+}
+
+TEST_F(TOrajel, ASzovegEgyKarakterrelGordul) {
+    szuletes();
+    std::string szoveg = a.Uralkodok.UralkodoSzoveg;
+    orajelek(1);
+    gordit(szoveg);
+    EXPECT_EQ(a.Uralkodok.UralkodoSzoveg, szoveg);
+    EXPECT_EQ(a.FutoSzoveg, szoveg);
+}
+
+TEST_F(TOrajel, MundanNezetbenAMundanSzovegGordul) {
+    szuletes();
+    a.KepletTipus = 2;
+    const std::string horizont = a.Uralkodok.UralkodoSzoveg;
+    std::string szoveg = a.Uralkodok.MundanUralkodoSzoveg;
+    orajelek(1);
+    gordit(szoveg);
+    EXPECT_EQ(a.FutoSzoveg, szoveg);
+    EXPECT_EQ(a.Uralkodok.UralkodoSzoveg, horizont);
+}
+
+TEST_F(TOrajel, DekadNezetbenAKapcsolatSorAll) {
+    szuletes();
+    orajelek(3);
+    const std::string szoveg = a.Uralkodok.UralkodoSzoveg;
+    a.KepletTipus = 3;
+    orajelek(2);
+    EXPECT_EQ(a.FutoSzoveg, kapcsolatSor);
+    EXPECT_EQ(a.Uralkodok.UralkodoSzoveg, szoveg);
+}
+
+TEST_F(TOrajel, Huszonkilenc_KarakterAllHarmincGordul) {
+    szuletes();
+    panel(panelNev) = std::string(27, 'x') + "őb";
+    panel(panelHely) = std::string(28, 'x') + "őb";
+    orajelek(1);
+    EXPECT_EQ(panel(panelNev), std::string(27, 'x') + "őb");
+    EXPECT_EQ(panel(panelHely), std::string(27, 'x') + "őbx");
+}
+
+TEST_F(TOrajel, ANyugvoKepletNemSzamolodikUjra) {
+    szuletes();
+    const std::string ido = panel(panelIdo);
+    a.Feliratok.memo = "marad";
+    orajelek(300);
+    EXPECT_EQ(ablak.rajzok(), 0);
+    EXPECT_EQ(panel(panelIdo), ido);
+    EXPECT_EQ(a.Feliratok.memo, "marad");
+}
+
+TEST_F(TOrajel, AFutoOraMinden251OrajelreRajzol) {
+    orajelek(250);
+    EXPECT_EQ(ablak.rajzok(), 0);
+    EXPECT_EQ(a.MostSzamlalo, 250);
+    orajelek(1);
+    EXPECT_EQ(ablak.hivasok, (THivasok{"Ervenytelenit", "RajzolKeplet"}));
+    EXPECT_EQ(a.MostSzamlalo, 0);
+    orajelek(250);
+    EXPECT_EQ(ablak.rajzok(), 1);
+    orajelek(1);
+    EXPECT_EQ(ablak.rajzok(), 2);
+}
+
+TEST_F(TOrajel, AFutoOraMindenOrajelreOlvasEsUritiAJegyzetet) {
+    a.Szemely.idoTipus = "LMT";
+    a.Feliratok.memo = "jegyzet";
+    ablak.ido = "23:59:58";
+    ablak.datum = "2024.07.01";
+    orajelek(1);
+    EXPECT_EQ(panel(panelIdo), "2024.07.01. 23:59:58 ZN");
+    EXPECT_EQ(a.Szemely.idoTipus, "ZN");
+    EXPECT_EQ(a.Keplet.nyariIdo, 1);
+    EXPECT_EQ(a.Feliratok.memo, "");
+    EXPECT_EQ(panel(panelNev), "Most");
+    EXPECT_EQ(ablak.rajzok(), 0);
+}
+
+TEST_F(TOrajel, ASzamitogepOrajaATablaVegenMegall) {
+    ablak.datum = "2100.05.06";
+    orajelek(1);
+    EXPECT_EQ(a.Keplet.pillanat(), (TPillanat{2078, 5, 6, 8, 15, 0}));
+}
+
+TEST_F(TOrajel, TobbLepesEgyOrajelAlattEgyRajz) {
+    szuletes();
+    a.MostFut = false;
+    a.LeptetesVolt = true;
+    a.Keplet.perc = 7;
+    a.Keplet.perc = 8;
+    orajelek(1);
+    EXPECT_EQ(ablak.rajzok(), 1);
+    EXPECT_FALSE(a.LeptetesVolt);
+    EXPECT_EQ(panel(panelNev), "Minta Anna");
+    EXPECT_EQ(panel(panelIdo), "1975.03.21. 06:08:09 ZN");
+    EXPECT_EQ(a.Feliratok.leptetoCim, "1975.03.21. 06:08:09");
+    EXPECT_EQ(a.Feliratok.memo, "");
+    orajelek(1);
+    EXPECT_EQ(ablak.rajzok(), 1);
+}
+
+TEST_F(TOrajel, AMundanKeresKeresereUjraszamolDeALeptetoCimeMarad) {
+    szuletes();
+    a.MundanFrissites = true;
+    orajelek(1);
+    EXPECT_EQ(ablak.rajzok(), 1);
+    EXPECT_FALSE(a.MundanFrissites);
+    EXPECT_EQ(a.Feliratok.leptetoCim, "Léptet");
+}
+
+TEST_F(TOrajel, AMundanAblakMindenOrajelreFrissul) {
+    szuletes();
+    a.MundanAblakNyitva = true;
+    orajelek(3);
+    EXPECT_EQ(ablak.hivasok, (THivasok{"MundanFrissit", "MundanFrissit", "MundanFrissit"}));
+}
+
+TEST_F(TOrajel, APontositasAPrimerElottARajzUtan) {
+    szuletes();
+    a.PontositasFut = a.PrimerFut = true;
+    orajelek(1);
+    EXPECT_TRUE(ablak.hivasok.empty());
+    a.LeptetesVolt = true;
+    orajelek(1);
+    EXPECT_EQ(ablak.hivasok, (THivasok{"Ervenytelenit", "RajzolKeplet", "PontositasFuttat", "PrimerFuttat"}));
+}
+
+TEST_F(TOrajel, MindenUjraszamitasUtanAListakIs) {
+    szuletes();
+    a.PontositasFut = a.PrimerFut = true;
+    VisszateresKereses(a, RevolucioFajta(1), VisszateresCel(a, RevolucioFajta(1)));
+    const std::function<void()> parancsok[]{
+        [&] { ValtParancs(a, ablak); },
+        [&] { HorizontParancs(a, ablak); },
+        [&] { MundanParancs(a, ablak); },
+        [&] { DekadParancs(a, ablak); },
+        [&] { BevittKepletMutatasa(a, ablak); },
+        [&] { VisszateresKeplet(a, ablak, RevolucioFajta(1), 1, "Pécs"); },
+        [&] { MostParancs(a, ablak); },  // back from the derived chart
+    };
+    for (const auto& parancs : parancsok) {
+        ablak.hivasok.clear();
+        parancs();
+        // Last of all, after the drawing, the rectification first.
+        ASSERT_GE(ablak.hivasok.size(), 3U);
+        EXPECT_EQ(THivasok(ablak.hivasok.end() - 3, ablak.hivasok.end()),
+                  (THivasok{"RajzolKeplet", "PontositasFuttat", "PrimerFuttat"}));
+    }
+}
+
+TEST_F(TOrajel, AListakCsakHaKertek) {
+    szuletes();
+    a.PrimerFut = true;
+    ValtParancs(a, ablak);
+    EXPECT_EQ(ablak.hivasok.back(), "PrimerFuttat");
+    a.PrimerFut = false;
+    ValtParancs(a, ablak);
+    EXPECT_EQ(ablak.hivasok.back(), "RajzolKeplet");
+}
+
+TEST_F(TOrajel, AHangCimeGordul) {
+    szuletes();
+    a.HangAktiv = true;
+    a.HangCim = "Őz   ";
+    orajelek(1);
+    EXPECT_EQ(a.Feliratok.hangCim, "z   Ő");
+}
+
+TEST_F(TOrajel, AMostGombIndulaskorAzInduloPillanatonAllMeg) {
+    ablak.ido = "9:00:00";
+    orajelek(1);
+    ASSERT_EQ(a.Keplet.ora, 9);
+    MostParancs(a, ablak);
+    EXPECT_EQ(a.Keplet.pillanat(), (TPillanat{2024, 3, 5, 8, 15, 0}));
+    EXPECT_EQ(a.Feliratok.mostGomb, "Most");
+    EXPECT_EQ(panel(panelNev), "");
+    EXPECT_EQ(panel(panelIdo), "2024.03.05. 08:15:00 ZN");
+    EXPECT_FALSE(a.MostFut);
+    EXPECT_EQ(ablak.hivasok, (THivasok{"Ujrafest", "Ervenytelenit", "RajzolKeplet"}));
+}
+
+TEST_F(TOrajel, AMostGombElinditjaAzOratEsVisszahozza) {
+    szuletes();
+    MostParancs(a, ablak);
+    EXPECT_TRUE(a.MostFut);
+    EXPECT_EQ(a.Feliratok.mostGomb, "Vissza");
+    EXPECT_EQ(panel(panelNev), "Most");
+    EXPECT_EQ(a.Szemely.jegyzetMentett, "jegyzet");
+    EXPECT_EQ(a.Feliratok.memo, "jegyzet");
+    EXPECT_EQ(ablak.rajzok(), 0);
+    orajelek(1);
+    EXPECT_EQ(ablak.rajzok(), 1);
+    EXPECT_EQ(a.Feliratok.memo, "");
+    EXPECT_EQ(a.Keplet.ev, 2024);
+
+    MostParancs(a, ablak);
+    EXPECT_EQ(a.Keplet.pillanat(), (TPillanat{1975, 3, 21, 6, 4, 9}));
+    EXPECT_EQ(a.Feliratok.memo, "jegyzet");
+    EXPECT_EQ(panel(panelNev), "Minta Anna");
+    EXPECT_EQ(a.Feliratok.mostGomb, "Most");
+}
+
+TEST_F(TOrajel, AVisszaUtAKepzettKepletrol) {
+    szuletes();
+    a.VisszaMod = true;
+    a.helysegMentett = "Szeged";
+    a.Keplet.helyseg = "Pécs";
+    a.Keplet.ev = 1990;
+    a.RadixPillanat.ev = 1980;
+    panel(panelTipus) = "Szolár";
+    MostParancs(a, ablak);
+    EXPECT_FALSE(a.VisszaMod);
+    EXPECT_FALSE(a.MostFut);
+    EXPECT_EQ(panel(panelTipus), "Radix");
+    EXPECT_EQ(a.Keplet.helyseg, "Szeged");
+    EXPECT_EQ(a.Keplet.pillanat(), (TPillanat{1975, 3, 21, 6, 4, 9}));
+    EXPECT_EQ(a.RadixPillanat, a.SzuletesiPillanat);
+    EXPECT_EQ(a.Feliratok.mostGomb, "Most");
+}
+
+TEST_F(TOrajel, UjKepletAKepzettAllapotbanAVisszaModMarad) {
+    szuletes();
+    a.VisszaMod = true;
+    a.helysegMentett = "Pécs";
+    BevittKepletMutatasa(a, ablak);
+    EXPECT_TRUE(a.VisszaMod);
+    EXPECT_EQ(a.Feliratok.mostGomb, "Most");
+    MostParancs(a, ablak);
+    EXPECT_EQ(a.Keplet.helyseg, "Pécs");
+}
+
+TEST_F(TOrajel, AFutoOraVisszavesziAKepernyotAKepzettKeplettol) {
+    a.VisszaMod = true;
+    a.Feliratok.mostGomb = "Vissza";
+    a.Keplet.ev = 1990;
+    orajelek(1);
+    EXPECT_EQ(a.Keplet.ev, 2024);
+    EXPECT_EQ(panel(panelNev), "Most");
+    EXPECT_EQ(a.Feliratok.mostGomb, "Vissza");
+}
+
+}  // namespace

@@ -1,0 +1,142 @@
+// Typing in a chart: the fields and the time kinds.
+
+#include <gtest/gtest.h>
+
+#include "chart/statuszsor.h"
+#include "commands/szemelyiadatok.h"
+#include "probaablak.h"
+#include "tables/efemerida.h"
+#include "tables/fokperc.h"
+
+namespace {
+
+struct TAtvaltott {
+    TPillanat pillanat;
+    int napElteres;
+};
+
+TAtvaltott atvalt(TPillanat p, const char* idoTipus, int idozona, int hosszusag) {
+    const int nap = DatumbolJulianszam(p.ev, p.ho, p.nap);
+    std::int32_t julianszam = nap;
+    IdoAtvaltas(p, julianszam, idoTipus, idozona, hosszusag);
+    return {p, julianszam - nap};
+}
+
+TEST(IdoAtvaltas, HelyiKozepidoEjfelUtanAzElozoNapraEsik) {
+    // 19°4' is 4576 s: 600 - 4576 + 3600 = -376 s.
+    const TAtvaltott k = atvalt({2000, 1, 1, 0, 10, 0}, "LMT", 1, 68640);
+    EXPECT_EQ(k.pillanat, (TPillanat{1999, 12, 31, 23, 53, 44}));
+    EXPECT_EQ(k.napElteres, -1);
+}
+
+TEST(IdoAtvaltas, HelyiKozepidoAKovetkezoNapra) {
+    // 15° west is -3600 s: 23:30 + 1 h + 1 h.
+    const TAtvaltott k = atvalt({1999, 12, 31, 23, 30, 0}, "LMT", 1, -54000);
+    EXPECT_EQ(k.pillanat, (TPillanat{2000, 1, 1, 1, 30, 0}));
+    EXPECT_EQ(k.napElteres, 1);
+}
+
+TEST(IdoAtvaltas, AHosszusagMasodperceNemSzamit) {
+    EXPECT_EQ(atvalt({2000, 1, 1, 12, 0, 0}, "LMT", 1, 68640).pillanat,
+              atvalt({2000, 1, 1, 12, 0, 0}, "LMT", 1, 68699).pillanat);
+    EXPECT_NE(atvalt({2000, 1, 1, 12, 0, 0}, "LMT", 1, 68640).pillanat,
+              atvalt({2000, 1, 1, 12, 0, 0}, "LMT", 1, 68700).pillanat);
+}
+
+TEST(IdoAtvaltas, GreenwichiIdo) {
+    const TAtvaltott k = atvalt({2000, 2, 28, 23, 30, 0}, "GMT", 1, 68640);
+    EXPECT_EQ(k.pillanat, (TPillanat{2000, 2, 29, 0, 30, 0}));
+    EXPECT_EQ(k.napElteres, 1);
+    EXPECT_EQ(atvalt({2000, 3, 1, 2, 0, 0}, "GMT", -5, 0).pillanat, (TPillanat{2000, 2, 29, 21, 0, 0}));
+}
+
+TEST(IdoAtvaltas, ZonaIdoMaradDeADatumHelyreall) {
+    EXPECT_EQ(atvalt({1990, 2, 30, 12, 0, 0}, "ZN", 1, 68640).pillanat, (TPillanat{1990, 3, 2, 12, 0, 0}));
+}
+
+TEST(FokPerc, AzIvpercAzElojelesFokhozHozzaadodik) {
+    EXPECT_EQ(ivmasodpercre(-19, 4), -68160);
+    EXPECT_EQ(ivmasodpercre(19, 4), 68640);
+    EXPECT_EQ(fokPercre(-68160).fok, -18);
+    EXPECT_EQ(fokPercre(-68160).perc, -56);
+}
+
+TEST(SzemelyiAdatok, ARendbenABeirtIdotMegorziAKepletZonaIdoben) {
+    Allapot a;
+    IdoTipusValasztas(a, 1);
+    TSzemelyiAdatok m;
+    m.nev = "Név";
+    m.ido = {2000, 1, 1, 0, 10, 0};
+    m.helyseg = "Budapest";
+    m.hosszFok = 19;
+    m.hosszPerc = 4;
+    m.szelFok = 47;
+    m.szelPerc = 30;
+    m.jegyzet = "j";
+    SzemelyiRendben(a, m);
+    EXPECT_EQ(a.Szemely.beirt(), (TPillanat{2000, 1, 1, 0, 10, 0}));
+    EXPECT_EQ(a.Keplet.pillanat(), (TPillanat{1999, 12, 31, 23, 53, 44}));
+    EXPECT_FALSE(a.Megsem2);
+
+    TProbaAblak ablak;
+    BevittKepletMutatasa(a, ablak);
+    EXPECT_EQ(a.Feliratok.statusz[panelIdo], "2000.01.01. 00:10:00 LMT");
+    EXPECT_EQ(a.Feliratok.statusz[panelNev], "Név ");
+    EXPECT_EQ(a.Feliratok.statusz[panelHely], "Budapest ");
+    EXPECT_EQ(a.RadixPillanat, a.Keplet.pillanat());
+    EXPECT_EQ(a.SzuletesiPillanat, a.Keplet.pillanat());
+    EXPECT_EQ(a.Szemely.jegyzetMentett, "j");
+    EXPECT_EQ(ablak.hivasok, (std::vector<std::string>{"Ujrafest", "Ervenytelenit", "RajzolKeplet"}));
+    EXPECT_FALSE(a.TeljesTorles);
+}
+
+TEST(SzemelyiAdatok, ABeirtDatumSemOlyan_AmilyenNincsMegmarad) {
+    Allapot a;
+    TSzemelyiAdatok m;
+    m.ido = {1999, 2, 31, 12, 0, 0};
+    SzemelyiRendben(a, m);
+    EXPECT_EQ(a.Szemely.beirtNap, 31);
+    EXPECT_EQ(a.Keplet.pillanat(), (TPillanat{1999, 3, 3, 12, 0, 0}));
+}
+
+TEST(SzemelyiAdatok, AHelysegValtozasaNyariIdotCsakZonaIdobenKerdez) {
+    Allapot a;
+    TSzemelyiAdatok m;
+    m.ido = {2000, 7, 1, 12, 0, 0};
+    m.helyseg = "Szeged";
+    HelysegValtozas(a, m);
+    EXPECT_EQ(m.nyariIdo, 1);
+    EXPECT_EQ(a.Keplet.hosszusag, 72586);
+    IdoTipusValasztas(a, 2);
+    HelysegValtozas(a, m);
+    EXPECT_EQ(m.nyariIdo, 0);
+}
+
+TEST(SzemelyiAdatok, AValasztasNelkuliIdoTipusZona) {
+    Allapot a;
+    IdoTipusValasztas(a, 2);
+    EXPECT_EQ(a.Szemely.idoTipus, "GMT");
+    IdoTipusValasztas(a, 1);
+    EXPECT_EQ(a.Szemely.idoTipus, "LMT");
+    IdoTipusValasztas(a, -1);
+    EXPECT_EQ(a.Szemely.idoTipus, "ZN");
+    EXPECT_EQ(a.Szemely.idoTipusIndex, -1);
+}
+
+TEST(SzemelyiAdatok, AzUjKepletMezoiAHelySajatErtekei) {
+    Allapot a;
+    a.Szemely.idoTipus = "LMT";
+    a.Szemely.jegyzet = "regi";
+    a.Szemely.beirt({2000, 7, 1, 12, 0, 0});
+    a.Keplet.helyseg = "Szeged";
+    a.Keplet.hosszusag = 1;
+    const TSzemelyiAdatok m = UjKepletMezok(a);
+    EXPECT_EQ(m.nev, "Új képlet");
+    EXPECT_EQ(m.jegyzet, "");
+    EXPECT_EQ(m.nyariIdo, 1);
+    EXPECT_EQ(m.hosszFok, 20);
+    EXPECT_EQ(m.hosszPerc, 9);  // 72586" is 20°9'46''
+    EXPECT_EQ(a.Szemely.idoTipus, "ZN");
+}
+
+}  // namespace

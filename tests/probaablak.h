@@ -1,0 +1,29 @@
+#pragma once
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "chart/foablak.h"
+
+/// Stands in for the main window: notes what the commands ask of it, and has a clock that the test sets.
+class TProbaAblak : public FoAblak {
+public:
+    void Ujrafest() override { hivasok.emplace_back("Ujrafest"); }
+    void Ervenytelenit() override { hivasok.emplace_back("Ervenytelenit"); }
+    void RajzolKeplet() override { hivasok.emplace_back("RajzolKeplet"); }
+    void Mutat() override {}
+    std::string RendszerDatum() override { return datum; }
+    std::string RendszerIdo() override { return ido; }
+    void MundanFrissit() override { hivasok.emplace_back("MundanFrissit"); }
+    void PontositasFuttat() override { hivasok.emplace_back("PontositasFuttat"); }
+    void PrimerFuttat() override { hivasok.emplace_back("PrimerFuttat"); }
+
+    int rajzok() const {
+        return static_cast<int>(std::count(hivasok.begin(), hivasok.end(), "RajzolKeplet"));
+    }
+
+    std::vector<std::string> hivasok;
+    std::string datum = "2024.03.05";
+    std::string ido = "8:15:00";
+};

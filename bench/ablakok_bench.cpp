@@ -16,7 +16,7 @@ namespace {
 void NezetRajzolasa(benchmark::State& allas) {
     TForm1 ablak;
     Allapot& allapot = ablak.allapot();
-    allapot.KepletTipus = static_cast<int>(allas.range(0));
+    allapot.KepletTipus = static_cast<TKepletTipus>(allas.range(0));
     QPixmap felulet(1600, 1000);
     for (auto _ : allas) {
         felulet.fill(Qt::white);

@@ -15,9 +15,9 @@ void TeljesKeplet(benchmark::State& allas) {
     const int julianszam = allapot.Keplet.julianszam;
     for (auto _ : allas) {
         allapot.Keplet.julianszam = julianszam;
-        allapot.Keplet.mperc = (allapot.Keplet.mperc + 1) % 60;
+        allapot.Keplet.pillanat.mperc = (allapot.Keplet.pillanat.mperc + 1) % 60;
         CsillagIdoLepes(allapot.Keplet);
-        IrStatuszSor(allapot, allapot.Keplet.pillanat(), "ZN");
+        IrStatuszSor(allapot, allapot.Keplet.pillanat, TIdoTipus::ZN);
         KepletCiklus(allapot);
         benchmark::DoNotOptimize(allapot.Uralkodok.UralkodoSzoveg.data());
     }

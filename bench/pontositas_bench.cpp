@@ -43,7 +43,7 @@ void Kereses(benchmark::State& allas) {
     Allapot allapot = mintaKeplet();
     allapot.KeresesVolt = true;
     for (auto _ : allas) {
-        allapot.Keplet.pillanat(allapot.SzuletesiPillanat);
+        allapot.Keplet.pillanat = allapot.SzuletesiPillanat;
         benchmark::DoNotOptimize(MundanKereses(allapot, szeged, 1).analogiak.AnalogiaAllapot);
     }
 }
@@ -55,8 +55,8 @@ void PontositasHuszEsemennyel(benchmark::State& allas) {
     for (int e = 1; e <= esemenyHelyek; ++e) {
         TEletesemeny& esemeny = allapot.Esemenyek.esemenyek[e];
         esemeny.esemeny = "Esemény";
-        esemeny.ev = 1980 + 2 * e;
-        esemeny.ho = 1 + e % 12;
+        esemeny.pillanat.ev = 1980 + 2 * e;
+        esemeny.pillanat.ho = 1 + e % 12;
         esemeny.hosszFok = 20;
         esemeny.szelFok = 46;
     }

@@ -7,13 +7,13 @@
 /// A birth on screen, with the aspect points of its drawing.
 inline Allapot szuletesiKeplet(const TPillanat& p, const char* hely = "Szeged") {
     Allapot a;
-    a.Keplet.pillanat(p);
+    a.Keplet.pillanat = p;
     a.Keplet.helyseg = hely;
     DatumRendezes(a.Keplet);
-    a.RadixPillanat = a.SzuletesiPillanat = a.Keplet.pillanat();
+    a.RadixPillanat = a.SzuletesiPillanat = a.Keplet.pillanat;
     IdoAdatok(a);
     KepletCiklus(a);
-    FenyszogPontSzamitas(a);
+    FenyszogPontSzamitas(a.Keplet.bolygo, a.Rajz.FenyszogPontok);
     return a;
 }
 

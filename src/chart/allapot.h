@@ -5,27 +5,20 @@
 #include <string>
 
 #include "engine/fenyszogek.h"
+#include "engine/fenyszogpontok.h"
 #include "engine/keszlet.h"
 #include "engine/uralkodok.h"
+#include "tables/pillanat.h"
+#include "tables/szotar.h"
 
 /// All that the program knows at run time, as plain data. The main window owns the one `Allapot`.
 
-/// Date and time in zone clock time.
-struct TPillanat {
-    std::int32_t ev = 1900;
-    std::int32_t ho = 1;
-    std::int32_t nap = 1;
-    std::int32_t ora = 0;
-    std::int32_t perc = 0;
-    std::int32_t mperc = 0;
-
-    friend bool operator==(const TPillanat&, const TPillanat&) = default;
-};
+/// The three views; the numbers are those of the program's commands and of the outside.
+enum class TKepletTipus { radix = 1, mundan = 2, dekad = 3 };
 
 /// The chart on screen: its moment and place, the engine's outputs, and the copies kept for the picture.
 struct TKeplet {
-    std::int32_t ev = 1900, ho = 1, nap = 1;  ///< zone clock date
-    std::int32_t ora = 0, perc = 0, mperc = 0;
+    TPillanat pillanat;                 ///< zone clock
     std::int32_t julianszam = 2415020;  ///< day number; the sidereal step may lower it to the GMT day
     double napresz = 0;                 ///< fraction of the GMT day
     std::int32_t nyariIdo = 0;          ///< 0 or 1
@@ -46,38 +39,25 @@ struct TKeplet {
     TBolygok bolygo;  ///< kept copy of `Bolygok`: what is drawn and read by later work
     TMozgasok mozgas;
     THazcsucsok hazCsucs;
-
-    TPillanat pillanat() const { return {ev, ho, nap, ora, perc, mperc}; }
-    void pillanat(const TPillanat& p) {
-        ev = p.ev, ho = p.ho, nap = p.nap, ora = p.ora, perc = p.perc, mperc = p.mperc;
-    }
 };
 
 /// The person of the chart.
 struct TSzemely {
     std::string nev;
     std::string jegyzet;
-    std::string jegyzetMentett;   ///< the note while the running clock keeps `Memo1` empty
-    std::string idoTipus = "ZN";  ///< "ZN", "LMT" or "GMT"
-    int idoTipusIndex = 0;        ///< 0, 1, 2; -1 shows no selection
-    std::int32_t beirtEv = 1900, beirtHo = 1, beirtNap = 1;  ///< as typed or read from a file
-    std::int32_t beirtOra = 0, beirtPerc = 0, beirtMperc = 0;
-    std::string hangJel;  ///< the chart file's sound field; a leading 'H' says that there is a sound
-
-    TPillanat beirt() const { return {beirtEv, beirtHo, beirtNap, beirtOra, beirtPerc, beirtMperc}; }
-    void beirt(const TPillanat& p) {
-        beirtEv = p.ev, beirtHo = p.ho, beirtNap = p.nap;
-        beirtOra = p.ora, beirtPerc = p.perc, beirtMperc = p.mperc;
-    }
+    std::string jegyzetMentett;  ///< the note while the running clock keeps `Memo1` empty
+    TIdoTipus idoTipus = TIdoTipus::ZN;
+    int idoTipusIndex = 0;  ///< 0, 1, 2; -1 shows no selection
+    TPillanat beirt;        ///< date and time as typed or read from a file, by the clock of `idoTipus`
+    std::string hangJel;    ///< the chart file's sound field; a leading 'H' says that there is a sound
 };
 
 /// One event of a life.
 struct TEletesemeny {
     std::string esemeny;
-    std::string analogia;                     ///< house numerals joined by commas
-    std::int32_t ev = 1900, ho = 1, nap = 1;  ///< zone clock date and time as entered
-    std::int32_t ora = 0, perc = 0, mperc = 0;
-    std::string helyseg;  ///< place of the solar return
+    std::string analogia;  ///< house numerals joined by commas
+    TPillanat pillanat;    ///< as entered
+    std::string helyseg;   ///< place of the solar return
     std::int32_t idozona = 1;
     std::int32_t nyariIdo = 0;
     std::int32_t hosszFok = 0, hosszPerc = 0;
@@ -116,21 +96,25 @@ struct TRendezettSor {
     double rendPerc = 0;    ///< minutes within that degree
 };
 
+using TRendezett = Tomb<TRendezettSor, 10>;
+
+/// A row of the side panel.
+struct TPanelSor {
+    std::string jel;     ///< sign letter
+    std::string szoveg;  ///< position
+};
+using TPanel = std::array<TPanelSor, 16>;  ///< ten bodies, cusps 1, 2, 3, 10, 11, 12
+
 /// Geometry of the drawing surface, pixels, and the tables of the drawing.
 struct TRajz {
     int feluletSzelesseg = 0, feluletMagassag = 0;
     int kozpontX = 0, kozpontY = 0, kerekSugar = 0;  ///< the wheel being drawn
     double forgatas = 0;                             ///< the first cusp, radians
     bool nyomtatasMod = false;                       ///< drawing for the printer
-    std::string szimbolumFont = "Astro Symbols";
-    Tomb<TRendezettSor, 10>
-        Rendezett;  ///< survives a drawing: the small Mundán wheel of the Dekád view reads it
-    Matrix<double, 10, 16> FenyszogPontok;  ///< degrees, 0..360; refilled at the end of each drawing
-    struct TPanelSor {
-        std::string jel;     ///< sign letter
-        std::string szoveg;  ///< position
-    };
-    std::array<TPanelSor, 16> panel;  ///< side panel: ten bodies, cusps 1, 2, 3, 10, 11, 12
+    std::string szimbolumFont{sajatSzimbolumFont};
+    TRendezett Rendezett;  ///< survives a drawing: the small Mundán wheel of the Dekád view reads it
+    TFenyszogPontok FenyszogPontok;  ///< degrees, 0..360; refilled at the end of each drawing
+    TPanel panel;
 };
 
 /// Texts that the windows show and the commands write.
@@ -156,8 +140,8 @@ struct Allapot {
     TPillanat RevDatum;
     TPillanat TercierDatum;  ///< event date of the directions, as last confirmed
 
-    bool MostFut = true;        ///< the computer's clock sets the moment
-    int KepletTipus = 1;        ///< 1 Radix, 2 Mundán, 3 Dekád
+    bool MostFut = true;  ///< the computer's clock sets the moment
+    TKepletTipus KepletTipus = TKepletTipus::radix;
     bool VisszaMod = false;     ///< a derived chart is on screen
     int MostSzamlalo = 0;       ///< ticks since the last full recompute while the clock runs
     int FeliratSzamlalo = 400;  ///< ticks towards the next title text
@@ -172,9 +156,9 @@ struct Allapot {
     TPillanat MhpKezdoPillanat;  ///< the chart's moment when the mundane rectification was opened
     bool PontositasFut = false;
     bool PrimerFut = false;
-    bool HangAktiv = false;  ///< the sound window's title runs
-    bool MemoKicsi = true;   ///< `Memo1` is in its small position
-    bool Megsem2 = true, Megsem3 = true, Megsem4 = true, Megsem14 = true;  ///< a dialog was left by "Mégsem"
+    bool HangAktiv = false;                                ///< the sound window's title runs
+    bool MemoKicsi = true;                                 ///< `Memo1` is in its small position
+    bool Megsem2 = true, Megsem3 = true, Megsem14 = true;  ///< a dialog was left by "Mégsem"
     bool JelszoRendben = true;   ///< the password has been given in this run, or there is none
     int JelszoProba = 0;         ///< changes of the prompt's field so far
     bool TercierAblak = true;    ///< TForm3 serves tertiary directions, else the solar ingress

@@ -5,19 +5,18 @@
 #include "engine/fenyszogek.h"
 #include "engine/hazak.h"
 #include "engine/uralkodok.h"
-#include "tables/efemerida.h"
 #include "tables/nyariido.h"
 #include "tables/telepulesek.h"
 
 void HelyAdatok(Allapot& allapot) {
     TKeplet& k = allapot.Keplet;
-    k.nyariIdo = NyariIdoE(k.julianszam, k.ora, k.perc, k.mperc);
+    k.nyariIdo = NyariIdoE(k.julianszam, k.pillanat.ora, k.pillanat.perc, k.pillanat.mperc);
     TelepulesKeres(k.helyseg, k.idozona, k.szelesseg, k.hosszusagJel, k.szelessegJel, k.hosszusag);
 }
 
 void CsillagIdoLepes(TKeplet& k) {
-    CsillagIdo(k.ora, k.perc, k.mperc, k.napresz, k.julianszam, k.hosszusag, k.armcMperc, k.armcPerc,
-               k.armcOra, k.nyariIdo, k.idozona);
+    CsillagIdo(k.pillanat.ora, k.pillanat.perc, k.pillanat.mperc, k.napresz, k.julianszam, k.hosszusag,
+               k.armcMperc, k.armcPerc, k.armcOra, k.nyariIdo, k.idozona);
 }
 
 void IdoAdatok(Allapot& allapot) {
@@ -74,6 +73,6 @@ void KepletCiklus(Allapot& allapot, UralkodoLepes lepes) {
 }
 
 void DatumRendezes(TKeplet& k) {
-    k.julianszam = DatumbolJulianszam(k.ev, k.ho, k.nap);
-    JulianszambolDatum(k.julianszam, k.ev, k.ho, k.nap);
+    k.julianszam = DatumbolJulianszam(k.pillanat);
+    JulianszambolDatum(k.julianszam, k.pillanat);
 }

@@ -49,11 +49,16 @@ std::string armcSzoveg(const TKeplet& keplet) {
            ketJegy(egesz(keplet.armcMperc));
 }
 
-void IrStatuszSor(Allapot& allapot, const TPillanat& pillanat, std::string_view idoTipus) {
+void IrStatuszSor(Allapot& allapot, const TPillanat& pillanat, TIdoTipus idoTipus) {
     auto& panelek = allapot.Feliratok.statusz;
     const TKeplet& keplet = allapot.Keplet;
-    panelek[panelIdo] = idopontSzoveg(pillanat).append(" ").append(idoTipus);
+    panelek[panelIdo] = idopontSzoveg(pillanat).append(" ").append(idoTipusSzoveg(idoTipus));
     panelek[panelHely] = keplet.helyseg;
     panelek[panelKoordinata] = koordinataSzoveg(keplet.hosszusag, keplet.szelesseg);
     panelek[panelArmc] = armcSzoveg(keplet);
+}
+
+void LeptetoCimIras(TFeliratok& feliratok) {
+    constexpr int cimHossz = 20;  // characters: date and time
+    feliratok.leptetoCim = elsoKarakterek(feliratok.statusz[panelIdo], cimHossz);
 }

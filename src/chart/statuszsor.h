@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "chart/allapot.h"
 
@@ -30,4 +29,7 @@ std::string armcSzoveg(const TKeplet& keplet);
 
 /// Writes panels 1, 3, 4 and 5.
 /// @param pillanat,idoTipus  what panel 3 shows: the caller chooses the chart's moment or the typed one
-void IrStatuszSor(Allapot& allapot, const TPillanat& pillanat, std::string_view idoTipus);
+void IrStatuszSor(Allapot& allapot, const TPillanat& pillanat, TIdoTipus idoTipus);
+
+/// The stepper's title: the date and time of panel 3.
+void LeptetoCimIras(TFeliratok& feliratok);

@@ -27,8 +27,8 @@ void betutipusValasztas(Allapot& allapot, std::vector<std::string> mappak) {
 }
 
 void jelenPillanat(Allapot& allapot, const TPillanat& most) {
-    allapot.Keplet.pillanat(most);
-    allapot.Szemely.beirt(most);
+    allapot.Keplet.pillanat = most;
+    allapot.Szemely.beirt = most;
     allapot.RadixPillanat = most;
     allapot.SzuletesiPillanat = most;
     allapot.InduloDatum = most;
@@ -41,7 +41,7 @@ void elsoKeplet(Allapot& allapot, FoAblak& ablak) {
     DatumRendezes(allapot.Keplet);
     IdoAdatok(allapot);
     auto& panelek = allapot.Feliratok.statusz;
-    IrStatuszSor(allapot, allapot.Keplet.pillanat(), allapot.Szemely.idoTipus);
+    IrStatuszSor(allapot, allapot.Keplet.pillanat, allapot.Szemely.idoTipus);
     panelek[panelNev] = "Most";
     panelek[panelTipus] = "Radix";
     KepletCiklus(allapot);

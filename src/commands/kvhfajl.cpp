@@ -17,15 +17,15 @@ const std::string olvasasiHiba = "File olvasási hiba!";
 TKvhRekord kepletRekord(const Allapot& allapot) {
     const TKeplet& k = allapot.Keplet;
     const TSzemely& sz = allapot.Szemely;
-    return {sz.nev,      k.pillanat(), k.idozona,
-            k.nyariIdo,  k.helyseg,    k.hosszusag,
-            k.szelesseg, sz.jegyzet,   allapot.Esemenyek.EsemenyDb,
+    return {sz.nev,      k.pillanat, k.idozona,
+            k.nyariIdo,  k.helyseg,  k.hosszusag,
+            k.szelesseg, sz.jegyzet, allapot.Esemenyek.EsemenyDb,
             sz.hangJel};
 }
 
 TKvhRekord esemenyRekord(const TEletesemeny& e, int index) {
     return {e.esemeny,
-            {e.ev, e.ho, e.nap, e.ora, e.perc, e.mperc},
+            e.pillanat,
             e.idozona,
             e.nyariIdo,
             e.helyseg,
@@ -54,7 +54,7 @@ void kepletAtvetel(Allapot& allapot, const TKvhRekord& r) {
     TKeplet& k = allapot.Keplet;
     TSzemely& sz = allapot.Szemely;
     sz.nev = r.nev;
-    sz.beirt(r.pillanat);
+    sz.beirt = r.pillanat;
     k.idozona = r.idozona;
     k.nyariIdo = r.nyariIdo;
     k.helyseg = r.helyseg;
@@ -71,8 +71,7 @@ std::optional<TEletesemeny> esemenyAtvetel(const TKvhRekord& r) {
     if (hiba != std::errc{} || hely != vege) return std::nullopt;
     e.esemeny = r.nev;
     e.analogia = r.jegyzet;
-    e.ev = r.pillanat.ev, e.ho = r.pillanat.ho, e.nap = r.pillanat.nap;
-    e.ora = r.pillanat.ora, e.perc = r.pillanat.perc, e.mperc = r.pillanat.mperc;
+    e.pillanat = r.pillanat;
     e.helyseg = r.helyseg;
     e.idozona = r.idozona;
     e.nyariIdo = r.nyariIdo;
@@ -114,9 +113,9 @@ TKvhHiba KepletMegnyitas(Allapot& allapot, FoAblak& ablak, const std::string& fa
     std::ifstream be(fajl, std::ios::binary);
     if (TKvhHiba hiba = KepletBeolvasas(allapot, be)) return hiba;
     hangLink();
-    allapot.Keplet.pillanat(allapot.Szemely.beirt());
+    allapot.Keplet.pillanat = allapot.Szemely.beirt;
     DatumRendezes(allapot.Keplet);
-    allapot.Szemely.idoTipus = "ZN";
+    allapot.Szemely.idoTipus = TIdoTipus::ZN;
     BevittKepletMutatasa(allapot, ablak);
     return {};
 }

@@ -1,6 +1,6 @@
 #include "commands/lepteto.h"
 
-#include "tables/efemerida.h"
+#include "tables/pillanat.h"
 #include "tables/szamtan.h"
 
 namespace {
@@ -21,14 +21,18 @@ int atvitel(std::int32_t& mezo, int mertek, int kor) {
     return 0;
 }
 
-void honapLepes(TKeplet& k, int mertek) {
-    k.ho = alsoBitek(std::int64_t{k.ho} + mertek);
-    if (k.ho > 12) {
-        k.ho = 1;
-        k.ev = alsoBitek(std::int64_t{k.ev} + 1);
-    } else if (k.ho < 1) {
-        k.ho = 12;
-        k.ev = alsoBitek(std::int64_t{k.ev} - 1);
+void evLepes(TPillanat& p, int mertek) {
+    p.ev = alsoBitek(std::int64_t{p.ev} + mertek);
+}
+
+void honapLepes(TPillanat& p, int mertek) {
+    p.ho = alsoBitek(std::int64_t{p.ho} + mertek);
+    if (p.ho > 12) {
+        p.ho = 1;
+        evLepes(p, 1);
+    } else if (p.ho < 1) {
+        p.ho = 12;
+        evLepes(p, -1);
     }
 }
 
@@ -48,17 +52,9 @@ void Leptetes(Allapot& allapot, const TLepes& lepes) {
     allapot.LeptetesVolt = true;
 
     TKeplet& k = allapot.Keplet;
-    if (lepes.mezo == LepesMezo::ev || lepes.mezo == LepesMezo::ho) {
-        if (lepes.mezo == LepesMezo::ev)
-            k.ev = alsoBitek(std::int64_t{k.ev} + lepes.mertek);
-        else
-            honapLepes(k, lepes.mertek);
-        k.julianszam = DatumbolJulianszam(k.ev, k.ho, k.nap);
-    } else {
-        k.julianszam = DatumbolJulianszam(k.ev, k.ho, k.nap);
-        TPillanat p = k.pillanat();
-        k.julianszam += IdoLeptetes(p, lepes.mezo, lepes.mertek);
-        k.pillanat(p);
-    }
-    JulianszambolDatum(k.julianszam, k.ev, k.ho, k.nap);
+    if (lepes.mezo == LepesMezo::ev) evLepes(k.pillanat, lepes.mertek);
+    if (lepes.mezo == LepesMezo::ho) honapLepes(k.pillanat, lepes.mertek);
+    k.julianszam = DatumbolJulianszam(k.pillanat);
+    if (lepes.mezo >= LepesMezo::nap) k.julianszam += IdoLeptetes(k.pillanat, lepes.mezo, lepes.mertek);
+    JulianszambolDatum(k.julianszam, k.pillanat);
 }

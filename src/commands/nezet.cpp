@@ -13,9 +13,15 @@ struct TNezet {
     std::string_view kovetkezo;  ///< caption of PanelButton3_Valt
 };
 
+/// In the order of `TKepletTipus`.
 constexpr Tomb<TNezet, 3> nezetek{{{{"Radix", "Mundán"}, {"Mundán", "Dekád"}, {"Dekád", "Radix"}}}};
 
-void nezetParancs(Allapot& allapot, FoAblak& ablak, int tipus, UralkodoLepes lepes) {
+TKepletTipus kovetkezo(TKepletTipus tipus) {
+    return tipus == TKepletTipus::dekad ? TKepletTipus::radix
+                                        : static_cast<TKepletTipus>(static_cast<int>(tipus) + 1);
+}
+
+void nezetParancs(Allapot& allapot, FoAblak& ablak, TKepletTipus tipus, UralkodoLepes lepes) {
     NezetBeallitas(allapot, tipus);
     allapot.TeljesTorles = true;
     ablak.Ujrafest();
@@ -30,24 +36,25 @@ void nezetParancs(Allapot& allapot, FoAblak& ablak, int tipus, UralkodoLepes lep
 
 }  // namespace
 
-void NezetBeallitas(Allapot& allapot, int tipus) {
+void NezetBeallitas(Allapot& allapot, TKepletTipus tipus) {
+    const TNezet& nezet = nezetek[static_cast<int>(tipus)];
     allapot.KepletTipus = tipus;
-    allapot.Feliratok.statusz[panelTipus] = nezetek[tipus].panel;
-    allapot.Feliratok.valtGomb = nezetek[tipus].kovetkezo;
+    allapot.Feliratok.statusz[panelTipus] = nezet.panel;
+    allapot.Feliratok.valtGomb = nezet.kovetkezo;
 }
 
 void ValtParancs(Allapot& allapot, FoAblak& ablak) {
-    nezetParancs(allapot, ablak, allapot.KepletTipus % 3 + 1, UralkodoLepes::teljes);
+    nezetParancs(allapot, ablak, kovetkezo(allapot.KepletTipus), UralkodoLepes::teljes);
 }
 
 void HorizontParancs(Allapot& allapot, FoAblak& ablak) {
-    nezetParancs(allapot, ablak, 1, UralkodoLepes::teljes);
+    nezetParancs(allapot, ablak, TKepletTipus::radix, UralkodoLepes::teljes);
 }
 
 void MundanParancs(Allapot& allapot, FoAblak& ablak) {
-    nezetParancs(allapot, ablak, 2, UralkodoLepes::csakDekad);
+    nezetParancs(allapot, ablak, TKepletTipus::mundan, UralkodoLepes::csakDekad);
 }
 
 void DekadParancs(Allapot& allapot, FoAblak& ablak) {
-    nezetParancs(allapot, ablak, 3, UralkodoLepes::csakDekad);
+    nezetParancs(allapot, ablak, TKepletTipus::dekad, UralkodoLepes::csakDekad);
 }

@@ -8,8 +8,7 @@
 /// each of them while the status bar stands still. This is meant.
 
 /// Sets the view with the text of panel 0 and the caption of the button that leads to the next view.
-/// @param tipus  1 Radix, 2 Mundán, 3 Dekád
-void NezetBeallitas(Allapot& allapot, int tipus);
+void NezetBeallitas(Allapot& allapot, TKepletTipus tipus);
 
 /// "Vált": the next view in the ring, with the whole cycle.
 void ValtParancs(Allapot& allapot, FoAblak& ablak);

@@ -10,15 +10,16 @@
 #include "tables/szoveg.h"
 
 std::string FejlecSzoveg(const TKeplet& k, const std::string& megnevezes) {
-    const std::string datum = datumSzoveg(k.pillanat());
-    const std::string ido = std::to_string(k.ora) + ":" + ketJegy(k.perc) + ":" + ketJegy(k.mperc);
+    const TPillanat& p = k.pillanat;
+    const std::string datum = datumSzoveg(p);
+    const std::string ido = std::to_string(p.ora) + ":" + ketJegy(p.perc) + ":" + ketJegy(p.mperc);
     const std::string armc =
         std::to_string(k.armcOra) + ":" + ketJegy(k.armcPerc) + ":" + std::to_string(egesz(k.armcMperc));
     return megnevezes + ",  " + datum + "  " + ido + "  " + k.helyseg + ",  ARMC: " + armc;
 }
 
 void NyomtatasNezete(Allapot& allapot, const std::string& megnevezes) {
-    NezetBeallitas(allapot, 1);
+    NezetBeallitas(allapot, TKepletTipus::radix);
     allapot.Feliratok.statusz[panelNev] = megnevezes;
 }
 

@@ -14,7 +14,6 @@ namespace {
 constexpr int feliratValtas = 500;    ///< ticks that a title text runs
 constexpr int uresFeliratUgras = 15;  ///< added a tick while the slot is empty
 constexpr int hosszuPanel = 29;       ///< characters that stand still in a panel
-constexpr int leptetoCimHossz = 20;
 
 void cimValtas(Allapot& a) {
     if (++a.FeliratSzamlalo <= feliratValtas) return;
@@ -35,11 +34,12 @@ void cimGorgetes(Allapot& a) {
 }
 
 void futoSzoveg(Allapot& a) {
-    if (a.KepletTipus == 3) {
+    if (a.KepletTipus == TKepletTipus::dekad) {
         a.FutoSzoveg = kapcsolatSor;
         return;
     }
-    std::string& szoveg = a.KepletTipus == 1 ? a.Uralkodok.UralkodoSzoveg : a.Uralkodok.MundanUralkodoSzoveg;
+    std::string& szoveg =
+        a.KepletTipus == TKepletTipus::radix ? a.Uralkodok.UralkodoSzoveg : a.Uralkodok.MundanUralkodoSzoveg;
     gordit(szoveg);
     a.FutoSzoveg = szoveg;
 }
@@ -57,21 +57,20 @@ void hangCimGorgetes(Allapot& a) {
 /// An unreadable computer date or time leaves the last moment standing.
 void mostPillanat(Allapot& a, FoAblak& ablak) {
     ++a.MostSzamlalo;
-    TPillanat most = a.Keplet.pillanat();
+    TPillanat most = a.Keplet.pillanat;
     OlvasIdo(ablak.RendszerIdo(), most);
     OlvasDatum(ablak.RendszerDatum(), most);
-    a.Keplet.pillanat(most);
+    a.Keplet.pillanat = most;
     DatumRendezes(a.Keplet);
     a.Feliratok.statusz[panelNev] = "Most";
 }
 
 void idoEsStatusz(Allapot& a) {
     IdoAdatok(a);
-    a.Szemely.idoTipus = "ZN";
-    IrStatuszSor(a, a.Keplet.pillanat(), a.Szemely.idoTipus);
+    a.Szemely.idoTipus = TIdoTipus::ZN;
+    IrStatuszSor(a, a.Keplet.pillanat, a.Szemely.idoTipus);
     a.Feliratok.memo.clear();
-    if (a.LeptetesVolt)
-        a.Feliratok.leptetoCim = elsoKarakterek(a.Feliratok.statusz[panelIdo], leptetoCimHossz);
+    if (a.LeptetesVolt) LeptetoCimIras(a.Feliratok);
 }
 
 void teljesUjraszamitas(Allapot& a, FoAblak& ablak) {
@@ -125,11 +124,11 @@ void oraIndul(Allapot& a) {
 void radixVisszater(Allapot& a) {
     a.Feliratok.mostGomb = "Most";
     a.Feliratok.statusz[panelNev] = a.Szemely.nev;
-    a.Keplet.pillanat(a.RadixPillanat);
+    a.Keplet.pillanat = a.RadixPillanat;
     a.Feliratok.memo = a.Szemely.jegyzetMentett;
     DatumRendezes(a.Keplet);
     IdoAdatok(a);
-    IrStatuszSor(a, a.Keplet.pillanat(), "ZN");
+    IrStatuszSor(a, a.Keplet.pillanat, TIdoTipus::ZN);
     KepletCiklus(a);
 }
 

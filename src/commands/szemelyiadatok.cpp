@@ -1,15 +1,14 @@
 #include "commands/szemelyiadatok.h"
 
 #include <algorithm>
-#include <array>
 
 #include "chart/kepletciklus.h"
 #include "chart/kepletmutatas.h"
 #include "chart/statuszsor.h"
 #include "commands/nezet.h"
-#include "tables/efemerida.h"
 #include "tables/fokperc.h"
 #include "tables/nyariido.h"
+#include "tables/pillanat.h"
 #include "tables/szamtan.h"
 #include "tables/telepulesek.h"
 
@@ -35,24 +34,13 @@ void helyiKozepidobol(TPillanat& p, std::int32_t& julianszam, std::int32_t idozo
     p.mperc = alsoBitek(t % 60);
 }
 
-void greenwichiIdobol(TPillanat& p, std::int32_t& julianszam, std::int32_t idozona) {
-    p.ora = alsoBitek(std::int64_t{p.ora} + idozona);
-    if (p.ora > 23) {
-        p.ora -= 24;
-        ++julianszam;
-    } else if (p.ora < 0) {
-        p.ora += 24;
-        --julianszam;
-    }
-}
-
 }  // namespace
 
-void IdoAtvaltas(TPillanat& pillanat, std::int32_t& julianszam, std::string_view idoTipus,
-                 std::int32_t idozona, std::int32_t hosszusag) {
-    if (idoTipus == "LMT") helyiKozepidobol(pillanat, julianszam, idozona, hosszusag);
-    if (idoTipus == "GMT") greenwichiIdobol(pillanat, julianszam, idozona);
-    JulianszambolDatum(julianszam, pillanat.ev, pillanat.ho, pillanat.nap);
+void IdoAtvaltas(TPillanat& pillanat, std::int32_t& julianszam, TIdoTipus idoTipus, std::int32_t idozona,
+                 std::int32_t hosszusag) {
+    if (idoTipus == TIdoTipus::LMT) helyiKozepidobol(pillanat, julianszam, idozona, hosszusag);
+    if (idoTipus == TIdoTipus::GMT) julianszam += oraEltolas(pillanat, idozona);
+    JulianszambolDatum(julianszam, pillanat);
 }
 
 namespace {
@@ -69,15 +57,14 @@ void koordinataMezok(TSzemelyiAdatok& mezok, std::int32_t hosszusag, std::int32_
 }  // namespace
 
 TSzemelyiAdatok UjKepletMezok(Allapot& allapot) {
-    allapot.Szemely.idoTipus = "ZN";
+    allapot.Szemely.idoTipus = TIdoTipus::ZN;
     allapot.Szemely.idoTipusIndex = 0;
 
     TSzemelyiAdatok mezok;
     mezok.nev = "Új képlet";
-    mezok.ido = allapot.Szemely.beirt();
+    mezok.ido = allapot.Szemely.beirt;
     mezok.helyseg = allapot.Keplet.helyseg;
-    TPillanat p = mezok.ido;
-    mezok.nyariIdo = NyariIdoE(DatumbolJulianszam(p.ev, p.ho, p.nap), p.ora, p.perc, p.mperc);
+    mezok.nyariIdo = NyariIdoE(mezok.ido);
     TTelepules hely{};
     TelepulesKeres(mezok.helyseg, hely.idozona, hely.szelesseg, hely.hosszusagJel, hely.szelessegJel,
                    hely.hosszusag);
@@ -90,7 +77,7 @@ TSzemelyiAdatok SzemelyMezok(const Allapot& allapot) {
     const TKeplet& k = allapot.Keplet;
     TSzemelyiAdatok mezok;
     mezok.nev = allapot.Szemely.nev;
-    mezok.ido = allapot.Szemely.beirt();
+    mezok.ido = allapot.Szemely.beirt;
     mezok.helyseg = k.helyseg;
     mezok.idozona = k.idozona;
     mezok.nyariIdo = k.nyariIdo;
@@ -107,17 +94,17 @@ void HelysegValtozas(Allapot& allapot, TSzemelyiAdatok& mezok) {
     koordinataMezok(mezok, k.hosszusag, k.szelesseg);
 
     TPillanat& ido = mezok.ido;
-    k.julianszam = DatumbolJulianszam(ido.ev, ido.ho, ido.nap);
-    JulianszambolDatum(k.julianszam, ido.ev, ido.ho, ido.nap);
-    allapot.Szemely.beirt(ido);
+    k.julianszam = DatumbolJulianszam(ido);
+    JulianszambolDatum(k.julianszam, ido);
+    allapot.Szemely.beirt = ido;
 
-    k.nyariIdo = allapot.Szemely.idoTipus == "ZN" ? NyariIdoE(k.julianszam, ido.ora, ido.perc, ido.mperc) : 0;
+    k.nyariIdo =
+        allapot.Szemely.idoTipus == TIdoTipus::ZN ? NyariIdoE(k.julianszam, ido.ora, ido.perc, ido.mperc) : 0;
     mezok.nyariIdo = k.nyariIdo;
 }
 
 void IdoTipusValasztas(Allapot& allapot, int index) {
-    constexpr std::array<std::string_view, 3> tipusok{"ZN", "LMT", "GMT"};
-    allapot.Szemely.idoTipus = tipusok[static_cast<std::size_t>(std::clamp(index, 0, 2))];
+    allapot.Szemely.idoTipus = static_cast<TIdoTipus>(std::clamp(index, 0, 2));
     allapot.Szemely.idoTipusIndex = index;
 }
 
@@ -127,8 +114,8 @@ void SzemelyiRendben(Allapot& allapot, const TSzemelyiAdatok& mezok) {
     szemely.jegyzet = mezok.jegyzet;
     szemely.nev = mezok.nev;
     TPillanat beirt = mezok.ido;
-    k.julianszam = DatumbolJulianszam(beirt.ev, beirt.ho, beirt.nap);
-    szemely.beirt(beirt);
+    k.julianszam = DatumbolJulianszam(beirt);
+    szemely.beirt = beirt;
 
     k.helyseg = mezok.helyseg;
     k.nyariIdo = mezok.nyariIdo;
@@ -136,9 +123,9 @@ void SzemelyiRendben(Allapot& allapot, const TSzemelyiAdatok& mezok) {
     k.hosszusag = ivmasodpercre(mezok.hosszFok, mezok.hosszPerc);
     k.szelesseg = ivmasodpercre(mezok.szelFok, mezok.szelPerc);
 
-    TPillanat pillanat = szemely.beirt();
+    TPillanat pillanat = szemely.beirt;
     IdoAtvaltas(pillanat, k.julianszam, szemely.idoTipus, k.idozona, k.hosszusag);
-    k.pillanat(pillanat);
+    k.pillanat = pillanat;
     allapot.Megsem2 = false;
 }
 
@@ -147,17 +134,17 @@ void BevittKepletMutatasa(Allapot& allapot, FoAblak& ablak) {
     feliratok.memo = allapot.Szemely.jegyzet;
     allapot.MostFut = false;
     feliratok.mostGomb = "Most";
-    NezetBeallitas(allapot, 1);
+    NezetBeallitas(allapot, TKepletTipus::radix);
     feliratok.statusz[panelNev] = allapot.Szemely.nev + " ";
     ablak.Mutat();
     ablak.Ujrafest();
 
     CsillagIdoLepes(allapot.Keplet);
-    allapot.RadixPillanat = allapot.Keplet.pillanat();
-    allapot.SzuletesiPillanat = allapot.Keplet.pillanat();
+    allapot.RadixPillanat = allapot.Keplet.pillanat;
+    allapot.SzuletesiPillanat = allapot.Keplet.pillanat;
     allapot.Szemely.jegyzetMentett = allapot.Szemely.jegyzet;
 
-    IrStatuszSor(allapot, allapot.Szemely.beirt(), allapot.Szemely.idoTipus);
+    IrStatuszSor(allapot, allapot.Szemely.beirt, allapot.Szemely.idoTipus);
     feliratok.statusz[panelHely] += " ";
     KepletCiklus(allapot);
     KepletMutatas(allapot, ablak);

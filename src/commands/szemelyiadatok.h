@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "chart/allapot.h"
 #include "chart/foablak.h"
@@ -25,8 +24,8 @@ struct TSzemelyiAdatok {
 /// @param[in,out] julianszam  day of the clock; one day is carried at most
 /// @param idozona    hours, east positive
 /// @param hosszusag  arcseconds; for "LMT" whole minutes of arc count, seconds do not
-void IdoAtvaltas(TPillanat& pillanat, std::int32_t& julianszam, std::string_view idoTipus,
-                 std::int32_t idozona, std::int32_t hosszusag);
+void IdoAtvaltas(TPillanat& pillanat, std::int32_t& julianszam, TIdoTipus idoTipus, std::int32_t idozona,
+                 std::int32_t hosszusag);
 
 /// Fields for a new chart: default name, no note, the place's own values; sets the time kind to "ZN".
 TSzemelyiAdatok UjKepletMezok(Allapot& allapot);

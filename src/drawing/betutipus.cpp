@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "tables/szotar.h"
+
 std::string MeghajtoBetuMappa(char meghajto) {
     return std::string(1, meghajto) + ":\\WINDOWS\\Fonts\\";
 }

@@ -2,16 +2,9 @@
 
 #include <functional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 /// Choice of the symbol font. A font file's base name is its face name.
-
-inline constexpr std::string_view sajatSzimbolumFont = "Astro Symbols";
-inline constexpr std::string_view potSzimbolumFont = "AstroMidget Bold";
-inline constexpr std::string_view szovegFont =
-    "Ariel";  ///< spelled so: the system falls back to its default face
-inline constexpr std::string_view mozgasFont = "Times New Roman";
 
 using TFajlVan = std::function<bool(const std::string& fajl)>;
 

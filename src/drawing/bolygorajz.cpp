@@ -1,8 +1,8 @@
 #include "drawing/bolygorajz.h"
 
+#include <algorithm>
 #include <string>
 
-#include "drawing/betutipus.h"
 #include "drawing/oldalpanel.h"
 #include "tables/szamtan.h"
 #include "tables/szotar.h"
@@ -13,11 +13,11 @@ std::string_view betu(const char& c) {
     return {&c, 1};
 }
 
-/// Spread place of a body in degrees.
-double szetteritettHely(const Allapot& allapot, int bolygo) {
-    for (const TRendezettSor& sor : allapot.Rajz.Rendezett)
-        if (sor.rendJel == bolygoJel[bolygo]) return sor.rendHossz;
-    return allapot.Keplet.bolygo[bolygo];
+/// Spread place of a body in degrees; its true place as long as no table has been built.
+double szetteritettHely(const TRendezett& Rendezett, int bolygo, double igaziHely) {
+    const auto sor = std::find_if(Rendezett.begin(), Rendezett.end(),
+                                  [&](const TRendezettSor& r) { return r.rendJel == bolygoJel[bolygo]; });
+    return sor == Rendezett.end() ? igaziHely : sor->rendHossz;
 }
 
 /// How glyphs and motion letters stand on one kind of wheel.
@@ -28,11 +28,10 @@ struct TJelHely {
 };
 
 /// Any motion letter but 'D' is shown as it stands.
-void jelek(const TKerek& kerek, const TJelHely& h, const Allapot& allapot) {
+void jelek(const TKerek& kerek, const TJelHely& h, const TRendezett& Rendezett, std::string_view font) {
     Vaszon& vaszon = kerek.vaszon();
-    const std::string& font = allapot.Rajz.szimbolumFont;
     vaszon.Betu(font, h.magassag);
-    for (const TRendezettSor& sor : allapot.Rajz.Rendezett) {
+    for (const TRendezettSor& sor : Rendezett) {
         const double szog = kerek.szog(sor.rendHossz);
         kerek.szoveg(h.sugar, szog, h.eltolas, betu(sor.rendJel));
         if (sor.rendMozgas == 'D') continue;
@@ -45,12 +44,13 @@ void jelek(const TKerek& kerek, const TJelHely& h, const Allapot& allapot) {
 
 }  // namespace
 
-void BolygoJelek(const TKerek& kerek, const TSugarak& s, const Allapot& allapot) {
+void BolygoJelek(const TKerek& kerek, const TSugarak& s, const TRendezett& Rendezett,
+                 std::string_view szimbolumFont) {
     const double b = s.skala - s.bolygo;
     jelek(kerek,
           {static_cast<double>(kerekit(b / 2 + s.bolygo)), kerekit(b / 2 * 0.9), kerekit(b * 0.2),
            kerekit(b / 2 * 0.45), kerekit(0.12 * b) - 4, kerekit(0.12 * b) + 2},
-          allapot);
+          Rendezett, szimbolumFont);
 }
 
 namespace {
@@ -71,43 +71,46 @@ struct TFokFelirat {
 
 }  // namespace
 
-void FokFeliratok(const TKerek& kerek, const TSugarak& s, const Allapot& allapot) {
+void FokFeliratok(const TKerek& kerek, const TSugarak& s, const TRendezett& Rendezett,
+                  const THazcsucsok& hazCsucs) {
     const double b = s.skala - s.bolygo;
     const int eltolas = kerekit(b * 0.2);
     const TFokFelirat bolygoFelirat{kerekit(b / 2 * 0.7), kerekit(b / 2 * 0.4), eltolas};
     const int bolygoSugar = kerekit(0.94 * s.bolygo);
-    for (const TRendezettSor& sor : allapot.Rajz.Rendezett)
+    for (const TRendezettSor& sor : Rendezett)
         bolygoFelirat.rajzol(kerek, bolygoSugar, kerek.szog(sor.rendHossz), sor.rendFok, sor.rendPerc);
 
     const TFokFelirat csucsFelirat{kerekit(b / 2 * 0.6), kerekit(b / 2 * 0.4), eltolas};
     const int csucsSugar = kerekit(0.5 * s.bolygo);
     for (const int haz : feliratosCsucsok) {
-        const double csucs = allapot.Keplet.hazCsucs[haz];
+        const double csucs = hazCsucs[haz];
         const double fok = csucs - 30.0 * egesz(csucs / 30);
         csucsFelirat.rajzol(kerek, csucsSugar, kerek.szog(csucs), fok, (fok - egesz(fok)) * 60);
     }
 }
 
-void MutatoVonalak(const TKerek& kerek, const TSugarak& s, const Allapot& allapot, TMutato mutato) {
+void MutatoVonalak(const TKerek& kerek, const TSugarak& s, const TBolygok& bolygo,
+                   const TRendezett& Rendezett, TMutato mutato) {
     kerek.vaszon().TollSzelesseg(TollVastagsag(2, s.kulso));
     const int melyseg = kerekit(s.skala / mutato.osztas);
     for (int i = 1; i <= 10; ++i) {
-        const double igazi = kerek.szog(allapot.Keplet.bolygo[i]);
-        const double szettert = kerek.szog(szetteritettHely(allapot, i));
+        const double igazi = kerek.szog(bolygo[i]);
+        const double szettert = kerek.szog(szetteritettHely(Rendezett, i, bolygo[i]));
         kerek.vonal(s.skala, igazi, s.skala - melyseg, szettert);
         if (mutato.belso) kerek.vonal(s.bolygo, igazi, s.bolygo + melyseg, szettert);
     }
 }
 
-void KisMundanBolygok(const TKerek& kerek, int kisSugar, const Allapot& allapot) {
+void KisMundanBolygok(const TKerek& kerek, int kisSugar, const TBolygok& bolygo, const TRendezett& Rendezett,
+                      std::string_view szimbolumFont) {
     const double k = kisSugar;
     const int mozgasEltolas = kerekit((k / 12 + 3) * 0.2);
     jelek(kerek,
           {static_cast<double>(kerekit(kerekit(1.125 * k) * 1.15)), kerekit(k / 8 + 6),
            kerekit((k / 8 + 6) * 0.5), kerekit(k / 12 + 3), mozgasEltolas, mozgasEltolas},
-          allapot);
+          Rendezett, szimbolumFont);
     kerek.vaszon().TollSzelesseg(1);
     for (int i = 1; i <= 10; ++i)
-        kerek.vonal(k, kerek.szog(allapot.Keplet.bolygo[i]), k / 9 + 5 + k,
-                    kerek.szog(szetteritettHely(allapot, i)));
+        kerek.vonal(k, kerek.szog(bolygo[i]), k / 9 + 5 + k,
+                    kerek.szog(szetteritettHely(Rendezett, i, bolygo[i])));
 }

@@ -19,17 +19,18 @@ int betuEltolas(int sugar) {
 
 /// Lines of all cells in matrix order; after each, `vonalUtan` with the two angles and the cell's letter.
 template <typename TVonalUtan>
-void vonalak(const TKerek& kerek, int sugar, const Allapot& allapot, TVonalUtan vonalUtan) {
+void vonalak(const TKerek& kerek, int sugar, const TJelMatrix& FenyszogRadix, const TBolygok& bolygo,
+             TVonalUtan vonalUtan) {
     kerek.vaszon().TollSzelesseg(1);
     int stilusSzamlalo = 1;
     for (int i = 1; i <= 10; ++i) {
         for (int j = 1; j <= 10; ++j) {
-            const char& cella = allapot.FenyszogRadix[i][j];
+            const char& cella = FenyszogRadix[i][j];
             if (cella == '.') continue;
             if (stilusSzamlalo == 6) stilusSzamlalo = 1;
             kerek.vaszon().Stilus(vonalStilus[stilusSzamlalo]);
-            const double a = kerek.szog(allapot.Keplet.bolygo[i]);
-            const double b = kerek.szog(allapot.Keplet.bolygo[j]);
+            const double a = kerek.szog(bolygo[i]);
+            const double b = kerek.szog(bolygo[j]);
             kerek.vonal(sugar, a, sugar, b);
             ++stilusSzamlalo;
             vonalUtan(a, b, std::string_view(&cella, 1));
@@ -39,20 +40,23 @@ void vonalak(const TKerek& kerek, int sugar, const Allapot& allapot, TVonalUtan 
 
 }  // namespace
 
-void FenyszogVonalak(const TKerek& kerek, int sugar, const Allapot& allapot) {
-    kerek.vaszon().Betu(allapot.Rajz.szimbolumFont, kerekit(betuMeret(sugar)));
+void FenyszogVonalak(const TKerek& kerek, int sugar, const TJelMatrix& FenyszogRadix, const TBolygok& bolygo,
+                     std::string_view szimbolumFont) {
+    kerek.vaszon().Betu(szimbolumFont, kerekit(betuMeret(sugar)));
     const int eltolas = betuEltolas(sugar);
-    vonalak(kerek, sugar, allapot, [&](double a, double b, std::string_view jel) {
+    vonalak(kerek, sugar, FenyszogRadix, bolygo, [&](double a, double b, std::string_view jel) {
         kerek.szovegKozepre(sugar, a, sugar, b, eltolas, jel);
     });
 }
 
-void KisFenyszogVonalak(const TKerek& kerek, int sugar, const Allapot& allapot) {
-    vonalak(kerek, sugar, allapot, [](double, double, std::string_view) {});
+void KisFenyszogVonalak(const TKerek& kerek, int sugar, const TJelMatrix& FenyszogRadix,
+                        const TBolygok& bolygo) {
+    vonalak(kerek, sugar, FenyszogRadix, bolygo, [](double, double, std::string_view) {});
     kerek.vaszon().Stilus(TollStilus::folytonos);
 }
 
-void TengelyFenyszogek(const TKerek& kerek, const TSugarak& s, const Allapot& allapot) {
+void TengelyFenyszogek(const TKerek& kerek, const TSugarak& s, const TBolygok& bolygo,
+                       const THazcsucsok& hazCsucs, const TOrbisTabla& OrbisTabla) {
     struct TTengely {
         int haz, orbisSora;
     };
@@ -61,16 +65,16 @@ void TengelyFenyszogek(const TKerek& kerek, const TSugarak& s, const Allapot& al
     const int eltolas = betuEltolas(s.bolygo);
 
     for (const auto& [haz, orbisSora] : tengelyek) {
-        const double csucs = allapot.Keplet.hazCsucs[haz];
+        const double csucs = hazCsucs[haz];
         for (int i = 1; i <= 10; ++i) {
-            const double bolygo = allapot.Keplet.bolygo[i];
-            const double d = szogTavolsag(bolygo, csucs);
+            const double hossz = bolygo[i];
+            const double d = szogTavolsag(hossz, csucs);
             for (int j = 1; j <= 9; ++j) {
-                const double tengelyOrbis = allapot.OrbisTabla[orbisSora][j];
+                const double tengelyOrbis = OrbisTabla[orbisSora][j];
                 if (tengelyOrbis == 0) continue;
-                const double o = (allapot.OrbisTabla[orbisSor(i)][j] + tengelyOrbis) / 2;
+                const double o = (OrbisTabla[orbisSor(i)][j] + tengelyOrbis) / 2;
                 if (!(fenyszogSzog[j] - o <= d && fenyszogSzog[j] + o >= d)) continue;
-                const double a = kerek.szog(bolygo);
+                const double a = kerek.szog(hossz);
                 const double b = kerek.szog(csucs);
                 kerek.vonal(s.bolygo, a, tengelySugar, b);
                 kerek.szovegKozepre(s.bolygo, a, tengelySugar, b, eltolas, {&fenyszogJel[j], 1});

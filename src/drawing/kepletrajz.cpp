@@ -8,6 +8,7 @@
 #include "drawing/keretek.h"
 #include "drawing/oldalpanel.h"
 #include "drawing/rendezett.h"
+#include "engine/fenyszogpontok.h"
 
 namespace {
 
@@ -24,37 +25,38 @@ void rendezettUjra(Allapot& a) {
 void kisMundan(Vaszon& vaszon, const TKisKerekek& kis, const Allapot& a) {
     const TKerek kerek(vaszon, kis.kis1X, kis.kis1Y, 0);
     KisMundanKeret(kerek, kis.kisSugar, TollVastagsag(2, a.Rajz.kerekSugar));
-    KisMundanBolygok(kerek, kis.kisSugar, a);
+    KisMundanBolygok(kerek, kis.kisSugar, a.Keplet.bolygo, a.Rajz.Rendezett, a.Rajz.szimbolumFont);
     KisMundanJegyek(kerek, kis.kisSugar, a.Rajz.szimbolumFont);
-    KisFenyszogVonalak(kerek, kis.kisSugar, a);
+    KisFenyszogVonalak(kerek, kis.kisSugar, a.FenyszogRadix, a.Keplet.bolygo);
 }
 
 void kisDekad(Vaszon& vaszon, const TKisKerekek& kis, const Allapot& a) {
     const TKerek kerek(vaszon, kis.kis2X, kis.kis2Y, 0);
-    KisDekadKerek(kerek, kis.kisSugar, TollVastagsag(2, a.Rajz.kerekSugar), a);
+    KisDekadKerek(kerek, kis.kisSugar, TollVastagsag(2, a.Rajz.kerekSugar), a.Uralkodok.DekadSzoveg,
+                  a.Rajz.szimbolumFont);
 }
 
 /// Radix wheel at the small centre and radius in force, without labels or aspects.
 void kisRadix(Vaszon& vaszon, Allapot& a, bool r2Kor) {
     const TSugarak s = GyuruSugarak(a.Rajz.kerekSugar, a.Rajz.nyomtatasMod);
     const TKerek kerek = kozepsoKerek(vaszon, a.Rajz, a.Rajz.forgatas);
-    RadixKeret(kerek, s, a, r2Kor);
+    RadixKeret(kerek, s, a.Keplet.hazCsucs, a.Rajz.szimbolumFont, r2Kor);
     rendezettUjra(a);
-    BolygoJelek(kerek, s, a);
-    MutatoVonalak(kerek, s, a, tobbiMutato);
+    BolygoJelek(kerek, s, a.Rajz.Rendezett, a.Rajz.szimbolumFont);
+    MutatoVonalak(kerek, s, a.Keplet.bolygo, a.Rajz.Rendezett, tobbiMutato);
 }
 
 void radixNezet(Vaszon& vaszon, Allapot& a) {
     const TSugarak s = GyuruSugarak(a.Rajz.kerekSugar, a.Rajz.nyomtatasMod);
     const TKisKerekek kis = KisKerekGeometria(a.Rajz);
     const TKerek kerek = kozepsoKerek(vaszon, a.Rajz, a.Rajz.forgatas);
-    RadixKeret(kerek, s, a, true);
-    FenyszogVonalak(kerek, s.bolygo, a);
-    TengelyFenyszogek(kerek, s, a);
+    RadixKeret(kerek, s, a.Keplet.hazCsucs, a.Rajz.szimbolumFont, true);
+    FenyszogVonalak(kerek, s.bolygo, a.FenyszogRadix, a.Keplet.bolygo, a.Rajz.szimbolumFont);
+    TengelyFenyszogek(kerek, s, a.Keplet.bolygo, a.Keplet.hazCsucs, a.OrbisTabla);
     rendezettUjra(a);
-    BolygoJelek(kerek, s, a);
-    FokFeliratok(kerek, s, a);
-    MutatoVonalak(kerek, s, a, nagyRadixMutato);
+    BolygoJelek(kerek, s, a.Rajz.Rendezett, a.Rajz.szimbolumFont);
+    FokFeliratok(kerek, s, a.Rajz.Rendezett, a.Keplet.hazCsucs);
+    MutatoVonalak(kerek, s, a.Keplet.bolygo, a.Rajz.Rendezett, nagyRadixMutato);
     if (kis.kisSugar < legkisebbKisSugar) return;
     kisMundan(vaszon, kis, a);
     kisDekad(vaszon, kis, a);
@@ -64,11 +66,11 @@ void mundanNezet(Vaszon& vaszon, Allapot& a) {
     const TSugarak s = GyuruSugarak(a.Rajz.kerekSugar, a.Rajz.nyomtatasMod);
     TKisKerekek kis = KisKerekGeometria(a.Rajz);
     const TKerek kerek = kozepsoKerek(vaszon, a.Rajz, 0);
-    MundanKeret(kerek, s, a);
-    FenyszogVonalak(kerek, s.bolygo, a);
+    MundanKeret(kerek, s, a.Rajz.szimbolumFont);
+    FenyszogVonalak(kerek, s.bolygo, a.FenyszogRadix, a.Keplet.bolygo, a.Rajz.szimbolumFont);
     rendezettUjra(a);
-    BolygoJelek(kerek, s, a);
-    MutatoVonalak(kerek, s, a, tobbiMutato);
+    BolygoJelek(kerek, s, a.Rajz.Rendezett, a.Rajz.szimbolumFont);
+    MutatoVonalak(kerek, s, a.Keplet.bolygo, a.Rajz.Rendezett, tobbiMutato);
 
     std::swap(a.Rajz.kozpontX, kis.kis1X);
     std::swap(a.Rajz.kozpontY, kis.kis1Y);
@@ -81,7 +83,8 @@ void mundanNezet(Vaszon& vaszon, Allapot& a) {
 
 void dekadNezet(Vaszon& vaszon, Allapot& a) {
     TKisKerekek kis = KisKerekGeometria(a.Rajz);
-    DekadKerek(kozepsoKerek(vaszon, a.Rajz, 0), a);
+    DekadKerek(kozepsoKerek(vaszon, a.Rajz, 0), a.Rajz.kerekSugar, a.Uralkodok.DekadSzoveg,
+               a.Rajz.szimbolumFont);
     if (kis.kisSugar < legkisebbKisSugar) return;
     kisMundan(vaszon, kis, a);
     std::swap(a.Rajz.kozpontX, kis.kis2X);
@@ -95,16 +98,16 @@ void dekadNezet(Vaszon& vaszon, Allapot& a) {
 void KepletRajz(Vaszon& vaszon, Allapot& allapot) {
     vaszon.Stilus(TollStilus::folytonos);
     switch (allapot.KepletTipus) {
-        case 2:
+        case TKepletTipus::mundan:
             mundanNezet(vaszon, allapot);
             break;
-        case 3:
+        case TKepletTipus::dekad:
             dekadNezet(vaszon, allapot);
             break;
-        default:
+        case TKepletTipus::radix:
             radixNezet(vaszon, allapot);
             break;
     }
-    OldalPanelIras(allapot);
-    FenyszogPontSzamitas(allapot);
+    OldalPanelIras(allapot.Keplet.bolygo, allapot.Keplet.hazCsucs, allapot.Rajz.panel);
+    FenyszogPontSzamitas(allapot.Keplet.bolygo, allapot.Rajz.FenyszogPontok);
 }

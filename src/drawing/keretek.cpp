@@ -2,7 +2,6 @@
 
 #include <numbers>
 
-#include "drawing/betutipus.h"
 #include "tables/szamtan.h"
 #include "tables/szotar.h"
 
@@ -99,8 +98,8 @@ void tengelyek(const TKerek& kerek, const TSugarak& s, double mc) {
 
 }  // namespace
 
-void RadixKeret(const TKerek& kerek, const TSugarak& s, const Allapot& allapot, bool r2Kor) {
-    const THazcsucsok& hazCsucs = allapot.Keplet.hazCsucs;
+void RadixKeret(const TKerek& kerek, const TSugarak& s, const THazcsucsok& hazCsucs,
+                std::string_view szimbolumFont, bool r2Kor) {
     Vaszon& vaszon = kerek.vaszon();
 
     vaszon.TollSzelesseg(1);
@@ -118,13 +117,13 @@ void RadixKeret(const TKerek& kerek, const TSugarak& s, const Allapot& allapot, 
     vaszon.TollSzelesseg(1);
     for (int i = 1; i <= 12; ++i)
         kerek.vonal(s.belso, kerek.szog(hazCsucs[i]), s.skala, kerek.szog(hazCsucs[i]));
-    jegyGyuru(kerek, s, allapot.Rajz.szimbolumFont);
+    jegyGyuru(kerek, s, szimbolumFont);
     jegyHatarok(kerek, s);
     fokSkala(kerek, s);
     tengelyek(kerek, s, hazCsucs[10]);
 }
 
-void MundanKeret(const TKerek& kerek, const TSugarak& s, const Allapot& allapot) {
+void MundanKeret(const TKerek& kerek, const TSugarak& s, std::string_view szimbolumFont) {
     Vaszon& vaszon = kerek.vaszon();
     vaszon.TollSzelesseg(1);
     kerek.kor(s.kulso);
@@ -134,7 +133,7 @@ void MundanKeret(const TKerek& kerek, const TSugarak& s, const Allapot& allapot)
     kerek.kor(s.bolygo);
     kerek.kor(s.belso);
     kullok(kerek, s.belso, s.kulso);
-    jegyGyuru(kerek, s, allapot.Rajz.szimbolumFont);
+    jegyGyuru(kerek, s, szimbolumFont);
     jegyHatarok(kerek, s);
     fokSkala(kerek, s);
 }
@@ -179,24 +178,24 @@ void dekadKorok(const TKerek& kerek, int kulso, int toll, int alap) {
 
 }  // namespace
 
-void DekadKerek(const TKerek& kerek, const Allapot& allapot) {
-    const int r = allapot.Rajz.kerekSugar;
-    const std::string& font = allapot.Rajz.szimbolumFont;
+void DekadKerek(const TKerek& kerek, int kerekSugar, const Tomb<std::string, 12>& DekadSzoveg,
+                std::string_view szimbolumFont) {
+    const int r = kerekSugar;
     dekadKorok(kerek, kerekit(0.88 * r), TollVastagsag(2, r), r);
     kullok(kerek, 25, r);
     // Height and offset use different constants, 10 and 12: meant so.
-    kerek.vaszon().Betu(font, kerekit(r / 15.0 + 10));
-    dekadBolygok(kerek, r, kerekit((r / 15.0 + 12) * 0.5), allapot.Uralkodok.DekadSzoveg);
-    dekadJegyek(kerek, r, font);
+    kerek.vaszon().Betu(szimbolumFont, kerekit(r / 15.0 + 10));
+    dekadBolygok(kerek, r, kerekit((r / 15.0 + 12) * 0.5), DekadSzoveg);
+    dekadJegyek(kerek, r, szimbolumFont);
 }
 
-void KisDekadKerek(const TKerek& kerek, int kisSugar, int toll, const Allapot& allapot) {
-    const std::string& font = allapot.Rajz.szimbolumFont;
+void KisDekadKerek(const TKerek& kerek, int kisSugar, int toll, const Tomb<std::string, 12>& DekadSzoveg,
+                   std::string_view szimbolumFont) {
     dekadKorok(kerek, kisSugar, toll, kisSugar);
     const int t = kerekit(1.125 * kisSugar);
     kullok(kerek, 16, t);
     const int u = kerekit(1.1 * t);
-    kerek.vaszon().Betu(font, kerekit(t / 10.5 + 10));
-    dekadBolygok(kerek, u, kerekit((t / 12.5 + 12) * 0.5), allapot.Uralkodok.DekadSzoveg);
-    dekadJegyek(kerek, u, font);
+    kerek.vaszon().Betu(szimbolumFont, kerekit(t / 10.5 + 10));
+    dekadBolygok(kerek, u, kerekit((t / 12.5 + 12) * 0.5), DekadSzoveg);
+    dekadJegyek(kerek, u, szimbolumFont);
 }

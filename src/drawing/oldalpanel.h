@@ -12,7 +12,4 @@ inline constexpr std::array<int, 6> feliratosCsucsok{1, 2, 3, 10, 11, 12};
 std::string helyzetSzoveg(double hossz);
 
 /// The sixteen rows of the side panel from the kept bodies and cusps.
-void OldalPanelIras(Allapot& allapot);
-
-/// The sixteen aspect points of each kept body, degrees, 0..360.
-void FenyszogPontSzamitas(Allapot& allapot);
+void OldalPanelIras(const TBolygok& bolygo, const THazcsucsok& hazCsucs, TPanel& panel);

@@ -6,7 +6,7 @@
 #include "tables/szamtan.h"
 #include "tables/szotar.h"
 
-void RendezettEpites(Tomb<TRendezettSor, 10>& Rendezett, const TBolygok& bolygo, const TMozgasok& mozgas) {
+void RendezettEpites(TRendezett& Rendezett, const TBolygok& bolygo, const TMozgasok& mozgas) {
     for (int i = 1; i <= 10; ++i) {
         const double hossz = bolygo[i];
         const double fok = hossz - 30.0 * egesz(hossz / 30);
@@ -20,19 +20,19 @@ constexpr int legkisebbKoz = 6;  ///< degrees between neighbours
 constexpr double szetlepes = 2;  ///< degrees that each row of a close pair moves
 
 /// Exchange sort: equal longitudes stay in their order.
-void rendezes(Tomb<TRendezettSor, 10>& sorok) {
+void rendezes(TRendezett& sorok) {
     for (int a = 1; a <= 10; ++a)
         for (int b = a; b <= 10; ++b)
             if (sorok[a].rendHossz > sorok[b].rendHossz) std::swap(sorok[a], sorok[b]);
 }
 
-void visszahajtas(Tomb<TRendezettSor, 10>& sorok) {
+void visszahajtas(TRendezett& sorok) {
     for (TRendezettSor& sor : sorok)
         if (sor.rendHossz > 360) sor.rendHossz -= 360;
 }
 
 /// Moves the first neighbours closer than the threshold apart. At the wrap the 360 goes to the row itself.
-bool elsoParSzetlep(Tomb<TRendezettSor, 10>& sorok, int kuszob) {
+bool elsoParSzetlep(TRendezett& sorok, int kuszob) {
     for (int a = 1; a <= 10; ++a) {
         const int b = a == 10 ? 1 : a + 1;
         if (sorok[a].rendHossz > sorok[b].rendHossz) sorok[b].rendHossz += 360;
@@ -47,7 +47,7 @@ bool elsoParSzetlep(Tomb<TRendezettSor, 10>& sorok, int kuszob) {
 
 /// A moment far outside the tables extrapolates to many times the circle; the spreading would take a pass for
 /// each.
-void tavoliakBehajtasa(Tomb<TRendezettSor, 10>& sorok) {
+void tavoliakBehajtasa(TRendezett& sorok) {
     constexpr double szelso = 3600;  // degrees
     for (TRendezettSor& sor : sorok)
         if (std::abs(sor.rendHossz) > szelso) sor.rendHossz = std::fmod(sor.rendHossz, 360);
@@ -55,7 +55,7 @@ void tavoliakBehajtasa(Tomb<TRendezettSor, 10>& sorok) {
 
 }  // namespace
 
-void Szetteritas(Tomb<TRendezettSor, 10>& Rendezett) {
+void Szetteritas(TRendezett& Rendezett) {
     tavoliakBehajtasa(Rendezett);
     int kuszob = 1;
     while (kuszob <= legkisebbKoz) {

@@ -1,21 +1,18 @@
 #include "engine/bolygohelyek.h"
 
 #include "tables/efemerida.h"
-
-namespace {
-constexpr int kor = 1296000;  // arcseconds
-}
+#include "tables/szamtan.h"
 
 double KoztesHossz(std::int32_t x0, std::int32_t x1, double napresz, char mozgas) {
     int d = x1 - x0;
     if (mozgas == 'R') {
-        if (d > 0) d -= kor;
+        if (d > 0) d -= korIvmasodperc;
         const double v = d * napresz + x0;
-        return v <= 0 ? v + kor : v;
+        return v <= 0 ? v + korIvmasodperc : v;
     }
-    if (d < 0) d += kor;
+    if (d < 0) d += korIvmasodperc;
     const double v = d * napresz + x0;
-    return v >= kor ? v - kor : v;
+    return v >= korIvmasodperc ? v - korIvmasodperc : v;
 }
 
 void BolygoHelyek(std::int32_t julianszam, double napresz, TBolygok& Bolygok, TMozgasok& Mozgasok) {

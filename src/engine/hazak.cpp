@@ -7,8 +7,6 @@
 
 namespace {
 
-constexpr int kor = 1296000;        // arcseconds
-constexpr int korPerc = 21600;      // arcminutes
 constexpr int racsMasodperc = 240;  // seconds of sidereal time to a degree of RAMC
 
 /// Houses of the five stored columns.
@@ -22,7 +20,7 @@ constexpr double szemkozt(double csucs) {
 double kozepEg(int i, int j, double dt) {
     const int a = McTabla[static_cast<std::size_t>(i)];
     const int b = McTabla[static_cast<std::size_t>(j)];
-    const int lepes = a > b ? b - a + kor : b - a;
+    const int lepes = a > b ? b - a + korIvmasodperc : b - a;
     return (lepes * dt / racsMasodperc + a) / 3600;
 }
 
@@ -51,7 +49,7 @@ void Hazak(std::int32_t armcOra, std::int32_t armcPerc, double armcMperc, THazcs
         };
         const double a = szelessegre(i);
         double b = szelessegre(j);
-        if (b < a) b += korPerc;
+        if (b < a) b += korIvperc;
         Hazcsucsok[taroltHazak[c]] = ((b - a) * dt / racsMasodperc + a) / 60;
     }
 

@@ -6,26 +6,17 @@
 #include "predictive/solarkereses.h"
 #include "tables/efemerida.h"
 #include "tables/fokperc.h"
-#include "tables/szamtan.h"
+#include "tables/pillanat.h"
 #include "tables/szotar.h"
 #include "tables/szoveg.h"
 
 namespace {
 
-/// The hour in Greenwich and the day number that it falls on.
+/// The event's clock in Greenwich time and the day number that it falls on.
 std::int32_t gmtNap(const TEletesemeny& e, TPillanat& p) {
-    p = {e.ev, e.ho, e.nap, e.ora, e.perc, e.mperc};
-    const int nap = DatumbolJulianszam(p.ev, p.ho, p.nap);
-    p.ora = alsoBitek(std::int64_t{e.ora} - e.idozona - e.nyariIdo);
-    if (p.ora > 23) {
-        p.ora -= 24;
-        return nap + 1;
-    }
-    if (p.ora < 0) {
-        p.ora += 24;
-        return nap - 1;
-    }
-    return nap;
+    p = e.pillanat;
+    const int nap = DatumbolJulianszam(p);
+    return nap + oraEltolas(p, -std::int64_t{e.idozona} - e.nyariIdo);
 }
 
 }  // namespace
@@ -33,7 +24,7 @@ std::int32_t gmtNap(const TEletesemeny& e, TPillanat& p) {
 TPillanat EsemenyGmt(const TEletesemeny& e) {
     TPillanat p;
     const std::int32_t nap = gmtNap(e, p);
-    JulianszambolDatum(nap, p.ev, p.ho, p.nap);
+    JulianszambolDatum(nap, p);
     return p;
 }
 
@@ -41,9 +32,9 @@ namespace {
 
 /// Longitude of the natal Sun, arcseconds.
 double natalisNap(const TSzuletes& sz) {
-    TPillanat p = sz.pillanat;
-    const std::int32_t nap = DatumbolJulianszam(p.ev, p.ho, p.nap);
-    const TCsillagIdo ido = CsillagIdo(nap, p.ora, p.perc, p.mperc, sz.hosszusag, sz.nyariIdo, sz.idozona);
+    const TPillanat& p = sz.pillanat;
+    const TCsillagIdo ido =
+        CsillagIdo(napSzama(p), p.ora, p.perc, p.mperc, sz.hosszusag, sz.nyariIdo, sz.idozona);
     TBolygok bolygok;
     TMozgasok mozgasok;
     BolygoHelyek(ido.julianszam, ido.napresz, bolygok, mozgasok);

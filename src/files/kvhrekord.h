@@ -5,7 +5,7 @@
 #include <span>
 #include <string>
 
-#include "chart/allapot.h"
+#include "tables/pillanat.h"
 
 /// The record of a chart file: 628 bytes, little endian, texts in code page 1250 with a length byte before
 /// them.

@@ -5,6 +5,7 @@
 #include "predictive/natalis.h"
 #include "predictive/solarkereses.h"
 #include "tables/efemerida.h"
+#include "tables/pillanat.h"
 #include "tables/szotar.h"
 
 namespace {
@@ -32,8 +33,7 @@ std::string IngresszioKeres(Allapot& allapot, const TPillanat& szuletes, const T
                             const std::string& helyseg) {
     NatalisBolygok(allapot, szuletes, helyseg);
     TKeplet& k = allapot.Keplet;
-    TPillanat p = esemeny;
-    const int esemenyNap = DatumbolJulianszam(p.ev, p.ho, p.nap);
+    const int esemenyNap = napSzama(esemeny);
     const TSolar solar = SolarKereses(k.Bolygok[1] * 3600, esemenyNap - julianszamAlap);
     const int solarNap = solar.napsorszam + julianszamAlap;
 

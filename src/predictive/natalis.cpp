@@ -2,12 +2,11 @@
 
 #include "chart/kepletciklus.h"
 #include "engine/bolygohelyek.h"
-#include "tables/efemerida.h"
 
 void NatalisBolygok(Allapot& allapot, const TPillanat& pillanat, const std::string& helyseg) {
     TKeplet& k = allapot.Keplet;
     const std::string kepernyoHely = k.helyseg;
-    k.pillanat(pillanat);
+    k.pillanat = pillanat;
     k.helyseg = helyseg;
     DatumRendezes(k);
     IdoAdatok(allapot);

@@ -8,6 +8,7 @@
 #include "predictive/solarkereses.h"
 #include "tables/efemerida.h"
 #include "tables/haztablak.h"
+#include "tables/pillanat.h"
 #include "tables/szamtan.h"
 #include "tables/szotar.h"
 
@@ -53,13 +54,7 @@ double FerdeToEkl(const TFerdeTabla& FerdeTabla, double t, int utolsoOszlop) {
     return 60.0 * (c - 1) + 60 * (t - also) / (felso - also);
 }
 
-THatar iranyAblak(double x, double felSzelesseg) {
-    const double also = x - felSzelesseg;
-    const double felso = x + felSzelesseg;
-    return {also < 0 ? also + 360 : also, felso >= 360 ? felso - 360 : felso};
-}
-
-bool PontTalalat(double p, const THatar& h) {
+bool PontTalalat(double p, const TOrbisAblak& h) {
     if (h.also <= h.felso) return h.also <= p && p <= h.felso;
     return !(h.felso <= p && p <= h.also);
 }
@@ -67,7 +62,7 @@ bool PontTalalat(double p, const THatar& h) {
 std::array<double, iranyOszlopok> IranyitottPontok(double rektMC, double iv, const TFerdeTabla& FerdeTabla,
                                                    int utolsoOszlop) {
     const auto aszcendens = [&](double rekt) {
-        const double t = rekt + 5400 >= 21600 ? rekt - 16200 : rekt + 5400;
+        const double t = rekt + 5400 >= korIvperc ? rekt - 16200 : rekt + 5400;
         return FerdeToEkl(FerdeTabla, t, utolsoOszlop) / 60;
     };
     const double direkt = rektKorbe(rektMC + iv);
@@ -88,11 +83,8 @@ namespace {
 constexpr int futasNapjai = 3661;
 constexpr std::size_t legtobbSor = 22;
 
-/// Blanks before each column's text.
-constexpr std::array<std::size_t, iranyOszlopok> oszlopKoz{5, 20, 32, 46};
-
 /// Points of one column that lie in the window, as letter pairs.
-std::string oszlopSzoveg(const Matrix<double, 10, 16>& pontok, const THatar& hatar) {
+std::string oszlopSzoveg(const TFenyszogPontok& pontok, const TOrbisAblak& hatar) {
     std::string szoveg;
     for (int i = 1; i <= 10; ++i)
         for (int j = 1; j <= 16; ++j)
@@ -103,17 +95,17 @@ std::string oszlopSzoveg(const Matrix<double, 10, 16>& pontok, const THatar& hat
 std::string sorSzoveg(const TKeplet& k, std::int32_t julianszam, std::size_t oszlop,
                       const std::string& szoveg) {
     TPillanat p;
-    JulianszambolDatum(julianszam, p.ev, p.ho, p.nap);
+    JulianszambolDatum(julianszam, p);
     const int haz = SolarHaz(k.bolygo, julianszam, k.hosszusag, k.szelesseg);
     const std::string_view jel = haz >= 1 && haz <= 12 ? HazCimkeSzimbolum[haz] : std::string_view{};
-    return datumSzoveg(p).append("   ").append(jel).append(oszlopKoz[oszlop], ' ').append(szoveg);
+    return datumSzoveg(p).append("   ").append(jel).append(PrimerOszlopKoz[oszlop], ' ').append(szoveg);
 }
 
 }  // namespace
 
-std::vector<std::string> PrimerFutas(const Allapot& allapot, TPillanat kezdo) {
+std::vector<std::string> PrimerFutas(const Allapot& allapot, const TPillanat& kezdo) {
     const TKeplet& k = allapot.Keplet;
-    const int elso = DatumbolJulianszam(kezdo.ev, kezdo.ho, kezdo.nap) - k.julianszam;
+    const int elso = napSzama(kezdo) - k.julianszam;
     const double rektMC = EklToRekt(k.hazCsucs[10] * 60);
     const TFerdeTabla ferde = FerdeSor(k.szelesseg);
     constexpr double felSzelesseg = PrimerKulcs / 7200 + 0.001;  // degrees
@@ -124,7 +116,7 @@ std::vector<std::string> PrimerFutas(const Allapot& allapot, TPillanat kezdo) {
         const auto pontok = IranyitottPontok(rektMC, d * PrimerKulcs / 60, ferde, 359);
         for (std::size_t oszlop = 0; oszlop < pontok.size(); ++oszlop) {
             std::string szoveg =
-                oszlopSzoveg(allapot.Rajz.FenyszogPontok, iranyAblak(pontok[oszlop], felSzelesseg));
+                oszlopSzoveg(allapot.Rajz.FenyszogPontok, OrbisAblak(pontok[oszlop], felSzelesseg));
             if (szoveg.empty() || szoveg == utolso[oszlop]) continue;
             sorok.push_back(sorSzoveg(k, k.julianszam + d, oszlop, szoveg));
             utolso[oszlop] = std::move(szoveg);

@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "chart/allapot.h"
+#include "predictive/orbisablak.h"
+#include "tables/szamtan.h"
 
 /// Primary directions, and the routines on the equator that rectification uses too.
 
@@ -31,18 +33,12 @@ double FerdeToEkl(const TFerdeTabla& FerdeTabla, double t, int utolsoOszlop);
 
 /// A sum on the equator brought into 0..21600 arcminutes by one turn.
 constexpr double rektKorbe(double x) {
-    return x >= 21600 ? x - 21600 : x < 0 ? x + 21600 : x;
+    return x >= korIvperc ? x - korIvperc : x < 0 ? x + korIvperc : x;
 }
-
-/// Window around a directed point, degrees, each end brought into the circle.
-struct THatar {
-    double also, felso;
-};
-THatar iranyAblak(double x, double felSzelesseg);
 
 /// Whether an aspect point lies in the window. A window that spans 0 leaves out a point exactly on its lower
 /// end, a plain one does not: meant so.
-bool PontTalalat(double p, const THatar& hatar);
+bool PontTalalat(double p, const TOrbisAblak& ablak);
 
 /// The four directed points, in the order of the columns.
 enum IranyOszlop { dMC = 0, cMC = 1, dAsc = 2, cAsc = 3 };
@@ -60,5 +56,8 @@ std::array<double, iranyOszlopok> IranyitottPontok(double rektMC, double iv, con
 int SolarHaz(const TBolygok& bolygok, std::int32_t julianszam, std::int32_t hosszusag,
              std::int32_t szelesseg);
 
+/// Blanks before each column's text in a line of the list.
+inline constexpr std::array<std::size_t, iranyOszlopok> PrimerOszlopKoz{5, 20, 32, 46};
+
 /// The list from a start date on: ten years, at most 22 lines.
-std::vector<std::string> PrimerFutas(const Allapot& allapot, TPillanat kezdo);
+std::vector<std::string> PrimerFutas(const Allapot& allapot, const TPillanat& kezdo);

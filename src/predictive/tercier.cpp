@@ -4,7 +4,8 @@
 #include "engine/hazak.h"
 #include "engine/uralkodok.h"
 #include "predictive/natalis.h"
-#include "tables/efemerida.h"
+#include "predictive/orbisablak.h"
+#include "tables/pillanat.h"
 #include "tables/szamtan.h"
 #include "tables/szotar.h"
 
@@ -14,20 +15,11 @@ namespace {
 constexpr Tomb<std::string_view, 12> TercierHazSzemben{
     {"VII", "8", "9", "X", "11", "12", "I", "2", "3", "IV", "5", "6"}};
 
-/// Bounds of an orb, degrees; `also` above `felso` where the window spans 0.
-struct TAblak {
-    double also, felso;
-
-    bool benne(double d) const {
-        if (also >= felso) return (also <= d && d < 360) || (0 <= d && d <= felso);
-        return also <= d && d <= felso;
-    }
-};
-
-TAblak ablak(double hely, double orb) {
-    const double also = hely - orb;
-    const double felso = hely + orb;
-    return {also < 0 ? also + 360 : also, felso >= 360 ? felso - 360 : felso};
+/// Both ends count, also where the window spans 0: the tertiary search includes the lower end there, while
+/// `PontTalalat` of the primary directions leaves it out.
+bool benne(const TOrbisAblak& a, double d) {
+    if (a.also >= a.felso) return (a.also <= d && d < 360) || (0 <= d && d <= a.felso);
+    return a.also <= d && d <= a.felso;
 }
 
 /// The directed place: 360 is added once where the arc leads below 0; more is not reduced.
@@ -43,10 +35,6 @@ std::string jegyesBolygo(const TBolygok& lon, int i) {
     return std::string(jegyBetu(egesz(lon[i] / 30) + 1)) + bolygoJel[i];
 }
 
-int napSzam(TPillanat p) {
-    return DatumbolJulianszam(p.ev, p.ho, p.nap);
-}
-
 /// Everything that the directed body j meets.
 struct TTalalatok {
     std::string jelek, hazak;
@@ -59,11 +47,11 @@ TTalalatok talalatok(const TKeplet& k, double orb, double iv, int j) {
     for (int i = 1; i <= 10; ++i) {
         if (i == j) continue;
         const double szemben = lon[i] + 180 >= 360 ? lon[i] - 180 : lon[i] + 180;
-        if (ablak(lon[i], orb).benne(d)) {
+        if (benne(OrbisAblak(lon[i], orb), d)) {
             t.jelek += 'M' + jegyesBolygo(lon, i);
             t.hazak.append("-").append(hazCimke(HazCimkeRovid, k.BolygoHazak[i]));
         }
-        if (ablak(szemben, orb).benne(d)) {
+        if (benne(OrbisAblak(szemben, orb), d)) {
             t.jelek += 'W' + jegyesBolygo(lon, i);
             t.hazak.append("-").append(hazCimke(TercierHazSzemben, k.BolygoHazak[i]));
         }
@@ -82,7 +70,7 @@ TTercier TercierKeres(Allapot& allapot, const TPillanat& szuletes, const TPillan
     HazBesorolas(k.Bolygok, k.Hazcsucsok, k.BolygoHazak);
 
     const auto orb = static_cast<double>(TercierKulcs * orbisNap);
-    const auto iv = static_cast<double>(TercierKulcs * (napSzam(esemeny) - napSzam(szuletes)));
+    const auto iv = static_cast<double>(TercierKulcs * (napSzama(esemeny) - napSzama(szuletes)));
 
     TTercier ki;
     for (int j = 1; j <= 10; ++j) {

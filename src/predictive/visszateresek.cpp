@@ -1,21 +1,20 @@
 #include "predictive/visszateresek.h"
 
-#include <algorithm>
-
 #include "chart/kepletciklus.h"
 #include "chart/kepletmutatas.h"
 #include "chart/statuszsor.h"
 #include "engine/bolygohelyek.h"
 #include "engine/csillagido.h"
 #include "engine/hazak.h"
+#include "predictive/athaladas.h"
 #include "tables/efemerida.h"
 #include "tables/nyariido.h"
+#include "tables/pillanat.h"
 #include "tables/szamtan.h"
 #include "tables/telepulesek.h"
 
 namespace {
 
-constexpr double kor = 1296000;           // arcseconds
 constexpr int utolsoKeresettSor = 65000;  ///< the search stops after the first day above it
 constexpr int egyIvperc = 60;             ///< arcseconds added to both coordinates of a derived chart
 
@@ -38,14 +37,14 @@ TVisszateresFajta PersonarFajta(int fajta) {
 
 TPillanat VisszateresKezdo(const Allapot& allapot) {
     TPillanat p = allapot.RadixPillanat;
-    JulianszambolDatum(DatumbolJulianszam(p.ev, p.ho, p.nap) - 1, p.ev, p.ho, p.nap);
+    JulianszambolDatum(napSzama(p) - 1, p);
     return p;
 }
 
 double VisszateresCel(Allapot& allapot, const TVisszateresFajta& fajta) {
     TKeplet& k = allapot.Keplet;
     TPillanat p = allapot.RadixPillanat;
-    k.julianszam = DatumbolJulianszam(p.ev, p.ho, p.nap);
+    k.julianszam = DatumbolJulianszam(p);
     k.nyariIdo = NyariIdoE(k.julianszam, p.ora, p.perc, p.mperc);
     CsillagIdo(p.ora, p.perc, p.mperc, k.napresz, k.julianszam, k.hosszusag, k.armcMperc, k.armcPerc,
                k.armcOra, k.nyariIdo, k.idozona);
@@ -58,32 +57,23 @@ double VisszateresCel(Allapot& allapot, const TVisszateresFajta& fajta) {
 
 namespace {
 
-/// Whether the step of a direct day from a to b holds t.
+/// Whether a direct day's step from a to b holds t. A day without a step holds any: the table gives the slow
+/// bodies to the minute of arc, and the lists name each day on which they stand.
 bool direktTalalat(double a, double b, double t) {
-    if (a < b) return a <= t && t < b;
-    if (a == b) return true;
-    return (a <= t && t < 360) || (t >= 0 && t < b);
-}
-
-double direktResz(double a, double b, double t) {
-    const double ut = (b <= a ? b + kor : b) - a;
-    const double megtett = (t <= a ? t + kor : t) - a;
-    return megtett / ut;
+    return a == b || NapiLepesben(a, b, t);
 }
 
 double retrogradResz(double a, double b, double t) {
-    const double ut = (a <= b ? a + kor : a) - b;
-    const double megtett = t < a ? a - t : a + kor - t;
+    const double ut = (a <= b ? a + korIvmasodperc : a) - b;
+    const double megtett = t < a ? a - t : a + korIvmasodperc - t;
     return megtett / ut;
 }
 
 TVisszateres talalat(int napsorszam, double resz, char mozgas) {
     TVisszateres v;
     const TEfemeridaNap& nap = Efemerida[napsorszam];
-    const double s = resz * 86400;
-    const int ora = egesz(s / 3600);
-    const int perc = egesz((s - ora * 3600.0) / 60);
-    v.pillanat = {nap.ev, nap.ho, nap.nap, ora, perc, egesz(s - perc * 60.0 - ora * 3600.0)};
+    const TNapszak ido = napszak(resz);
+    v.pillanat = {nap.ev, nap.ho, nap.nap, ido.ora, ido.perc, ido.mperc};
     v.mozgas = mozgas;
     return v;
 }
@@ -93,16 +83,15 @@ TVisszateres talalat(int napsorszam, double resz, char mozgas) {
 void VisszateresKereses(Allapot& allapot, const TVisszateresFajta& fajta, double cel) {
     TVisszateresek& v = allapot.Visszateresek;
     v.szamlalo = 0;
-    TPillanat kezdo = VisszateresKezdo(allapot);
     const auto oszlop = efemeridaOszlopok[static_cast<std::size_t>(fajta.bolygo - 1)];
-    int nap = DatumbolJulianszam(kezdo.ev, kezdo.ho, kezdo.nap) - julianszamAlap;
+    int nap = napSzama(VisszateresKezdo(allapot)) - julianszamAlap;
     while (v.szamlalo < fajta.legfeljebb) {
         const TEfemeridaNap& ma = Efemerida[nap];
         const double a = ma.*oszlop;
         const double b = Efemerida[nap + 1].*oszlop;
         const char f = fajta.bolygo <= 2 ? 'D' : ma.mozgas[static_cast<std::size_t>(fajta.bolygo - 3)];
         if (f == 'D' && direktTalalat(a, b, cel))
-            v.sorok[++v.szamlalo] = talalat(nap, direktResz(a, b, cel), f);
+            v.sorok[++v.szamlalo] = talalat(nap, NapiResz(a, b, cel), f);
         else if (f == 'R' && direktTalalat(b, a, cel))
             v.sorok[++v.szamlalo] = talalat(nap, retrogradResz(a, b, cel), f);
         if (nap > utolsoKeresettSor) return;
@@ -124,17 +113,10 @@ namespace {
 
 /// The moment of a row, from Greenwich time to the place's zone.
 void zonaIdo(TKeplet& k, const TPillanat& gmt) {
-    k.pillanat(gmt);
-    k.julianszam = DatumbolJulianszam(k.ev, k.ho, k.nap);
-    k.ora = alsoBitek(std::int64_t{k.ora} + k.idozona);
-    if (k.ora > 23) {
-        k.ora -= 24;
-        ++k.julianszam;
-    } else if (k.ora < 0) {
-        k.ora += 24;
-        --k.julianszam;
-    }
-    JulianszambolDatum(k.julianszam, k.ev, k.ho, k.nap);
+    k.pillanat = gmt;
+    k.julianszam = DatumbolJulianszam(k.pillanat);
+    k.julianszam += oraEltolas(k.pillanat, k.idozona);
+    JulianszambolDatum(k.julianszam, k.pillanat);
 }
 
 }  // namespace
@@ -145,7 +127,7 @@ void VisszateresKeplet(Allapot& allapot, FoAblak& ablak, const TVisszateresFajta
     TFeliratok& f = allapot.Feliratok;
     f.mostGomb = "Vissza";
     f.statusz[panelTipus] = fajta.cim.rovid;
-    allapot.KepletTipus = 1;
+    allapot.KepletTipus = TKepletTipus::radix;
     allapot.helysegMentett = k.helyseg;
     k.helyseg = helyseg;
     allapot.VisszaMod = true;
@@ -154,10 +136,10 @@ void VisszateresKeplet(Allapot& allapot, FoAblak& ablak, const TVisszateresFajta
     TelepulesKeres(k.helyseg, k.idozona, k.szelesseg, k.hosszusagJel, k.szelessegJel, k.hosszusag);
     zonaIdo(k, allapot.Visszateresek.sorok[sor].pillanat);
 
-    CsillagIdo(k.ora, k.perc, k.mperc, k.napresz, k.julianszam,
+    CsillagIdo(k.pillanat.ora, k.pillanat.perc, k.pillanat.mperc, k.napresz, k.julianszam,
                alsoBitek(std::int64_t{k.hosszusag} + egyIvperc), k.armcMperc, k.armcPerc, k.armcOra,
                k.nyariIdo, k.idozona);
-    IrStatuszSor(allapot, k.pillanat(), "ZN");
+    IrStatuszSor(allapot, k.pillanat, TIdoTipus::ZN);
     f.memo = allapot.Szemely.jegyzet;
 
     Hazak(k.armcOra, k.armcPerc, k.armcMperc, k.Hazcsucsok, alsoBitek(std::int64_t{k.szelesseg} + egyIvperc));

@@ -1,27 +1,17 @@
 #include "rectify/mundankereses.h"
 
-#include <string>
-
 #include "chart/kepletciklus.h"
 #include "chart/statuszsor.h"
 #include "commands/lepteto.h"
 #include "tables/efemerida.h"
-#include "tables/nyariido.h"
-#include "tables/szoveg.h"
+#include "tables/pillanat.h"
 #include "tables/telepulesek.h"
 
 namespace {
 
 constexpr int durvaLepes = 30;   ///< seconds
 constexpr int visszaUgras = 31;  ///< from the change back, so that one step of 1 gives the last coarse moment
-constexpr int cimHossz = 20;     ///< characters of the stepper's title
-constexpr int elsoNap = 2415020;  ///< first and last day that a search may reach: a chart reads two rows
-constexpr int utolsoNap = 2480554;
-
-/// Day of the clock for a date.
-std::int32_t helyiNap(TPillanat p) {
-    return DatumbolJulianszam(p.ev, p.ho, p.nap);
-}
+constexpr int utolsoKeresettNap = utolsoNap - 1;  ///< a chart reads the row of the next day too
 
 void ertekeles(std::int32_t nap, const TPillanat& p, const TMundanHely& hely, const TOrbisTabla& orbis,
                TMundanErtekeles& e) {
@@ -35,8 +25,7 @@ TMundanHely MundanHely(const TKeplet& k) {
     TTelepules t{};
     TelepulesKeres(k.helyseg, t.idozona, t.szelesseg, t.hosszusagJel, t.szelessegJel, t.hosszusag);
     const bool tablabol = t.idozona == k.idozona && t.szelesseg == k.szelesseg &&
-                          t.hosszusag == k.hosszusag &&
-                          k.nyariIdo == NyariIdoE(helyiNap(k.pillanat()), k.ora, k.perc, k.mperc);
+                          t.hosszusag == k.hosszusag && k.nyariIdo == NyariIdoE(k.pillanat);
     TMundanHely hely{k.idozona, k.szelesseg, k.hosszusag};
     if (!tablabol) hely.nyariIdo = k.nyariIdo;
     return hely;
@@ -44,25 +33,25 @@ TMundanHely MundanHely(const TKeplet& k) {
 
 TMundanErtekeles MundanErtekeles(const Allapot& allapot, const TMundanHely& hely) {
     TMundanErtekeles e;
-    const TPillanat p = allapot.Keplet.pillanat();
-    ertekeles(helyiNap(p), p, hely, allapot.OrbisTabla, e);
+    const TPillanat p = allapot.Keplet.pillanat;
+    ertekeles(napSzama(p), p, hely, allapot.OrbisTabla, e);
     return e;
 }
 
 void MundanNyitas(Allapot& allapot) {
-    allapot.Feliratok.leptetoCim = elsoKarakterek(allapot.Feliratok.statusz[panelIdo], cimHossz);
+    LeptetoCimIras(allapot.Feliratok);
     allapot.AktivHaz = 1;
-    allapot.MhpKezdoPillanat = allapot.Keplet.pillanat();
+    allapot.MhpKezdoPillanat = allapot.Keplet.pillanat;
     allapot.MundanAblakNyitva = true;
 }
 
 TMundanErtekeles MundanKereses(Allapot& allapot, const TMundanHely& hely, int irany) {
     TKeplet& k = allapot.Keplet;
-    TPillanat p = k.pillanat();
-    std::int32_t nap = helyiNap(p);
+    TPillanat p = k.pillanat;
+    std::int32_t nap = napSzama(p);
     const auto lep = [&](int masodperc) {
         nap += IdoLeptetes(p, LepesMezo::mperc, irany * masodperc);
-        JulianszambolDatum(nap, p.ev, p.ho, p.nap);
+        JulianszambolDatum(nap, p);
     };
 
     TMundanErtekeles e;
@@ -74,7 +63,7 @@ TMundanErtekeles MundanKereses(Allapot& allapot, const TMundanHely& hely, int ir
     while (!vege) {
         lep(lepes);
         ertekeles(nap, p, hely, allapot.OrbisTabla, e);
-        vege = nap < elsoNap || nap > utolsoNap;
+        vege = nap < elsoNap || nap > utolsoKeresettNap;
         if (vege || e.analogiak.AnalogiaAllapot == kezdo) continue;
         if (lepes == 1) {
             vege = true;
@@ -83,7 +72,7 @@ TMundanErtekeles MundanKereses(Allapot& allapot, const TMundanHely& hely, int ir
             lep(-visszaUgras);
         }
     }
-    k.pillanat(p);
+    k.pillanat = p;
     k.julianszam = nap;
     allapot.MundanFrissites = true;
     allapot.Feliratok.leptetoCim.clear();
@@ -91,7 +80,7 @@ TMundanErtekeles MundanKereses(Allapot& allapot, const TMundanHely& hely, int ir
 }
 
 void MundanVissza(Allapot& allapot) {
-    allapot.Keplet.pillanat(allapot.MhpKezdoPillanat);
+    allapot.Keplet.pillanat = allapot.MhpKezdoPillanat;
     DatumRendezes(allapot.Keplet);
     allapot.MundanFrissites = true;
 }

@@ -7,6 +7,7 @@
 #include "tables/efemerida.h"
 #include "tables/fokperc.h"
 #include "tables/haztablak.h"
+#include "tables/pillanat.h"
 #include "tables/szamtan.h"
 #include "tables/szotar.h"
 #include "tables/szoveg.h"
@@ -78,7 +79,7 @@ struct TFutas {
 /// One column of one event: the cells of all hits, and behind each body's cells its candidate time.
 /// @param[in,out] idok  the event's line of candidate times
 std::string oszlop(const TFutas& futas, IranyOszlop nev, double x, double iv, std::string& idok) {
-    const THatar hatar = iranyAblak(x, futas.hatotav);
+    const TOrbisAblak hatar = OrbisAblak(x, futas.hatotav);
     std::string talalatok;
     for (int i = 1; i <= 10; ++i) {
         std::string bt;
@@ -99,13 +100,12 @@ std::string oszlop(const TFutas& futas, IranyOszlop nev, double x, double iv, st
 
 void esemenySorok(const TFutas& futas, int e, TPontositas& lista) {
     const TEletesemeny& esemeny = futas.allapot.Esemenyek.esemenyek[e];
-    TPillanat p{esemeny.ev, esemeny.ho, esemeny.nap, 0, 0, 0};
     std::string sor1 = std::to_string(e);
     std::string sor3 = std::to_string(e).append(". ");
-    sor1.append(". ").append(datumSzoveg(p)).append(" ").append(esemeny.esemeny);
+    sor1.append(". ").append(datumSzoveg(esemeny.pillanat)).append(" ").append(esemeny.esemeny);
 
     const TKeplet& k = futas.allapot.Keplet;
-    const std::int32_t nap = DatumbolJulianszam(p.ev, p.ho, p.nap);
+    const std::int32_t nap = napSzama(esemeny.pillanat);
     const int haz = SolarHaz(k.bolygo, nap, ivmasodpercre(esemeny.hosszFok, esemeny.hosszPerc),
                              ivmasodpercre(esemeny.szelFok, esemeny.szelPerc));
     std::string sor2(haz >= 1 ? HazCimkeSzimbolum[haz] : std::string_view{});

@@ -39,6 +39,10 @@ inline constexpr int efemeridaSorok = 65536;
 /// `julianszam` less `napsorszam`: 2415020 is 1900-01-01, row 1.
 inline constexpr int julianszamAlap = 2415019;
 
+/// First and last day of the table.
+inline constexpr int elsoNap = julianszamAlap + 1;
+inline constexpr int utolsoNap = julianszamAlap + efemeridaSorok;
+
 /// The daily table, rows 1 (1900-01-01) to 65536 (2079-06-06).
 /// Row 0 and row 65537 are copies of rows 1 and 65536, and so is every row beyond them,
 /// since charts at the table's ends read one row past it.

@@ -25,6 +25,10 @@ constexpr int kormaradek(std::int64_t a, int b) {
     return m < 0 ? m + b : m;
 }
 
+/// The full circle.
+inline constexpr int korIvmasodperc = 1296000;
+inline constexpr int korIvperc = 21600;
+
 /// Keeps the low 32 bits of a sum that input beyond all dialogs' ranges may carry over int32.
 constexpr std::int32_t alsoBitek(std::int64_t x) {
     return static_cast<std::int32_t>(x);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <string_view>
 
 #include "tables/tomb.h"
@@ -68,6 +70,20 @@ inline constexpr Tomb<TCim, 7> revolucioCimek{{{{"Szolár", "Szolár"},
                                                 {"Mars revolució", "Mars rev"},
                                                 {"Jupiter revolució", "Jupi rev"},
                                                 {"Szaturnusz revolució", "Satu rev"}}}};
+
+/// Kinds of clock: zone time, local mean time, Greenwich mean time; in the order of the dialogs.
+enum class TIdoTipus { ZN, LMT, GMT };
+inline constexpr std::array<std::string_view, 3> idoTipusok{"ZN", "LMT", "GMT"};
+constexpr std::string_view idoTipusSzoveg(TIdoTipus tipus) {
+    return idoTipusok[static_cast<std::size_t>(tipus)];
+}
+
+/// Faces. A symbol font file's base name is its face name.
+inline constexpr std::string_view sajatSzimbolumFont = "Astro Symbols";
+inline constexpr std::string_view potSzimbolumFont = "AstroMidget Bold";
+/// Spelled so: no system has a face of this name, so each falls back to the one that it puts in its place.
+inline constexpr std::string_view szovegFont = "Ariel";
+inline constexpr std::string_view mozgasFont = "Times New Roman";
 
 /// The program's contact line: title in the Dekád view, foot of the printed page.
 inline constexpr std::string_view kapcsolatSor = "Korvend – asztrológiai képletrajzoló";

@@ -6,7 +6,7 @@
 #include <QFontDatabase>
 #include <QStandardPaths>
 
-#include "drawing/betutipus.h"
+#include "tables/szotar.h"
 #include "windows/qszoveg.h"
 
 namespace {

@@ -166,12 +166,12 @@ TEletesemeny TForm10::mezok() const {
     TEletesemeny e;
     e.esemeny = szoveg(esemeny_->text());
     e.analogia = AnalogiaElemzes(szoveg(analogia_->text())).szoveg;
-    e.ev = ev_->value();
-    e.ho = ho_->value();
-    e.nap = nap_->value();
-    e.ora = ora_->value();
-    e.perc = perc_->value();
-    e.mperc = mperc_->value();
+    e.pillanat.ev = ev_->value();
+    e.pillanat.ho = ho_->value();
+    e.pillanat.nap = nap_->value();
+    e.pillanat.ora = ora_->value();
+    e.pillanat.perc = perc_->value();
+    e.pillanat.mperc = mperc_->value();
     e.helyseg = szoveg(helyseg_->currentText());
     e.idozona = idozona_->value();
     e.nyariIdo = nyariIdo_->value();
@@ -186,12 +186,12 @@ void TForm10::mezokMutatasa(const TEletesemeny& e) {
     esemeny_->setText(qszoveg(e.esemeny));
     analogia_->setText(qszoveg(e.analogia));
     helyseg_->setEditText(qszoveg(e.helyseg));
-    ev_->setValue(e.ev);
-    ho_->setValue(e.ho);
-    nap_->setValue(e.nap);
-    ora_->setValue(e.ora);
-    perc_->setValue(e.perc);
-    mperc_->setValue(e.mperc);
+    ev_->setValue(e.pillanat.ev);
+    ho_->setValue(e.pillanat.ho);
+    nap_->setValue(e.pillanat.nap);
+    ora_->setValue(e.pillanat.ora);
+    perc_->setValue(e.pillanat.perc);
+    mperc_->setValue(e.pillanat.mperc);
     idozona_->setValue(e.idozona);
     nyariIdo_->setValue(e.nyariIdo);
     hosszFok_->setValue(e.hosszFok);
@@ -234,7 +234,7 @@ void TForm10::ComboBoxHelyseg1Change() {
     hosszPerc_->setValue(fokPercre(hely.hosszusag).perc);
     szelFok_->setValue(fokPercre(hely.szelesseg).fok);
     szelPerc_->setValue(fokPercre(hely.szelesseg).perc);
-    nyariIdo_->setValue(allapot_.Szemely.idoTipus == "ZN" ? tablaNyariIdo() : 0);
+    nyariIdo_->setValue(allapot_.Szemely.idoTipus == TIdoTipus::ZN ? tablaNyariIdo() : 0);
 }
 
 int TForm10::tablaNyariIdo() const {

@@ -41,7 +41,7 @@ Allapot minta(int esemenyek = 0) {
     a.Szemely.nev = "Őrző Árpád";
     a.Szemely.jegyzet = "jegyzet űŰ";
     a.Szemely.hangJel = "H";
-    a.Keplet.pillanat({1975, 3, 21, 6, 4, 9});
+    a.Keplet.pillanat = {1975, 3, 21, 6, 4, 9};
     a.Keplet.helyseg = "Szeged";
     a.Keplet.hosszusag = 72586;
     a.Keplet.szelesseg = 166497;
@@ -51,7 +51,7 @@ Allapot minta(int esemenyek = 0) {
         TEletesemeny& e = a.Esemenyek.esemenyek[i];
         e.esemeny = "esemény " + std::to_string(i);
         e.analogia = "I,7";
-        e.ev = 1980 + i;
+        e.pillanat.ev = 1980 + i;
         e.helyseg = "Pécs";
         e.hosszFok = -18;
         e.hosszPerc = -14;
@@ -152,14 +152,14 @@ TEST_F(TKvh, AMentettKepletVisszaolvasva) {
     EXPECT_EQ(b.Szemely.nev, a.Szemely.nev);
     EXPECT_EQ(b.Szemely.jegyzet, a.Szemely.jegyzet);
     EXPECT_EQ(b.Szemely.hangJel, "H");
-    EXPECT_EQ(b.Keplet.pillanat(), a.Keplet.pillanat());
+    EXPECT_EQ(b.Keplet.pillanat, a.Keplet.pillanat);
     EXPECT_EQ(b.Keplet.hosszusag, 72586);
     EXPECT_EQ(b.Keplet.idozona, -1);
     EXPECT_EQ(b.Keplet.nyariIdo, 1);
     EXPECT_EQ(b.Esemenyek.EsemenyDb, 3);
     for (int i = 1; i <= 3; ++i) EXPECT_EQ(b.Esemenyek.esemenyek[i], a.Esemenyek.esemenyek[i]);
-    EXPECT_EQ(b.RadixPillanat, a.Keplet.pillanat());
-    EXPECT_EQ(b.SzuletesiPillanat, a.Keplet.pillanat());
+    EXPECT_EQ(b.RadixPillanat, a.Keplet.pillanat);
+    EXPECT_EQ(b.SzuletesiPillanat, a.Keplet.pillanat);
     EXPECT_EQ(b.Feliratok.memo, a.Szemely.jegyzet);
     EXPECT_EQ(b.Szemely.jegyzetMentett, a.Szemely.jegyzet);
     EXPECT_EQ(b.Feliratok.statusz[panelNev], "Őrző Árpád ");
@@ -172,26 +172,26 @@ TEST_F(TKvh, AMentettKepletVisszaolvasva) {
 
 TEST_F(TKvh, AHelyiKozepidobenGepeltKepletZonaIdobenJonVissza) {
     Allapot a = minta();
-    a.Szemely.idoTipus = "LMT";
+    a.Szemely.idoTipus = TIdoTipus::LMT;
     ASSERT_FALSE(KepletMentes(a, fajl()));
     Allapot b;
-    b.Szemely.idoTipus = "LMT";
+    b.Szemely.idoTipus = TIdoTipus::LMT;
     b.Szemely.idoTipusIndex = 1;
     TProbaAblak ablak;
     ASSERT_FALSE(KepletMegnyitas(b, ablak, fajl(), [] {}));
-    EXPECT_EQ(b.Szemely.idoTipus, "ZN");
+    EXPECT_EQ(b.Szemely.idoTipus, TIdoTipus::ZN);
     EXPECT_EQ(b.Szemely.idoTipusIndex, 1);
 }
 
 TEST_F(TKvh, FebruarHarmincegyEgyUgyAllAPanelben) {
     Allapot a = minta();
-    a.Keplet.pillanat({1999, 2, 31, 6, 4, 9});
+    a.Keplet.pillanat = {1999, 2, 31, 6, 4, 9};
     ASSERT_FALSE(KepletMentes(a, fajl()));
     TProbaAblak ablak;
     ASSERT_FALSE(KepletMegnyitas(a, ablak, fajl(), [] {}));
     EXPECT_EQ(a.Feliratok.statusz[panelIdo], "1999.02.31. 06:04:09 ZN");
-    EXPECT_EQ(a.Keplet.ho, 3);
-    EXPECT_EQ(a.Keplet.nap, 3);
+    EXPECT_EQ(a.Keplet.pillanat.ho, 3);
+    EXPECT_EQ(a.Keplet.pillanat.nap, 3);
 }
 
 TEST_F(TKvh, KevesebbEsemenyMogottARegiekMegmaradnak) {
@@ -263,7 +263,7 @@ TEST_F(TKvh, HibaUtanAMarOlvasottMarad) {
     ASSERT_TRUE(KepletMegnyitas(a, ablak, fajl(), [] {}));
     EXPECT_EQ(a.Szemely.nev, "Őrző Árpád");
     EXPECT_EQ(a.Esemenyek.esemenyek[1].esemeny, "esemény 1");
-    EXPECT_NE(a.Keplet.pillanat(), (TPillanat{1975, 3, 21, 6, 4, 9}));
+    EXPECT_NE(a.Keplet.pillanat, (TPillanat{1975, 3, 21, 6, 4, 9}));
 }
 
 TEST_F(TKvh, MappaEsHianyzoFajl) {
@@ -296,8 +296,8 @@ TEST_F(TKvh, AmitAProgramIrUgyanazJonVissza) {
         a.Szemely.jegyzet = szoveg(255);
         a.Szemely.hangJel = szoveg(255);
         a.Keplet.helyseg = szoveg(32);
-        a.Keplet.pillanat(
-            {szam(1900, 2068), szam(1, 12), szam(1, 31), szam(0, 23), szam(0, 59), szam(0, 59)});
+        a.Keplet.pillanat = {szam(1900, 2068), szam(1, 12), szam(1, 31),
+                             szam(0, 23),      szam(0, 59), szam(0, 59)};
         a.Keplet.idozona = szam(-12, 12);
         a.Keplet.nyariIdo = szam(0, 1);
         a.Keplet.hosszusag = szam(-648000, 648000);
@@ -318,7 +318,7 @@ TEST_F(TKvh, AmitAProgramIrUgyanazJonVissza) {
         ASSERT_EQ(b.Szemely.nev, a.Szemely.nev);
         ASSERT_EQ(b.Szemely.jegyzet, a.Szemely.jegyzet);
         ASSERT_EQ(b.Szemely.hangJel, a.Szemely.hangJel);
-        ASSERT_EQ(b.Szemely.beirt(), a.Keplet.pillanat());
+        ASSERT_EQ(b.Szemely.beirt, a.Keplet.pillanat);
         ASSERT_EQ(b.Keplet.helyseg, a.Keplet.helyseg);
         ASSERT_EQ(b.Keplet.hosszusag, a.Keplet.hosszusag);
         ASSERT_EQ(b.Keplet.szelesseg, a.Keplet.szelesseg);

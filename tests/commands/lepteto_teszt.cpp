@@ -14,11 +14,11 @@ const TLepes& gomb(std::string_view nev) {
 
 TPillanat lep(const TPillanat& p, std::initializer_list<const char*> gombok) {
     Allapot a;
-    a.Keplet.pillanat(p);
+    a.Keplet.pillanat = p;
     for (const char* nev : gombok) Leptetes(a, gomb(nev));
-    TPillanat q = a.Keplet.pillanat();
+    TPillanat q = a.Keplet.pillanat;
     EXPECT_EQ(a.Keplet.julianszam, DatumbolJulianszam(q.ev, q.ho, q.nap));
-    return a.Keplet.pillanat();
+    return a.Keplet.pillanat;
 }
 
 TEST(Lepteto, TizenhatGombANevukkelEsFeliratukkal) {
@@ -76,16 +76,16 @@ TEST(Lepteto, KetezerhetvennyolcutanNincsEv) {
 
 TEST(Lepteto, ALepesJelziMagatEsMegallitjaAzOrat) {
     Allapot a;
-    a.Keplet.pillanat({2000, 1, 1, 1, 1, 1});
+    a.Keplet.pillanat = {2000, 1, 1, 1, 1, 1};
     a.RadixPillanat = {1990, 1, 1, 1, 1, 1};
-    a.Szemely.beirt({1991, 1, 1, 1, 1, 1});
+    a.Szemely.beirt = {1991, 1, 1, 1, 1, 1};
     a.Feliratok.mostGomb = "Állj";
     Leptetes(a, lepesek[0]);
     EXPECT_TRUE(a.Modositott);
     EXPECT_TRUE(a.LeptetesVolt);
     EXPECT_FALSE(a.MostFut);
     EXPECT_EQ(a.RadixPillanat.ev, 1990);
-    EXPECT_EQ(a.Szemely.beirtEv, 1991);
+    EXPECT_EQ(a.Szemely.beirt.ev, 1991);
     EXPECT_EQ(a.Feliratok.mostGomb, "Állj");
 }
 

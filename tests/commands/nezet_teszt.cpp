@@ -14,11 +14,11 @@ using THivasok = std::vector<std::string>;
 
 Allapot keplet(const TPillanat& pillanat, const char* helyseg) {
     Allapot a;
-    a.Keplet.pillanat(pillanat);
+    a.Keplet.pillanat = pillanat;
     a.Keplet.helyseg = helyseg;
     DatumRendezes(a.Keplet);
     IdoAdatok(a);
-    IrStatuszSor(a, a.Keplet.pillanat(), "ZN");
+    IrStatuszSor(a, a.Keplet.pillanat, TIdoTipus::ZN);
     KepletCiklus(a);
     return a;
 }
@@ -35,7 +35,7 @@ TEST(Nezet, HaromValtVisszaterAzElsore) {
     ValtParancs(a, ablak);
     EXPECT_EQ(a.Feliratok.statusz[panelTipus], "Radix");
     EXPECT_EQ(a.Feliratok.valtGomb, "Mundán");
-    EXPECT_EQ(a.KepletTipus, 1);
+    EXPECT_EQ(a.KepletTipus, TKepletTipus::radix);
 }
 
 TEST(Nezet, EloszorTorolAztanRajzolEsTorolveMarad) {

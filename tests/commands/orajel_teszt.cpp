@@ -30,7 +30,7 @@ protected:
         for (int i = 0; i < szam; ++i) Orajel(a, ablak);
     }
     void szuletes() {
-        a.Szemely.idoTipus = "ZN";
+        a.Szemely.idoTipus = TIdoTipus::ZN;
         TSzemelyiAdatok m = mintaSzemely({1975, 3, 21, 6, 4, 9});
         m.jegyzet = "jegyzet";
         SzemelyiRendben(a, m);
@@ -44,12 +44,12 @@ protected:
 };
 
 TEST_F(TOrajel, IndulasUtanAJelenPillanatBudapesten) {
-    EXPECT_EQ(a.Keplet.pillanat(), (TPillanat{2024, 3, 5, 8, 15, 0}));
-    EXPECT_EQ(a.RadixPillanat, a.Keplet.pillanat());
-    EXPECT_EQ(a.SzuletesiPillanat, a.Keplet.pillanat());
+    EXPECT_EQ(a.Keplet.pillanat, (TPillanat{2024, 3, 5, 8, 15, 0}));
+    EXPECT_EQ(a.RadixPillanat, a.Keplet.pillanat);
+    EXPECT_EQ(a.SzuletesiPillanat, a.Keplet.pillanat);
     EXPECT_EQ(a.InduloDatum.ev, 2024);
     EXPECT_EQ(a.RevDatum.nap, 5);
-    EXPECT_EQ(a.Szemely.beirt(), a.Keplet.pillanat());
+    EXPECT_EQ(a.Szemely.beirt, a.Keplet.pillanat);
     EXPECT_EQ(a.Keplet.helyseg, "Budapest");
     EXPECT_EQ(panel(panelTipus), "Radix");
     EXPECT_EQ(panel(panelNev), "Most");
@@ -130,7 +130,7 @@ TEST_F(TOrajel, ASzovegEgyKarakterrelGordul) {
 
 TEST_F(TOrajel, MundanNezetbenAMundanSzovegGordul) {
     szuletes();
-    a.KepletTipus = 2;
+    a.KepletTipus = TKepletTipus::mundan;
     const std::string horizont = a.Uralkodok.UralkodoSzoveg;
     std::string szoveg = a.Uralkodok.MundanUralkodoSzoveg;
     orajelek(1);
@@ -143,7 +143,7 @@ TEST_F(TOrajel, DekadNezetbenAKapcsolatSorAll) {
     szuletes();
     orajelek(3);
     const std::string szoveg = a.Uralkodok.UralkodoSzoveg;
-    a.KepletTipus = 3;
+    a.KepletTipus = TKepletTipus::dekad;
     orajelek(2);
     EXPECT_EQ(a.FutoSzoveg, kapcsolatSor);
     EXPECT_EQ(a.Uralkodok.UralkodoSzoveg, szoveg);
@@ -182,13 +182,13 @@ TEST_F(TOrajel, AFutoOraMinden251OrajelreRajzol) {
 }
 
 TEST_F(TOrajel, AFutoOraMindenOrajelreOlvasEsUritiAJegyzetet) {
-    a.Szemely.idoTipus = "LMT";
+    a.Szemely.idoTipus = TIdoTipus::LMT;
     a.Feliratok.memo = "jegyzet";
     ablak.ido = "23:59:58";
     ablak.datum = "2024.07.01";
     orajelek(1);
     EXPECT_EQ(panel(panelIdo), "2024.07.01. 23:59:58 ZN");
-    EXPECT_EQ(a.Szemely.idoTipus, "ZN");
+    EXPECT_EQ(a.Szemely.idoTipus, TIdoTipus::ZN);
     EXPECT_EQ(a.Keplet.nyariIdo, 1);
     EXPECT_EQ(a.Feliratok.memo, "");
     EXPECT_EQ(panel(panelNev), "Most");
@@ -198,15 +198,15 @@ TEST_F(TOrajel, AFutoOraMindenOrajelreOlvasEsUritiAJegyzetet) {
 TEST_F(TOrajel, ASzamitogepOrajaATablaVegenMegall) {
     ablak.datum = "2100.05.06";
     orajelek(1);
-    EXPECT_EQ(a.Keplet.pillanat(), (TPillanat{2078, 5, 6, 8, 15, 0}));
+    EXPECT_EQ(a.Keplet.pillanat, (TPillanat{2078, 5, 6, 8, 15, 0}));
 }
 
 TEST_F(TOrajel, TobbLepesEgyOrajelAlattEgyRajz) {
     szuletes();
     a.MostFut = false;
     a.LeptetesVolt = true;
-    a.Keplet.perc = 7;
-    a.Keplet.perc = 8;
+    a.Keplet.pillanat.perc = 7;
+    a.Keplet.pillanat.perc = 8;
     orajelek(1);
     EXPECT_EQ(ablak.rajzok(), 1);
     EXPECT_FALSE(a.LeptetesVolt);
@@ -288,9 +288,9 @@ TEST_F(TOrajel, AHangCimeGordul) {
 TEST_F(TOrajel, AMostGombIndulaskorAzInduloPillanatonAllMeg) {
     ablak.ido = "9:00:00";
     orajelek(1);
-    ASSERT_EQ(a.Keplet.ora, 9);
+    ASSERT_EQ(a.Keplet.pillanat.ora, 9);
     MostParancs(a, ablak);
-    EXPECT_EQ(a.Keplet.pillanat(), (TPillanat{2024, 3, 5, 8, 15, 0}));
+    EXPECT_EQ(a.Keplet.pillanat, (TPillanat{2024, 3, 5, 8, 15, 0}));
     EXPECT_EQ(a.Feliratok.mostGomb, "Most");
     EXPECT_EQ(panel(panelNev), "");
     EXPECT_EQ(panel(panelIdo), "2024.03.05. 08:15:00 ZN");
@@ -310,10 +310,10 @@ TEST_F(TOrajel, AMostGombElinditjaAzOratEsVisszahozza) {
     orajelek(1);
     EXPECT_EQ(ablak.rajzok(), 1);
     EXPECT_EQ(a.Feliratok.memo, "");
-    EXPECT_EQ(a.Keplet.ev, 2024);
+    EXPECT_EQ(a.Keplet.pillanat.ev, 2024);
 
     MostParancs(a, ablak);
-    EXPECT_EQ(a.Keplet.pillanat(), (TPillanat{1975, 3, 21, 6, 4, 9}));
+    EXPECT_EQ(a.Keplet.pillanat, (TPillanat{1975, 3, 21, 6, 4, 9}));
     EXPECT_EQ(a.Feliratok.memo, "jegyzet");
     EXPECT_EQ(panel(panelNev), "Minta Anna");
     EXPECT_EQ(a.Feliratok.mostGomb, "Most");
@@ -324,7 +324,7 @@ TEST_F(TOrajel, AVisszaUtAKepzettKepletrol) {
     a.VisszaMod = true;
     a.helysegMentett = "Szeged";
     a.Keplet.helyseg = "Pécs";
-    a.Keplet.ev = 1990;
+    a.Keplet.pillanat.ev = 1990;
     a.RadixPillanat.ev = 1980;
     panel(panelTipus) = "Szolár";
     MostParancs(a, ablak);
@@ -332,7 +332,7 @@ TEST_F(TOrajel, AVisszaUtAKepzettKepletrol) {
     EXPECT_FALSE(a.MostFut);
     EXPECT_EQ(panel(panelTipus), "Radix");
     EXPECT_EQ(a.Keplet.helyseg, "Szeged");
-    EXPECT_EQ(a.Keplet.pillanat(), (TPillanat{1975, 3, 21, 6, 4, 9}));
+    EXPECT_EQ(a.Keplet.pillanat, (TPillanat{1975, 3, 21, 6, 4, 9}));
     EXPECT_EQ(a.RadixPillanat, a.SzuletesiPillanat);
     EXPECT_EQ(a.Feliratok.mostGomb, "Most");
 }
@@ -351,9 +351,9 @@ TEST_F(TOrajel, UjKepletAKepzettAllapotbanAVisszaModMarad) {
 TEST_F(TOrajel, AFutoOraVisszavesziAKepernyotAKepzettKeplettol) {
     a.VisszaMod = true;
     a.Feliratok.mostGomb = "Vissza";
-    a.Keplet.ev = 1990;
+    a.Keplet.pillanat.ev = 1990;
     orajelek(1);
-    EXPECT_EQ(a.Keplet.ev, 2024);
+    EXPECT_EQ(a.Keplet.pillanat.ev, 2024);
     EXPECT_EQ(panel(panelNev), "Most");
     EXPECT_EQ(a.Feliratok.mostGomb, "Vissza");
 }

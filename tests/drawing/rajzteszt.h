@@ -31,7 +31,7 @@ inline Allapot probaKeplet(double elsoCsucs = 100) {
 /// Draws a view for a window of a size.
 inline std::vector<TMuvelet> rajz(Allapot& a, int tipus = 1, int szelesseg = 987, int magassag = 644) {
     RogzitoVaszon vaszon;
-    a.KepletTipus = tipus;
+    a.KepletTipus = static_cast<TKepletTipus>(tipus);
     AblakGeometria(a.Rajz, a.Keplet.hazCsucs[1], szelesseg, magassag);
     KepletRajz(vaszon, a);
     return vaszon.muveletek();

@@ -125,12 +125,12 @@ TEST(Esemenyek, AzonosSzovegnelAKesobbitJeloliKi) {
 
 TEST(Esemenyek, NullaOraNyariIdovelAzElozoNap) {
     TEletesemeny e = esemeny("a");
-    e.ev = 2000, e.ho = 3, e.nap = 1;
+    e.pillanat.ev = 2000, e.pillanat.ho = 3, e.pillanat.nap = 1;
     e.nyariIdo = 1;
     EXPECT_EQ(EsemenyGmt(e), (TPillanat{2000, 2, 29, 22, 0, 0}));
     e.idozona = -5;
     e.nyariIdo = 0;
-    e.ora = 20;
+    e.pillanat.ora = 20;
     EXPECT_EQ(EsemenyGmt(e), (TPillanat{2000, 3, 2, 1, 0, 0}));
 }
 
@@ -138,7 +138,8 @@ TEST(Esemenyek, ASorTizenotSzovege) {
     TEsemenyTar tar;
     int kijelolt = 0;
     TEletesemeny e = esemeny("esküvő");
-    e.ev = 2000, e.ho = 3, e.nap = 5, e.ora = 9, e.perc = 8, e.mperc = 7;
+    e.pillanat.ev = 2000, e.pillanat.ho = 3, e.pillanat.nap = 5, e.pillanat.ora = 9, e.pillanat.perc = 8,
+    e.pillanat.mperc = 7;
     e.helyseg = "Pécs";
     e.hosszFok = 18, e.hosszPerc = 14, e.szelFok = 46, e.szelPerc = 4;
     e.solarNap = 10;
@@ -169,7 +170,8 @@ TEST(SolarKereses, AzUtolsoEvforduloraTalal) {
     // The return on the starting day itself counts, whatever the hour.
     EXPECT_EQ(SolarKereses(s, solar.napsorszam).napsorszam, solar.napsorszam);
     EXPECT_NEAR(SolarKereses(s, solar.napsorszam - 1).napsorszam, solar.napsorszam - 365, 1);
-    EXPECT_EQ(solar.ora * 3600 + solar.perc * 60 + solar.mperc, static_cast<int>(solar.napresz * 86400));
+    EXPECT_EQ(solar.ido.ora * 3600 + solar.ido.perc * 60 + solar.ido.mperc,
+              static_cast<int>(solar.napresz * 86400));
 }
 
 TEST(SolarKereses, APontosTalalatTortje_EgyFeletti) {
@@ -179,7 +181,7 @@ TEST(SolarKereses, APontosTalalatTortje_EgyFeletti) {
     EXPECT_EQ(solar.napsorszam, nap);
     const double lepes = Efemerida[nap + 1].nap_hossz - Efemerida[nap].nap_hossz;
     EXPECT_DOUBLE_EQ(solar.napresz, 1296000 / lepes);
-    EXPECT_GT(solar.ora, 8000);
+    EXPECT_GT(solar.ido.ora, 8000);
 }
 
 TEST(SolarKereses, AHalakVegenAHaromszazhatvanasHatar) {
@@ -207,7 +209,8 @@ TEST(SolarNap, ANapHazaASolarKepletbol) {
     const double nap = 117.8409;  // 27°50'27'' Cancer, as the chart on screen shows it
     for (int ev = 1980; ev < 2060; ++ev) {
         TEletesemeny e = esemeny("a");
-        e.ev = ev, e.ho = 12, e.szelFok = 47, e.szelPerc = 30, e.hosszFok = 19, e.hosszPerc = 4;
+        e.pillanat.ev = ev, e.pillanat.ho = 12, e.szelFok = 47, e.szelPerc = 30, e.hosszFok = 19,
+        e.hosszPerc = 4;
         const TSolar solar = SolarKereses(nap * 3600, sor(ev, 12, 1));
         const TSolarKeplet k = SolarKeplet(solar, 68640, 171000);
         int haz = 0;
@@ -235,7 +238,7 @@ TEST(SolarKeplet, AGreenwichiOraraADatumNapjan) {
 TEST(SolarNap, ASolarKepletHelyetolFugg) {
     const TSzuletes sz{{1975, 3, 21, 6, 4, 9}, 0, 1, 72586};
     TEletesemeny e = esemeny("a");
-    e.ev = 1976, e.ho = 3, e.nap = 20, e.ora = 12;
+    e.pillanat.ev = 1976, e.pillanat.ho = 3, e.pillanat.nap = 20, e.pillanat.ora = 12;
     e.szelFok = 46, e.szelPerc = 14;
     // The same return seen from four places a quarter of the Earth's turning apart: four different houses.
     std::set<int> hazak;

@@ -94,7 +94,7 @@ TEST(Tercier, ASzuletesElottiEsemenyIranyaElore) {
 TEST(Tercier, ASzuletesMaradAKepletPillanata) {
     for (const bool tercier : {true, false}) {
         Allapot a = szuletes();
-        a.Keplet.pillanat({1990, 1, 2, 3, 4, 5});
+        a.Keplet.pillanat = {1990, 1, 2, 3, 4, 5};
         a.Keplet.helyseg = "Pécs";
         const THazcsucsok kep = a.Keplet.hazCsucs;
         if (tercier)
@@ -102,7 +102,7 @@ TEST(Tercier, ASzuletesMaradAKepletPillanata) {
         else
             IngresszioKeres(a, szuletesnap, {2000, 1, 1}, "Szeged");
         const Allapot natalis = szuletes();
-        EXPECT_EQ(a.Keplet.pillanat(), szuletesnap);
+        EXPECT_EQ(a.Keplet.pillanat, szuletesnap);
         EXPECT_EQ(a.Keplet.julianszam, natalis.Keplet.julianszam);
         EXPECT_EQ(a.Keplet.Bolygok, natalis.Keplet.Bolygok);
         EXPECT_EQ(a.Keplet.helyseg, "Pécs");
@@ -194,7 +194,7 @@ TEST(Primer, APontTalalatHatarai) {
     EXPECT_TRUE(PontTalalat(10, {10, 12}));
     EXPECT_TRUE(PontTalalat(12, {10, 12}));
     EXPECT_FALSE(PontTalalat(9.99, {10, 12}));
-    const THatar atlepo = iranyAblak(0.5, 1);
+    const TOrbisAblak atlepo = OrbisAblak(0.5, 1);
     EXPECT_DOUBLE_EQ(atlepo.also, 359.5);
     EXPECT_DOUBLE_EQ(atlepo.felso, 1.5);
     EXPECT_TRUE(PontTalalat(0, atlepo));
@@ -202,7 +202,7 @@ TEST(Primer, APontTalalatHatarai) {
     EXPECT_FALSE(PontTalalat(359.5, atlepo));  // exactly on the lower end of a spanning window
     EXPECT_FALSE(PontTalalat(1.5, atlepo));
     EXPECT_FALSE(PontTalalat(180, atlepo));
-    EXPECT_DOUBLE_EQ(iranyAblak(359.5, 1).felso, 0.5);
+    EXPECT_DOUBLE_EQ(OrbisAblak(359.5, 1).felso, 0.5);
 }
 
 /// All aspect points far away, one body's point on a longitude.

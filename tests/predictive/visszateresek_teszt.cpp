@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "probaablak.h"
 #include "chart/statuszsor.h"
 #include "commands/orajel.h"
 #include "engine/bolygohelyek.h"
@@ -8,6 +7,7 @@
 #include "engine/hazak.h"
 #include "mintakeplet.h"
 #include "predictive/visszateresek.h"
+#include "probaablak.h"
 #include "tables/efemerida.h"
 
 namespace {
@@ -203,12 +203,12 @@ TEST(VisszateresKeplet, EgyIvperccelKeletreEsEszakraNyariIdoNelkul) {
     TProbaAblak ablak;
     VisszateresKeplet(a, ablak, fajta, 31, "Pécs");  // 2005, in the summer
     const TKeplet& k = a.Keplet;
-    EXPECT_EQ(k.ev, 2005);
+    EXPECT_EQ(k.pillanat.ev, 2005);
     EXPECT_EQ(k.nyariIdo, 0);
     EXPECT_EQ(k.helyseg, "Pécs");
     EXPECT_EQ(a.helysegMentett, "Szeged");
     EXPECT_EQ(k.hosszusag, 65691);
-    EXPECT_EQ(k.ora, (a.Visszateresek.sorok[31].pillanat.ora + 1) % 24);
+    EXPECT_EQ(k.pillanat.ora, (a.Visszateresek.sorok[31].pillanat.ora + 1) % 24);
     EXPECT_NEAR(k.bolygo[1], hossz({1975, 7, 21, 5, 4, 9}, 1), 1.0 / 3600);
 
     THazcsucsok csucsok;
@@ -224,18 +224,18 @@ TEST(VisszateresKeplet, EgyIvperccelKeletreEsEszakraNyariIdoNelkul) {
     EXPECT_EQ(p[panelTipus], "Szolár");
     EXPECT_EQ(p[panelHely], "Pécs");
     EXPECT_EQ(p[panelKoordinata], koordinataSzoveg(65691, 165888));
-    EXPECT_EQ(p[panelIdo], idopontSzoveg(k.pillanat()) + " ZN");
+    EXPECT_EQ(p[panelIdo], idopontSzoveg(k.pillanat) + " ZN");
     EXPECT_EQ(a.Feliratok.mostGomb, "Vissza");
     EXPECT_EQ(a.Feliratok.memo, "jegyzet");
     EXPECT_TRUE(a.VisszaMod);
-    EXPECT_EQ(a.KepletTipus, 1);
+    EXPECT_EQ(a.KepletTipus, TKepletTipus::radix);
     EXPECT_EQ(ablak.hivasok, (std::vector<std::string>{"Ervenytelenit", "RajzolKeplet"}));
     // The way back.
     EXPECT_EQ(a.RadixPillanat, (TPillanat{1975, 7, 21, 6, 4, 9}));
     a.MostFut = true;  // the press turns it off
     MostParancs(a, ablak);
     EXPECT_EQ(a.Keplet.helyseg, "Szeged");
-    EXPECT_EQ(a.Keplet.pillanat(), (TPillanat{1975, 7, 21, 6, 4, 9}));
+    EXPECT_EQ(a.Keplet.pillanat, (TPillanat{1975, 7, 21, 6, 4, 9}));
 }
 
 TEST(VisszateresKeplet, AzEjfelUtaniZonaIdoAKovetkezoNap) {
@@ -243,7 +243,7 @@ TEST(VisszateresKeplet, AzEjfelUtaniZonaIdoAKovetkezoNap) {
     a.Visszateresek.sorok[1].pillanat = {1999, 12, 31, 23, 30, 0};
     TProbaAblak ablak;
     VisszateresKeplet(a, ablak, PersonarFajta(1), 1, "Szeged");
-    EXPECT_EQ(a.Keplet.pillanat(), (TPillanat{2000, 1, 1, 0, 30, 0}));
+    EXPECT_EQ(a.Keplet.pillanat, (TPillanat{2000, 1, 1, 0, 30, 0}));
     EXPECT_EQ(a.Feliratok.statusz[panelTipus], "Asc pers");
 }
 

@@ -15,7 +15,7 @@ Allapot szegedi(const TPillanat& p) {
     Allapot a;
     a.KeresesVolt = true;
     a.Keplet.helyseg = "Szeged";
-    a.Keplet.pillanat(p);
+    a.Keplet.pillanat = p;
     DatumRendezes(a.Keplet);
     IdoAdatok(a);
     return a;
@@ -29,7 +29,7 @@ char verdikt(std::int64_t masodperc, const TMundanHely& hely = szeged) {
 }
 
 std::int64_t masodpercek(const TKeplet& k) {
-    TPillanat p = k.pillanat();
+    TPillanat p = k.pillanat;
     return std::int64_t{DatumbolJulianszam(p.ev, p.ho, p.nap)} * 86400 + p.ora * 3600 + p.perc * 60 + p.mperc;
 }
 
@@ -86,12 +86,12 @@ TEST(MundanKereses, AzElsoNyomasNemMozdit) {
         a.KeresesVolt = false;
         a.Feliratok.leptetoCim = "1975.07.21. 06:04:09";
         MundanKereses(a, szeged, irany);
-        EXPECT_EQ(a.Keplet.pillanat(), p);
+        EXPECT_EQ(a.Keplet.pillanat, p);
         EXPECT_TRUE(a.KeresesVolt);
         EXPECT_TRUE(a.MundanFrissites);
         EXPECT_EQ(a.Feliratok.leptetoCim, "");
         MundanKereses(a, szeged, irany);
-        EXPECT_NE(a.Keplet.pillanat(), p);
+        EXPECT_NE(a.Keplet.pillanat, p);
         EXPECT_TRUE(a.KeresesVolt);
     }
 }
@@ -102,13 +102,13 @@ TEST(MundanKereses, ANapAtvitelHonaponAt) {
         Allapot a = szegedi(p);
         const std::int64_t vege = vartVege(masodpercek(a.Keplet), 1);
         MundanKereses(a, szeged, 1);
-        EXPECT_EQ(a.Keplet.ho, 3);
+        EXPECT_EQ(a.Keplet.pillanat.ho, 3);
         EXPECT_EQ(masodpercek(a.Keplet), vege);
         Allapot vissza = szegedi({p.ev, 3, 1, 0, 0, 5});
         const std::int64_t visszaVege = vartVege(masodpercek(vissza.Keplet), -1);
         MundanKereses(vissza, szeged, -1);
-        EXPECT_EQ(vissza.Keplet.ho, 2);
-        EXPECT_EQ(vissza.Keplet.nap, p.nap);
+        EXPECT_EQ(vissza.Keplet.pillanat.ho, 2);
+        EXPECT_EQ(vissza.Keplet.pillanat.nap, p.nap);
         EXPECT_EQ(masodpercek(vissza.Keplet), visszaVege);
     }
 }
@@ -117,7 +117,7 @@ TEST(MundanKereses, ATablaVegenMegall) {
     Allapot eleje = szegedi({1900, 1, 1, 0, 0, 10});
     MundanKereses(eleje, szeged, -1);
     EXPECT_EQ(eleje.Keplet.julianszam, 2415019);
-    EXPECT_EQ(eleje.Keplet.pillanat(), (TPillanat{1900, 1, 1, 23, 59, 40}));
+    EXPECT_EQ(eleje.Keplet.pillanat, (TPillanat{1900, 1, 1, 23, 59, 40}));
 }
 
 TEST(MundanKereses, ANyariIdoMindenPillanatraUjra) {
@@ -133,7 +133,7 @@ TEST(MundanKereses, ANyariIdoMindenPillanatraUjra) {
         MundanKereses(tablabol, szeged, 1);
         MundanKereses(allando, beirt, 1);
     }
-    EXPECT_NE(tablabol.Keplet.pillanat(), allando.Keplet.pillanat());
+    EXPECT_NE(tablabol.Keplet.pillanat, allando.Keplet.pillanat);
     EXPECT_NE(verdikt(masodpercek(allando.Keplet), beirt), verdikt(masodpercek(allando.Keplet) - 1, beirt));
 }
 
@@ -154,7 +154,7 @@ TEST(MundanKereses, AKepernyoKepletehezNemNyul) {
 TEST(MundanNyitas, AzElsoHazAKezdoPillanatEsALeptetoCime) {
     Allapot a = szegedi({1975, 7, 21, 6, 4, 9});
     a.AktivHaz = 9;
-    IrStatuszSor(a, a.Keplet.pillanat(), "ZN");
+    IrStatuszSor(a, a.Keplet.pillanat, TIdoTipus::ZN);
     MundanNyitas(a);
     EXPECT_EQ(a.AktivHaz, 1);
     EXPECT_TRUE(a.MundanAblakNyitva);
@@ -171,7 +171,7 @@ TEST(MundanVissza, KetKeresesUtanAMegnyitasPillanata) {
     EXPECT_EQ(a.MhpKezdoPillanat, p);
     a.MundanFrissites = false;
     MundanVissza(a);
-    EXPECT_EQ(a.Keplet.pillanat(), p);
+    EXPECT_EQ(a.Keplet.pillanat, p);
     EXPECT_EQ(a.Keplet.julianszam, 2442614);
     EXPECT_TRUE(a.MundanFrissites);
 }

@@ -24,8 +24,8 @@ TEST(MundanLanc, UgyanaztAdjaMintAKepernyoKeplete) {
         Allapot a;
         TKeplet& k = a.Keplet;
         k.julianszam = p.julianszam;
-        JulianszambolDatum(k.julianszam, k.ev, k.ho, k.nap);
-        k.ora = p.ora, k.perc = p.perc, k.mperc = p.mperc;
+        JulianszambolDatum(k.julianszam, k.pillanat.ev, k.pillanat.ho, k.pillanat.nap);
+        k.pillanat.ora = p.ora, k.pillanat.perc = p.perc, k.pillanat.mperc = p.mperc;
         k.helyseg = "Szeged";
         HelyAdatok(a);  // summer time; the place is set after it
         k.idozona = p.hely.idozona, k.szelesseg = p.hely.szelesseg, k.hosszusag = p.hely.hosszusag;

@@ -19,7 +19,7 @@ constexpr TPillanat szuletesnap{1975, 3, 21, 2, 10, 9};
 TEletesemeny esemeny(const char* nev, int ev, int ho, int nap) {
     TEletesemeny e;
     e.esemeny = nev;
-    e.ev = ev, e.ho = ho, e.nap = nap;
+    e.pillanat.ev = ev, e.pillanat.ho = ho, e.pillanat.nap = nap;
     e.hosszFok = 20, e.hosszPerc = 9, e.szelFok = 46, e.szelPerc = 15;
     return e;
 }
@@ -88,10 +88,11 @@ struct TVartFutas {
     }
     std::array<std::string, 3> sorok(int e) const {
         const TEletesemeny& es = a.Esemenyek.esemenyek[e];
-        TPillanat p{es.ev, es.ho, es.nap, 0, 0, 0};
+        TPillanat p{es.pillanat.ev, es.pillanat.ho, es.pillanat.nap, 0, 0, 0};
         const int nap = DatumbolJulianszam(p.ev, p.ho, p.nap);
         char sor1[64];
-        std::snprintf(sor1, sizeof sor1, "%d. %d.%02d.%02d. ", e, es.ev, es.ho, es.nap);
+        std::snprintf(sor1, sizeof sor1, "%d. %d.%02d.%02d. ", e, es.pillanat.ev, es.pillanat.ho,
+                      es.pillanat.nap);
         const int haz = SolarHaz(a.Keplet.bolygo, nap, es.hosszFok * 3600 + es.hosszPerc * 60,
                                  es.szelFok * 3600 + es.szelPerc * 60);
         std::string sor2 = std::string(HazCimkeSzimbolum[haz]) + "   ";
@@ -178,7 +179,7 @@ TEST(JeloltIdo, APontosIranyASzuletesIdejetAdjaMindANegyOszlopban) {
             for (const IranyOszlop oszlop : {dMC, cMC, dAsc, cAsc}) {
                 for (double p = 3.3; p < 360; p += 41) {
                     const double t = JeloltIdo(oszlop, p, pontosIv(a, oszlop, p), ferde, a.Keplet);
-                    EXPECT_NEAR(t, oraMasodperc(a.Keplet.pillanat()), 5) << oszlop << ' ' << p;
+                    EXPECT_NEAR(t, oraMasodperc(a.Keplet.pillanat), 5) << oszlop << ' ' << p;
                     ++volt;
                 }
             }
@@ -276,7 +277,8 @@ TEST(Pontositas, ANevtelenEsemenyLezarjaAListat) {
 
 /// Directed point of a column on the day of the chart's one event.
 double iranyPont(const Allapot& a, IranyOszlop oszlop) {
-    TPillanat p{a.Esemenyek.esemenyek[1].ev, a.Esemenyek.esemenyek[1].ho, a.Esemenyek.esemenyek[1].nap};
+    TPillanat p{a.Esemenyek.esemenyek[1].pillanat.ev, a.Esemenyek.esemenyek[1].pillanat.ho,
+                a.Esemenyek.esemenyek[1].pillanat.nap};
     const int d = DatumbolJulianszam(p.ev, p.ho, p.nap) - a.Keplet.julianszam;
     return TVartFutas(a).irany(oszlop, d * 9.715060995018346 / 60);
 }
@@ -353,11 +355,11 @@ TEST(Pontositas, ANullaFokonAtnyuloAblakAlsoVegeNemTalalat) {
     int nap = a.Keplet.julianszam;
     double x = 0;
     do {
-        JulianszambolDatum(++nap, e.ev, e.ho, e.nap);
+        JulianszambolDatum(++nap, e.pillanat.ev, e.pillanat.ho, e.pillanat.nap);
         x = iranyPont(a, cMC);
     } while (x < 0.1 || x > 0.2);
     for (auto& sor : a.Rajz.FenyszogPontok) sor.tolt(180);
-    const THatar hatar = iranyAblak(x, 0.25);
+    const TOrbisAblak hatar = OrbisAblak(x, 0.25);
     ASSERT_GT(hatar.also, hatar.felso);
     const auto talal = [&](double p) {
         a.Rajz.FenyszogPontok[7][5] = p;
@@ -372,7 +374,7 @@ TEST(Pontositas, AzEsemenyOrajaNemSzamit) {
     Allapot a = szuletesiKeplet(szuletesnap);
     felvesz(a, esemeny("Diploma", 1999, 6, 24));
     const TPontositas elobb = PontositasFutas(a);
-    a.Esemenyek.esemenyek[1].ora = 23;
+    a.Esemenyek.esemenyek[1].pillanat.ora = 23;
     a.Esemenyek.esemenyek[1].idozona = -12;
     EXPECT_EQ(PontositasFutas(a).Memo2, elobb.Memo2);
     EXPECT_EQ(PontositasFutas(a).Memo3, elobb.Memo3);

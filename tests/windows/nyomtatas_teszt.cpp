@@ -88,7 +88,7 @@ private slots:
 
     void aFejlecSzovege() {
         TKeplet k;
-        k.pillanat({1975, 3, 21, 6, 4, 9});
+        k.pillanat = {1975, 3, 21, 6, 4, 9};
         k.helyseg = "Szeged";
         k.armcOra = 18;
         k.armcPerc = 7;

@@ -24,9 +24,9 @@ void esemenyek(TFrissAblakok& a, int db) {
     for (int n = 1; n <= db; ++n) {
         TEletesemeny& e = a.allapot().Esemenyek.esemenyek[n];
         e.esemeny = "Esemény " + std::to_string(n);
-        e.ev = 1990 + 2 * n;
-        e.ho = 5;
-        e.nap = 6;
+        e.pillanat.ev = 1990 + 2 * n;
+        e.pillanat.ho = 5;
+        e.pillanat.nap = 6;
         e.hosszFok = 20;
         e.szelFok = 46;
     }
@@ -162,7 +162,7 @@ private slots:
         szuletes(a);
         menu(a.form1, "Mundnhzaspontosts1");
         kattint(a.form8, "Button1Keresesm");
-        QCOMPARE(a.allapot().Keplet.pillanat(), (TPillanat{1975, 7, 21, 6, 4, 9}));
+        QCOMPARE(a.allapot().Keplet.pillanat, (TPillanat{1975, 7, 21, 6, 4, 9}));
         QVERIFY(a.allapot().MundanFrissites);
         a.orajelek(1);
         QVERIFY(!a.allapot().MundanFrissites);
@@ -170,7 +170,7 @@ private slots:
 
         const char elobb = ertekeles(a).analogiak.AnalogiaAllapot;
         kattint(a.form8, "Button1Keresesm");
-        QVERIFY(a.allapot().Keplet.pillanat() != (TPillanat{1975, 7, 21, 6, 4, 9}));
+        QVERIFY(a.allapot().Keplet.pillanat != (TPillanat{1975, 7, 21, 6, 4, 9}));
         QVERIFY(ertekeles(a).analogiak.AnalogiaAllapot != elobb);
         QCOMPARE(a.form7.windowTitle(), "");
         QVERIFY(QGuiApplication::overrideCursor() == nullptr);
@@ -179,7 +179,7 @@ private slots:
         QVERIFY(ertekeles(a).analogiak.AnalogiaAllapot != elobb);
 
         kattint(a.form8, "Button3Vissza");
-        QCOMPARE(a.allapot().Keplet.pillanat(), (TPillanat{1975, 7, 21, 6, 4, 9}));
+        QCOMPARE(a.allapot().Keplet.pillanat, (TPillanat{1975, 7, 21, 6, 4, 9}));
         a.orajelek(1);
         QCOMPARE(a.allapot().Keplet.hazCsucs, csucsok);
         // Nothing of this counts as a change to be saved.

@@ -138,7 +138,7 @@ private slots:
             QVERIFY(a.allapot().TeljesTorles);
             QVERIFY(!a.allapot().MostFut);
         }
-        QCOMPARE(a.allapot().KepletTipus, 1);
+        QCOMPARE(a.allapot().KepletTipus, TKepletTipus::radix);
         QCOMPARE(vezerlo<QPushButton>(a.form1, "PanelButton2_Most")->text(), "Most");
     }
 
@@ -172,7 +172,7 @@ private slots:
         const TPillanat indulo = a.allapot().RadixPillanat;
         kattint(a.form1, "PanelButton2_Most");
         QVERIFY(!a.allapot().MostFut);
-        QVERIFY(a.allapot().Keplet.pillanat() == indulo);
+        QVERIFY(a.allapot().Keplet.pillanat == indulo);
         QCOMPARE(vezerlo<QPushButton>(a.form1, "PanelButton2_Most")->text(), "Most");
         QCOMPARE(panel(a.form1, 2), "");
         kattint(a.form1, "PanelButton2_Most");

@@ -20,7 +20,7 @@ TJson lepesMuvelet(const TJson& kerelem) {
         if (lepes == lepesek.end()) throw THiba("ismeretlen gomb: " + gomb.get<std::string>());
         Leptetes(allapot, *lepes);
     }
-    return {{"pillanat", pillanatTomb(allapot.Keplet.pillanat())}, {"julianszam", allapot.Keplet.julianszam}};
+    return {{"pillanat", pillanatTomb(allapot.Keplet.pillanat)}, {"julianszam", allapot.Keplet.julianszam}};
 }
 
 TJson kvhOlvasMuvelet(const TJson& kerelem) {
@@ -31,7 +31,7 @@ TJson kvhOlvasMuvelet(const TJson& kerelem) {
     for (int i = 1; i <= allapot.Esemenyek.EsemenyDb; ++i)
         esemenyek.push_back(esemenyValasz(allapot.Esemenyek.esemenyek[i]));
     return {{"nev", allapot.Szemely.nev},
-            {"pillanat", pillanatTomb(allapot.Szemely.beirt())},
+            {"pillanat", pillanatTomb(allapot.Szemely.beirt)},
             {"idozona", allapot.Keplet.idozona},
             {"nyariIdo", allapot.Keplet.nyariIdo},
             {"helyseg", allapot.Keplet.helyseg},
@@ -45,7 +45,7 @@ TJson kvhOlvasMuvelet(const TJson& kerelem) {
 TJson kvhIrMuvelet(const TJson& kerelem) {
     Allapot allapot;
     const auto p = egeszTomb<6>(kerelem, "pillanat");
-    allapot.Keplet.pillanat({p[0], p[1], p[2], p[3], p[4], p[5]});
+    allapot.Keplet.pillanat = {p[0], p[1], p[2], p[3], p[4], p[5]};
     allapot.Szemely.nev = szovegMezo(kerelem, "nev");
     allapot.Keplet.idozona = egeszMezo(kerelem, "idozona");
     allapot.Keplet.nyariIdo = egeszMezo(kerelem, "nyariIdo");
@@ -74,5 +74,5 @@ TJson eletesemenyMuvelet(const TJson& kerelem) {
     const TEletesemeny esemeny = esemenyErtek(mezo(kerelem, "esemeny"));
     const TKeplet& k = allapot.Keplet;
     return {{"gmt", pillanatTomb(EsemenyGmt(esemeny))},
-            {"solarNap", EsemenySolarNap({k.pillanat(), k.nyariIdo, k.idozona, k.hosszusag}, esemeny)}};
+            {"solarNap", EsemenySolarNap({k.pillanat, k.nyariIdo, k.idozona, k.hosszusag}, esemeny)}};
 }

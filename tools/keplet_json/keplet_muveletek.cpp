@@ -38,11 +38,12 @@ TJson idoMuvelet(const TJson& kerelem) {
     Allapot allapot;
     pillanatMezo(kerelem, allapot);
     const std::string idoTipus = szovegMezo(kerelem, "idoTipus");
-    if (idoTipus != "ZN" && idoTipus != "LMT" && idoTipus != "GMT") throw THiba("idoTipus: ZN, LMT vagy GMT");
-    TPillanat pillanat = allapot.Keplet.pillanat();
+    const auto tipus = std::find(idoTipusok.begin(), idoTipusok.end(), idoTipus);
+    if (tipus == idoTipusok.end()) throw THiba("idoTipus: ZN, LMT vagy GMT");
+    TPillanat pillanat = allapot.Keplet.pillanat;
     std::int32_t julianszam = allapot.Keplet.julianszam;
-    IdoAtvaltas(pillanat, julianszam, idoTipus, egeszMezo(kerelem, "idozona"),
-                egeszMezo(kerelem, "hosszusag"));
+    IdoAtvaltas(pillanat, julianszam, static_cast<TIdoTipus>(tipus - idoTipusok.begin()),
+                egeszMezo(kerelem, "idozona"), egeszMezo(kerelem, "hosszusag"));
     return {{"pillanat", pillanatTomb(pillanat)}, {"julianszam", julianszam}};
 }
 
@@ -80,7 +81,7 @@ TJson rajzMuvelet(const TJson& kerelem) {
 
     // A window that has shown the chart in the Radix view, then the view asked for.
     RogzitoVaszon vaszon;
-    for (const int nezet : {1, tipus}) {
+    for (const auto nezet : {TKepletTipus::radix, static_cast<TKepletTipus>(tipus)}) {
         vaszon = {};
         allapot.KepletTipus = nezet;
         AblakGeometria(allapot.Rajz, allapot.Keplet.hazCsucs[1], szelesseg, magassag);

@@ -8,6 +8,7 @@
 #include "chart/statuszsor.h"
 #include "drawing/oldalpanel.h"
 #include "drawing/rendezett.h"
+#include "engine/fenyszogpontok.h"
 
 const TJson& mezo(const TJson& kerelem, const char* nev) {
     const auto hely = kerelem.find(nev);
@@ -58,7 +59,7 @@ std::string szovegMezo(const TJson& kerelem, const char* nev) {
 
 void pillanatMezo(const TJson& kerelem, Allapot& allapot) {
     const auto p = egeszTomb<6>(kerelem, "pillanat");
-    allapot.Keplet.pillanat({p[0], p[1], p[2], p[3], p[4], p[5]});
+    allapot.Keplet.pillanat = {p[0], p[1], p[2], p[3], p[4], p[5]};
     DatumRendezes(allapot.Keplet);
 }
 
@@ -142,25 +143,25 @@ Allapot allapotKerelembol(const TJson& kerelem) {
     helyMezo(kerelem, allapot);
     orbisMezo(kerelem, allapot);
     CsillagIdoLepes(allapot.Keplet);
-    IrStatuszSor(allapot, allapot.Keplet.pillanat(), "ZN");
+    IrStatuszSor(allapot, allapot.Keplet.pillanat, TIdoTipus::ZN);
     return allapot;
 }
 
 Allapot szuletesiAllapot(const TJson& kerelem) {
     Allapot allapot = allapotKerelembol(kerelem);
-    allapot.RadixPillanat = allapot.SzuletesiPillanat = allapot.Keplet.pillanat();
+    allapot.RadixPillanat = allapot.SzuletesiPillanat = allapot.Keplet.pillanat;
     KepletCiklus(allapot);
-    FenyszogPontSzamitas(allapot);
+    FenyszogPontSzamitas(allapot.Keplet.bolygo, allapot.Rajz.FenyszogPontok);
     return allapot;
 }
 
 TJson kepletValasz(Allapot& allapot) {
-    OldalPanelIras(allapot);
-    FenyszogPontSzamitas(allapot);
+    OldalPanelIras(allapot.Keplet.bolygo, allapot.Keplet.hazCsucs, allapot.Rajz.panel);
+    FenyszogPontSzamitas(allapot.Keplet.bolygo, allapot.Rajz.FenyszogPontok);
     const TKeplet& k = allapot.Keplet;
     const TUralkodok& u = allapot.Uralkodok;
     TJson v;
-    v["pillanat"] = pillanatTomb(k.pillanat());
+    v["pillanat"] = pillanatTomb(k.pillanat);
     v["julianszam"] = k.julianszam;
     v["napresz"] = k.napresz;
     v["nyariIdo"] = k.nyariIdo;
@@ -205,23 +206,19 @@ constexpr TSzovegMezo esemenySzovegek[]{{"esemeny", &TEletesemeny::esemeny},
                                         {"analogia", &TEletesemeny::analogia},
                                         {"helyseg", &TEletesemeny::helyseg}};
 
+template <typename TRekord>
 struct TSzamMezo {
     const char* nev;
-    std::int32_t TEletesemeny::*mezo;
+    std::int32_t TRekord::*mezo;
 };
-constexpr TSzamMezo esemenySzamok[]{{"ev", &TEletesemeny::ev},
-                                    {"ho", &TEletesemeny::ho},
-                                    {"nap", &TEletesemeny::nap},
-                                    {"ora", &TEletesemeny::ora},
-                                    {"perc", &TEletesemeny::perc},
-                                    {"mperc", &TEletesemeny::mperc},
-                                    {"idozona", &TEletesemeny::idozona},
-                                    {"nyariIdo", &TEletesemeny::nyariIdo},
-                                    {"hosszFok", &TEletesemeny::hosszFok},
-                                    {"hosszPerc", &TEletesemeny::hosszPerc},
-                                    {"szelFok", &TEletesemeny::szelFok},
-                                    {"szelPerc", &TEletesemeny::szelPerc},
-                                    {"solarNap", &TEletesemeny::solarNap}};
+constexpr TSzamMezo<TPillanat> pillanatSzamok[]{{"ev", &TPillanat::ev},     {"ho", &TPillanat::ho},
+                                                {"nap", &TPillanat::nap},   {"ora", &TPillanat::ora},
+                                                {"perc", &TPillanat::perc}, {"mperc", &TPillanat::mperc}};
+constexpr TSzamMezo<TEletesemeny> esemenySzamok[]{
+    {"idozona", &TEletesemeny::idozona},   {"nyariIdo", &TEletesemeny::nyariIdo},
+    {"hosszFok", &TEletesemeny::hosszFok}, {"hosszPerc", &TEletesemeny::hosszPerc},
+    {"szelFok", &TEletesemeny::szelFok},   {"szelPerc", &TEletesemeny::szelPerc},
+    {"solarNap", &TEletesemeny::solarNap}};
 
 }  // namespace
 
@@ -230,6 +227,8 @@ TEletesemeny esemenyErtek(const TJson& ertek) {
     TEletesemeny e;
     for (const auto& [nev, mezo] : esemenySzovegek)
         if (ertek.contains(nev)) e.*mezo = szovegMezo(ertek, nev);
+    for (const auto& [nev, mezo] : pillanatSzamok)
+        if (ertek.contains(nev)) e.pillanat.*mezo = egeszMezo(ertek, nev);
     for (const auto& [nev, mezo] : esemenySzamok)
         if (ertek.contains(nev)) e.*mezo = egeszMezo(ertek, nev);
     return e;
@@ -245,6 +244,7 @@ void esemenyekMezo(const TJson& kerelem, TEsemenyTar& tar) {
 TJson esemenyValasz(const TEletesemeny& e) {
     TJson v;
     for (const auto& [nev, mezo] : esemenySzovegek) v[nev] = e.*mezo;
+    for (const auto& [nev, mezo] : pillanatSzamok) v[nev] = e.pillanat.*mezo;
     for (const auto& [nev, mezo] : esemenySzamok) v[nev] = e.*mezo;
     return v;
 }

@@ -37,7 +37,7 @@ TJson mundanKeresesMuvelet(const TJson& kerelem) {
     const std::int32_t irany = egeszMezo(kerelem, "irany", -1, 1);
     if (irany == 0) throw THiba("irany: 1 vagy -1");
     const TMundanErtekeles e = MundanKereses(allapot, mundanHely(kerelem, allapot.Keplet), irany);
-    return {{"pillanat", pillanatTomb(allapot.Keplet.pillanat())},
+    return {{"pillanat", pillanatTomb(allapot.Keplet.pillanat)},
             {"AnalogiaAllapot", std::string(1, e.analogiak.AnalogiaAllapot)},
             {"KeresesVolt", allapot.KeresesVolt}};
 }

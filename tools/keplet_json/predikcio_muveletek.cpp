@@ -68,7 +68,7 @@ TJson personarMuvelet(const TJson& kerelem) {
 
 TJson tercierMuvelet(const TJson& kerelem) {
     Allapot allapot = allapotKerelembol(kerelem);
-    const TTercier t = TercierKeres(allapot, allapot.Keplet.pillanat(), datumMezo(kerelem, "esemeny"),
+    const TTercier t = TercierKeres(allapot, allapot.Keplet.pillanat, datumMezo(kerelem, "esemeny"),
                                     allapot.Keplet.helyseg, valosMezo(kerelem, "orbis_nap"));
     return {{"TercierSzoveg", t.TercierSzoveg},
             {"TercierHazSzoveg", t.TercierHazSzoveg},
@@ -77,7 +77,7 @@ TJson tercierMuvelet(const TJson& kerelem) {
 
 TJson ingresszioMuvelet(const TJson& kerelem) {
     Allapot allapot = allapotKerelembol(kerelem);
-    const std::string szoveg = IngresszioKeres(allapot, allapot.Keplet.pillanat(),
+    const std::string szoveg = IngresszioKeres(allapot, allapot.Keplet.pillanat,
                                                datumMezo(kerelem, "esemeny"), allapot.Keplet.helyseg);
     return {{"IngresszioSzoveg", szoveg},
             {"verdikt", szoveg.empty() ? ingresszioVerdikt.nincs : ingresszioVerdikt.van}};

@@ -65,9 +65,7 @@ TSzemelyiAdatok UjKepletMezok(Allapot& allapot) {
     mezok.ido = allapot.Szemely.beirt;
     mezok.helyseg = allapot.Keplet.helyseg;
     mezok.nyariIdo = NyariIdoE(mezok.ido);
-    TTelepules hely{};
-    TelepulesKeres(mezok.helyseg, hely.idozona, hely.szelesseg, hely.hosszusagJel, hely.szelessegJel,
-                   hely.hosszusag);
+    const TTelepules& hely = TelepulesKeres(mezok.helyseg);
     mezok.idozona = hely.idozona;
     koordinataMezok(mezok, hely.hosszusag, hely.szelesseg);
     return mezok;

@@ -56,6 +56,10 @@ std::int32_t EsemenySolarNap(const TSzuletes& szuletes, const TEletesemeny& esem
     return hazak[1];
 }
 
+int EsemenyHelyNyariIdo(TIdoTipus idoTipus, const TPillanat& pillanat) {
+    return idoTipus == TIdoTipus::ZN ? NyariIdoE(pillanat) : 0;
+}
+
 bool EsemenyFelvetel(TEsemenyTar& tar, int& kijelolt, const TEletesemeny& esemeny) {
     if (tar.EsemenyDb >= esemenyHelyek || esemeny.esemeny.empty()) return false;
     tar.esemenyek[kijelolt != 0 ? kijelolt : ++tar.EsemenyDb] = esemeny;

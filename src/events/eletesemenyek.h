@@ -10,6 +10,10 @@
 /// Event time in Greenwich: the hour less zone and summer time, at most one day carried.
 TPillanat EsemenyGmt(const TEletesemeny& esemeny);
 
+/// Summer time that a change of the event's place sets: the table's answer where the chart's clock is a zone
+/// clock, else 0. A change of the date or time asks the table whatever the clock, as users know it.
+int EsemenyHelyNyariIdo(TIdoTipus idoTipus, const TPillanat& pillanat);
+
 /// What a natal Sun is worked out from.
 struct TSzuletes {
     TPillanat pillanat;

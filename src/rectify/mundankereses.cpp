@@ -22,8 +22,7 @@ void ertekeles(std::int32_t nap, const TPillanat& p, const TMundanHely& hely, co
 }  // namespace
 
 TMundanHely MundanHely(const TKeplet& k) {
-    TTelepules t{};
-    TelepulesKeres(k.helyseg, t.idozona, t.szelesseg, t.hosszusagJel, t.szelessegJel, t.hosszusag);
+    const TTelepules& t = TelepulesKeres(k.helyseg);
     const bool tablabol = t.idozona == k.idozona && t.szelesseg == k.szelesseg &&
                           t.hosszusag == k.hosszusag && k.nyariIdo == NyariIdoE(k.pillanat);
     TMundanHely hely{k.idozona, k.szelesseg, k.hosszusag};

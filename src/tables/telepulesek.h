@@ -22,3 +22,6 @@ extern const std::array<TTelepules, 3138> Telepulesek;
 /// An unknown name gives the values of Budapest: zone 1, 171000, 68640, 'N', 'E'.
 void TelepulesKeres(std::string_view nev, std::int32_t& idozona, std::int32_t& szelesseg, char& hosszusagJel,
                     char& szelessegJel, std::int32_t& hosszusag);
+
+/// The same as a record, under the name of the row found.
+const TTelepules& TelepulesKeres(std::string_view nev);

@@ -4,15 +4,14 @@
 #include <QSignalBlocker>
 
 #include "events/analogia.h"
-#include "tables/efemerida.h"
 #include "tables/fokperc.h"
-#include "tables/nyariido.h"
+#include "tables/pillanat.h"
 #include "tables/szotar.h"
 #include "tables/telepulesek.h"
 #include "windows/ablakelhelyezes.h"
-#include "windows/gomb.h"
 #include "windows/helysegmezo.h"
 #include "windows/qszoveg.h"
+#include "windows/vezerlok.h"
 
 namespace {
 
@@ -24,6 +23,10 @@ constexpr int sorMagassag = 17;
 constexpr int ablakSzelesseg = 690;
 constexpr int mezokTeteje = listaTeteje + esemenyHelyek * sorMagassag + 10;
 
+constexpr int mezoMagassag = 22;
+constexpr int mezoSorKoz = 28;
+constexpr int feliratLejjebb = 4;  ///< a caption stands so much lower than its field
+
 /// Columns whose click selects the row: number, event, analogies.
 constexpr std::size_t kijeloloOszlopok = 3;
 
@@ -33,32 +36,13 @@ TForm10::TForm10(Allapot& allapot, FoAblak&, QWidget* fo) : QDialog(fo), allapot
     setObjectName("TForm10");
     setWindowTitle("Életesemények");
     QFont kicsi = font();
-    kicsi.setFamily("Ariel");
+    kicsi.setFamily(qszoveg(szovegFont));
     kicsi.setPixelSize(11);
     setFont(kicsi);
     setFixedSize(ablakSzelesseg, mezokTeteje + 150);
     listaEpitese();
     mezokEpitese();
-}
-
-void TForm10::cimke(const QString& szoveg, int x, int y) {
-    auto* uj = new QLabel(szoveg, this);
-    uj->move(x, y);
-}
-
-QSpinBox* TForm10::szamMezo(const char* nev, int also, int felso, const QRect& hely) {
-    auto* mezo = new QSpinBox(this);
-    mezo->setObjectName(nev);
-    mezo->setRange(also, felso);
-    mezo->setGeometry(hely);
-    return mezo;
-}
-
-QLineEdit* TForm10::szovegMezo(const char* nev, const QRect& hely) {
-    auto* mezo = new QLineEdit(this);
-    mezo->setObjectName(nev);
-    mezo->setGeometry(hely);
-    return mezo;
+    gombok();
 }
 
 QPushButton* TForm10::gomb(const char* nev, const QString& felirat, const QRect& hely,
@@ -69,11 +53,11 @@ QPushButton* TForm10::gomb(const char* nev, const QString& felirat, const QRect&
 }
 
 void TForm10::listaEpitese() {
-    cimke("Életesemény:", oszlopHelyek[1], 6);
-    cimke("Házanalógiák:", oszlopHelyek[2], 6);
-    cimke("Esemény ideje (GMT):", oszlopHelyek[3], 6);
-    cimke("Solar-évforduló helye:", oszlopHelyek[9], 6);
-    cimke("Solar-Nap:", oszlopHelyek[13], 6);
+    ujCimke(this, "Életesemény:", {oszlopHelyek[1], 6});
+    ujCimke(this, "Házanalógiák:", {oszlopHelyek[2], 6});
+    ujCimke(this, "Esemény ideje (GMT):", {oszlopHelyek[3], 6});
+    ujCimke(this, "Solar-évforduló helye:", {oszlopHelyek[9], 6});
+    ujCimke(this, "Solar-Nap:", {oszlopHelyek[13], 6});
     for (std::size_t sor = 0; sor < sorok_.size(); ++sor) {
         for (std::size_t oszlop = 0; oszlop < oszlopHelyek.size(); ++oszlop) {
             auto* felirat = new QLabel(this);
@@ -88,55 +72,58 @@ void TForm10::listaEpitese() {
     }
 }
 
+void TForm10::szamMezok(std::span<const TSzamMezo> leirasok, int y) {
+    for (const TSzamMezo& l : leirasok) {
+        if (l.felirat != nullptr) ujCimke(this, l.felirat, {l.feliratX, y + feliratLejjebb});
+        this->*l.mezo = ujSzamMezo(this, l.nev, l.also, l.felso, {l.x, y, l.szelesseg, mezoMagassag});
+    }
+}
+
 void TForm10::mezokEpitese() {
+    static constexpr TSzamMezo idoMezok[]{
+        {"Év:", 7, "SpinEditEv1", 1900, 2068, 28, 60, &TForm10::ev_},
+        {"Hó:", 95, "SpinEditHo1", 1, 12, 117, 44, &TForm10::ho_},
+        {"Nap:", 168, "SpinEditNap1", 1, 31, 196, 44, &TForm10::nap_},
+        {"Óra:", 250, "SpinEditOra1", 0, 23, 275, 44, &TForm10::ora_},
+        {"Perc:", 326, "SpinEditPerc1", 0, 59, 356, 44, &TForm10::perc_},
+        {"Mp:", 407, "SpinEditMperc1", 0, 59, 430, 44, &TForm10::mperc_},
+        {"Időzóna:", 484, "SpinEditIdozona1", -12, 12, 534, 44, &TForm10::idozona_},
+        {"Nyári id.:", 586, "SpinEditNyariidosz1", 0, 1, 636, 44, &TForm10::nyariIdo_}};
+    static constexpr TSzamMezo helyMezok[]{
+        {"Hossz.:", 323, "SpinEditHosszFok1", -180, 180, 364, 52, &TForm10::hosszFok_},
+        {nullptr, 0, "SpinEditHosszPerc1", 0, 59, 419, 44, &TForm10::hosszPerc_},
+        {"Szél.:", 469, "SpinEditSzelFok1", -180, 180, 500, 54, &TForm10::szelFok_},
+        {nullptr, 0, "SpinEditSzelPerc1", 0, 59, 557, 44, &TForm10::szelPerc_}};
+
     const int y = mezokTeteje;
-    cimke("Életesemény:", 7, y + 4);
-    esemeny_ = szovegMezo("Edit_Eletesemenyek1", {90, y, 230, 22});
-    cimke("Házanalógiák:", 335, y + 4);
-    analogia_ = szovegMezo("Edit_Hazanalogiak1", {420, y, 260, 22});
+    ujCimke(this, "Életesemény:", {7, y + feliratLejjebb});
+    esemeny_ = ujSzovegMezo(this, "Edit_Eletesemenyek1", {90, y, 230, mezoMagassag});
+    ujCimke(this, "Házanalógiák:", {335, y + feliratLejjebb});
+    analogia_ = ujSzovegMezo(this, "Edit_Hazanalogiak1", {420, y, 260, mezoMagassag});
 
-    const int y2 = y + 28;
-    cimke("Év:", 7, y2 + 4);
-    ev_ = szamMezo("SpinEditEv1", 1900, 2068, {28, y2, 60, 22});
-    cimke("Hó:", 95, y2 + 4);
-    ho_ = szamMezo("SpinEditHo1", 1, 12, {117, y2, 44, 22});
-    cimke("Nap:", 168, y2 + 4);
-    nap_ = szamMezo("SpinEditNap1", 1, 31, {196, y2, 44, 22});
-    cimke("Óra:", 250, y2 + 4);
-    ora_ = szamMezo("SpinEditOra1", 0, 23, {275, y2, 44, 22});
-    cimke("Perc:", 326, y2 + 4);
-    perc_ = szamMezo("SpinEditPerc1", 0, 59, {356, y2, 44, 22});
-    cimke("Mp:", 407, y2 + 4);
-    mperc_ = szamMezo("SpinEditMperc1", 0, 59, {430, y2, 44, 22});
-    cimke("Időzóna:", 484, y2 + 4);
-    idozona_ = szamMezo("SpinEditIdozona1", -12, 12, {534, y2, 44, 22});
-    cimke("Nyári id.:", 586, y2 + 4);
-    nyariIdo_ = szamMezo("SpinEditNyariidosz1", 0, 1, {636, y2, 44, 22});
+    szamMezok(idoMezok, y + mezoSorKoz);
 
-    const int y3 = y2 + 28;
-    cimke("Solar-évforduló helye:", 7, y3 + 4);
+    const int y3 = y + 2 * mezoSorKoz;
+    ujCimke(this, "Solar-évforduló helye:", {7, y3 + feliratLejjebb});
     helyseg_ = ujHelysegMezo(this, "ComboBoxHelyseg1");
-    helyseg_->setGeometry(125, y3, 195, 22);
-    cimke("Hossz.:", 323, y3 + 4);
-    hosszFok_ = szamMezo("SpinEditHosszFok1", -180, 180, {364, y3, 52, 22});
-    hosszPerc_ = szamMezo("SpinEditHosszPerc1", 0, 59, {419, y3, 44, 22});
-    cimke("Szél.:", 469, y3 + 4);
-    szelFok_ = szamMezo("SpinEditSzelFok1", -180, 180, {500, y3, 54, 22});
-    szelPerc_ = szamMezo("SpinEditSzelPerc1", 0, 59, {557, y3, 44, 22});
-    cimke("Solar-Nap:", 607, y3 + 4);
+    helyseg_->setGeometry(125, y3, 195, mezoMagassag);
+    szamMezok(helyMezok, y3);
+    ujCimke(this, "Solar-Nap:", {607, y3 + feliratLejjebb});
     solarNap_ = new QLabel(this);
     solarNap_->setObjectName("LabelSolarNap1");
-    solarNap_->setGeometry(666, y3, 24, 22);
-
-    const int y4 = y3 + 34;
-    gomb("Button_Rendben1", "Rendben", {90, y4, 100, 26}, &TForm10::Button_Rendben1Click)->setDefault(true);
-    gomb("Button_Torol1", "Töröl", {196, y4, 100, 26}, &TForm10::Button_Torol1Click);
-    gomb("Button_Rendben2", "Lista rendben", {440, y4, 120, 26}, &TForm10::Button_Rendben2Click);
-    gomb("Button_Megsem2", "Mégsem", {566, y4, 100, 26}, &TForm10::Button_Megsem2Click);
+    solarNap_->setGeometry(666, y3, 24, mezoMagassag);
 
     connect(helyseg_, &QComboBox::editTextChanged, this, &TForm10::ComboBoxHelyseg1Change);
     for (const QSpinBox* mezo : {ev_, ho_, nap_, ora_, perc_, mperc_})
         connect(mezo, &QSpinBox::valueChanged, this, &TForm10::SpinEditEv1Change);
+}
+
+void TForm10::gombok() {
+    const int y = mezokTeteje + 2 * mezoSorKoz + 34;
+    gomb("Button_Rendben1", "Rendben", {90, y, 100, 26}, &TForm10::Button_Rendben1Click)->setDefault(true);
+    gomb("Button_Torol1", "Töröl", {196, y, 100, 26}, &TForm10::Button_Torol1Click);
+    gomb("Button_Rendben2", "Lista rendben", {440, y, 120, 26}, &TForm10::Button_Rendben2Click);
+    gomb("Button_Megsem2", "Mégsem", {566, y, 100, 26}, &TForm10::Button_Megsem2Click);
 }
 
 void TForm10::megmutat(std::function<TSzuletes()> szuletes) {
@@ -166,12 +153,7 @@ TEletesemeny TForm10::mezok() const {
     TEletesemeny e;
     e.esemeny = szoveg(esemeny_->text());
     e.analogia = AnalogiaElemzes(szoveg(analogia_->text())).szoveg;
-    e.pillanat.ev = ev_->value();
-    e.pillanat.ho = ho_->value();
-    e.pillanat.nap = nap_->value();
-    e.pillanat.ora = ora_->value();
-    e.pillanat.perc = perc_->value();
-    e.pillanat.mperc = mperc_->value();
+    e.pillanat = pillanat();
     e.helyseg = szoveg(helyseg_->currentText());
     e.idozona = idozona_->value();
     e.nyariIdo = nyariIdo_->value();
@@ -226,28 +208,21 @@ void TForm10::Button_Megsem2Click() {
 }
 
 void TForm10::ComboBoxHelyseg1Change() {
-    TTelepules hely{};
-    TelepulesKeres(szoveg(helyseg_->currentText()), hely.idozona, hely.szelesseg, hely.hosszusagJel,
-                   hely.szelessegJel, hely.hosszusag);
+    const TTelepules& hely = TelepulesKeres(szoveg(helyseg_->currentText()));
     idozona_->setValue(hely.idozona);
     hosszFok_->setValue(fokPercre(hely.hosszusag).fok);
     hosszPerc_->setValue(fokPercre(hely.hosszusag).perc);
     szelFok_->setValue(fokPercre(hely.szelesseg).fok);
     szelPerc_->setValue(fokPercre(hely.szelesseg).perc);
-    nyariIdo_->setValue(allapot_.Szemely.idoTipus == TIdoTipus::ZN ? tablaNyariIdo() : 0);
+    nyariIdo_->setValue(EsemenyHelyNyariIdo(allapot_.Szemely.idoTipus, pillanat()));
 }
 
-int TForm10::tablaNyariIdo() const {
-    std::int32_t ev = ev_->value();
-    std::int32_t ho = ho_->value();
-    std::int32_t nap = nap_->value();
-    return NyariIdoE(DatumbolJulianszam(ev, ho, nap), ora_->value(), perc_->value(), mperc_->value());
+TPillanat TForm10::pillanat() const {
+    return {ev_->value(), ho_->value(), nap_->value(), ora_->value(), perc_->value(), mperc_->value()};
 }
 
-/// A change of the date or time asks the table whatever the kind of the clock; only a change of the place
-/// looks at the kind: meant so.
 void TForm10::SpinEditEv1Change() {
-    nyariIdo_->setValue(tablaNyariIdo());
+    nyariIdo_->setValue(NyariIdoE(pillanat()));
 }
 
 void TForm10::LEletesClick(const QString& felirat) {

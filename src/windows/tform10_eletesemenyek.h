@@ -2,6 +2,7 @@
 
 #include <array>
 #include <functional>
+#include <span>
 
 #include <QComboBox>
 #include <QDialog>
@@ -35,14 +36,22 @@ private slots:
     void SpinEditEv1Change();
 
 private:
+    /// A number field with its caption, if it has one of its own; horizontal places in pixels.
+    struct TSzamMezo {
+        const char* felirat;
+        int feliratX;
+        const char* nev;
+        int also, felso;
+        int x, szelesseg;
+        QSpinBox* TForm10::*mezo;
+    };
+    void szamMezok(std::span<const TSzamMezo> leirasok, int y);
     void mezokEpitese();
+    void gombok();
     void listaEpitese();
-    QSpinBox* szamMezo(const char* nev, int also, int felso, const QRect& hely);
-    QLineEdit* szovegMezo(const char* nev, const QRect& hely);
     QPushButton* gomb(const char* nev, const QString& felirat, const QRect& hely, void (TForm10::*kezelo)());
-    void cimke(const QString& szoveg, int x, int y);
     void LEletesClick(const QString& felirat);
-    int tablaNyariIdo() const;
+    TPillanat pillanat() const;
     void listaMutatasa();
     void mezokMutatasa(const TEletesemeny& e);
     TEletesemeny mezok() const;

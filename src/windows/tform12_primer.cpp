@@ -4,9 +4,9 @@
 
 #include "predictive/primer.h"
 #include "windows/ablakelhelyezes.h"
-#include "windows/gomb.h"
 #include "windows/qszoveg.h"
 #include "windows/qtvaszon.h"
+#include "windows/vezerlok.h"
 
 namespace {
 
@@ -27,13 +27,8 @@ TForm12::TForm12(Allapot& allapot, FoAblak&, QWidget* fo)
     setFixedSize(ablakMeret);
     const auto mezo = [this](const char* nev, const char* felirat, int also, int felso, int x,
                              int feliratSzelesseg) {
-        auto* cimke = new QLabel(felirat, this);
-        cimke->move(x, 15);
-        auto* uj = new QSpinBox(this);
-        uj->setObjectName(nev);
-        uj->setRange(also, felso);
-        uj->setGeometry(x + feliratSzelesseg, 10, 66, 26);
-        return uj;
+        ujCimke(this, felirat, {x, 15});
+        return ujSzamMezo(this, nev, also, felso, {x + feliratSzelesseg, 10, 66, 26});
     };
     ev_ = mezo("SpinEditEv1", "Kezdő év:", 1900, 2068, 10, 66);
     ho_ = mezo("SpinEditHo1", "hó:", 1, 12, 156, 28);
@@ -63,15 +58,16 @@ TForm12::TForm12(Allapot& allapot, FoAblak&, QWidget* fo)
 
 /// Symbol font in the list, and each head over its column: the columns are indented by that font's blanks.
 void TForm12::betukEsFejek() {
-    const QFont betu = cellaMagassaguBetu("Astro Symbols", 14, logicalDpiY());
+    const QFont betu = cellaMagassaguBetu(qszoveg(sajatSzimbolumFont), 14, logicalDpiY());
     memo1_->setFont(betu);
     const QFontMetrics meretek(betu);
     const int bal = memoBal + memo1_->frameWidth() + static_cast<int>(memo1_->document()->documentMargin());
     const QString datum = "2000.01.01.   ";
     label8_->move(bal + meretek.horizontalAdvance(datum) - label8_->sizeHint().width() / 2, fejTetej);
-    constexpr std::array<int, 4> koz{5, 20, 32, 46};  // blanks before each column
     for (std::size_t i = 0; i < fejek_.size(); ++i)
-        fejek_[i]->move(bal + meretek.horizontalAdvance(datum + "w" + QString(koz[i], u' ')), fejTetej);
+        fejek_[i]->move(bal + meretek.horizontalAdvance(
+                                  datum + "w" + QString(static_cast<qsizetype>(PrimerOszlopKoz[i]), u' ')),
+                        fejTetej);
 }
 
 void TForm12::megmutat(int kezdoEv) {

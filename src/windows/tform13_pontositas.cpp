@@ -13,9 +13,9 @@
 #include "drawing/betutipus.h"
 #include "rectify/pontositas.h"
 #include "windows/ablakelhelyezes.h"
-#include "windows/gomb.h"
 #include "windows/qszoveg.h"
 #include "windows/qtvaszon.h"
+#include "windows/vezerlok.h"
 
 namespace {
 
@@ -138,7 +138,7 @@ void TForm13::betuk() {
     constexpr int szovegMagassag = 16;  // pixels
     memo1_->setFont(cellaMagassaguBetu(qszoveg(szovegFont), szovegMagassag, logicalDpiY()));
     int magassag = szovegMagassag - 2;
-    do memo2_->setFont(cellaMagassaguBetu("Astro Symbols", ++magassag, logicalDpiY()));
+    do memo2_->setFont(cellaMagassaguBetu(qszoveg(sajatSzimbolumFont), ++magassag, logicalDpiY()));
     while (sorMagassag(*memo2_) < sorMagassag(*memo1_) && magassag < 2 * szovegMagassag);
     memo3_->setFont(memo2_->font());
 }

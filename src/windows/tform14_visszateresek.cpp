@@ -8,21 +8,10 @@
 #include "tables/fokperc.h"
 #include "tables/telepulesek.h"
 #include "windows/ablakelhelyezes.h"
-#include "windows/gomb.h"
 #include "windows/helysegmezo.h"
 #include "windows/idovalaszto.h"
 #include "windows/qszoveg.h"
-
-namespace {
-
-QSpinBox* kijelzo(QWidget* szulo, const char* nev, int also, int felso) {
-    auto* mezo = new QSpinBox(szulo);
-    mezo->setObjectName(nev);
-    mezo->setRange(also, felso);
-    return mezo;
-}
-
-}  // namespace
+#include "windows/vezerlok.h"
 
 TForm14::TForm14(Allapot& allapot, FoAblak&, QWidget* fo)
     : QDialog(fo),
@@ -39,48 +28,53 @@ TForm14::TForm14(Allapot& allapot, FoAblak&, QWidget* fo)
     listBox1_->setObjectName("ListBox1");
     listBox1_->setMinimumSize(220, 280);
 
-    auto* jobb = new QGridLayout;
-    jobb->addWidget(datumBekero1_, 0, 0, 1, 4);
-    constexpr std::array<const char*, 3> datumNevek{"SpinEditEv1", "SpinEditHo1", "SpinEditNap1"};
-    constexpr std::array<const char*, 3> editNevek{"Edit1", "Edit2", "Edit3"};
-    for (std::size_t i = 0; i < 3; ++i) {
-        datum_[i] = kijelzo(this, datumNevek[i], 0, 9999);
-        edit_[i] = new QLineEdit(this);
-        edit_[i]->setObjectName(editNevek[i]);
-        edit_[i]->setReadOnly(true);
-        edit_[i]->setMaximumWidth(60);
-        jobb->addWidget(datum_[i], 1, static_cast<int>(i));
-        jobb->addWidget(edit_[i], 2, static_cast<int>(i));
-    }
-    jobb->addWidget(ujIdoValaszto(this), 3, 0, 1, 4);
-    jobb->addWidget(new QLabel("Helység:", this), 4, 0);
-    jobb->addWidget(helyseg_, 4, 1, 1, 3);
-    constexpr std::array<const char*, 4> koordinataNevek{"SpinEditHosszFok1", "SpinEditHosszPerc1",
-                                                         "SpinEditSzelFok1", "SpinEditSzelPerc1"};
-    for (std::size_t i = 0; i < 4; ++i)
-        koordinata_[i] = kijelzo(this, koordinataNevek[i], i % 2 == 0 ? -180 : 0, i % 2 == 0 ? 180 : 59);
-    jobb->addWidget(new QLabel("Hosszúság (+/K, -/Ny):", this), 5, 0, 1, 2);
-    jobb->addWidget(koordinata_[0], 5, 2);
-    jobb->addWidget(koordinata_[1], 5, 3);
-    jobb->addWidget(new QLabel("Szélesség (+/É, -/D):", this), 6, 0, 1, 2);
-    jobb->addWidget(koordinata_[2], 6, 2);
-    jobb->addWidget(koordinata_[3], 6, 3);
-    jobb->setRowStretch(7, 1);
-    auto* rendben = ujGomb(this, "Button_Rendben1", "Rendben");
-    rendben->setDefault(true);
-    auto* megsem = ujGomb(this, "Button_Megsem1", "Mégsem");
-    jobb->addWidget(rendben, 8, 0, 1, 2);
-    jobb->addWidget(megsem, 8, 2, 1, 2);
-
     auto* egesz = new QGridLayout(this);
     egesz->addWidget(label1_, 0, 0);
     egesz->addWidget(listBox1_, 1, 0);
-    egesz->addLayout(jobb, 0, 1, 2, 1);
-    connect(rendben, &QPushButton::clicked, this, &TForm14::Button_Rendben1Click);
-    connect(megsem, &QPushButton::clicked, this, &TForm14::Button_Megsem1Click);
+    egesz->addLayout(mezok(), 0, 1, 2, 1);
     connect(this, &QDialog::rejected, this, [this] { allapot_.Megsem14 = true; });
     connect(listBox1_, &QListWidget::currentRowChanged, this, &TForm14::ListBox1Click);
     connect(helyseg_, &QComboBox::editTextChanged, this, &TForm14::ComboBoxHelyseg1Change);
+}
+
+QGridLayout* TForm14::mezok() {
+    auto* racs = new QGridLayout;
+    racs->addWidget(datumBekero1_, 0, 0, 1, 4);
+    constexpr std::array<const char*, 3> datumNevek{"SpinEditEv1", "SpinEditHo1", "SpinEditNap1"};
+    constexpr std::array<const char*, 3> editNevek{"Edit1", "Edit2", "Edit3"};
+    for (std::size_t i = 0; i < 3; ++i) {
+        datum_[i] = ujSzamMezo(this, datumNevek[i], 0, 9999);
+        edit_[i] = ujSzovegMezo(this, editNevek[i]);
+        edit_[i]->setReadOnly(true);
+        edit_[i]->setMaximumWidth(60);
+        racs->addWidget(datum_[i], 1, static_cast<int>(i));
+        racs->addWidget(edit_[i], 2, static_cast<int>(i));
+    }
+    racs->addWidget(ujIdoValaszto(this), 3, 0, 1, 4);
+    racs->addWidget(new QLabel("Helység:", this), 4, 0);
+    racs->addWidget(helyseg_, 4, 1, 1, 3);
+    koordinataMezok(*racs);
+    racs->setRowStretch(7, 1);
+    auto* rendben = ujGomb(this, "Button_Rendben1", "Rendben");
+    rendben->setDefault(true);
+    auto* megsem = ujGomb(this, "Button_Megsem1", "Mégsem");
+    racs->addWidget(rendben, 8, 0, 1, 2);
+    racs->addWidget(megsem, 8, 2, 1, 2);
+    connect(rendben, &QPushButton::clicked, this, &TForm14::Button_Rendben1Click);
+    connect(megsem, &QPushButton::clicked, this, &TForm14::Button_Megsem1Click);
+    return racs;
+}
+
+void TForm14::koordinataMezok(QGridLayout& racs) {
+    constexpr std::array<const char*, 4> nevek{"SpinEditHosszFok1", "SpinEditHosszPerc1", "SpinEditSzelFok1",
+                                               "SpinEditSzelPerc1"};
+    for (std::size_t i = 0; i < nevek.size(); ++i) {
+        const bool fok = i % 2 == 0;
+        koordinata_[i] = ujSzamMezo(this, nevek[i], fok ? -180 : 0, fok ? 180 : 59);
+        racs.addWidget(koordinata_[i], i < 2 ? 5 : 6, fok ? 2 : 3);
+    }
+    racs.addWidget(new QLabel("Hosszúság (+/K, -/Ny):", this), 5, 0, 1, 2);
+    racs.addWidget(new QLabel("Szélesség (+/É, -/D):", this), 6, 0, 1, 2);
 }
 
 void TForm14::kitoltes(const TVisszateresFajta& fajta, const TPillanat& kezdo) {
@@ -133,8 +127,6 @@ void TForm14::ListBox1Click() {
 }
 
 void TForm14::ComboBoxHelyseg1Change() {
-    TTelepules hely{};
-    TelepulesKeres(helyseg(), hely.idozona, hely.szelesseg, hely.hosszusagJel, hely.szelessegJel,
-                   hely.hosszusag);
+    const TTelepules& hely = TelepulesKeres(helyseg());
     koordinatak(hely.hosszusag, hely.szelesseg);
 }

@@ -6,6 +6,7 @@
 
 #include <QComboBox>
 #include <QDialog>
+#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -36,6 +37,8 @@ private slots:
     void ComboBoxHelyseg1Change();
 
 private:
+    QGridLayout* mezok();
+    void koordinataMezok(QGridLayout& racs);
     void koordinatak(std::int32_t hosszusag, std::int32_t szelesseg);
 
     Allapot& allapot_;

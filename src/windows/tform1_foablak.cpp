@@ -38,60 +38,6 @@ struct TMemoHely {
 constexpr TMemoHely kicsiMemo{600, 281};
 constexpr TMemoHely nagyMemo{144, 737};  ///< over the side table too, so that the note can be read
 
-using TKezelo = void (TForm1::*)();
-
-/// One line of the menu: a submenu if it has no name.
-struct TMenuSor {
-    int szint;
-    const char* felirat;
-    const char* nev;
-    TKezelo kezelo;
-};
-
-constexpr TMenuSor menuSorok[]{
-    {0, "Horoszkóp", nullptr, nullptr},
-    {1, "Személyi adatok", "Szemely_adatok1", &TForm1::Szemely_adatok1Click},
-    {1, "Új", "Uj1", &TForm1::Uj1Click},
-    {1, "Megnyitás", "Megnyitas1", &TForm1::Megnyitas1Click},
-    {1, "Mentés", "Mentes1", &TForm1::Mentes1Click},
-    {1, "Nyomtat", "Nyomtat1", &TForm1::Nyomtat1Click},
-    {1, "Nyomtatóbeállítás", "Nyomtato_beallitas1", &TForm1::Nyomtato_beallitas1Click},
-    {1, "Kilépés", "Kilepes1", &TForm1::Kilepes1Click},
-    {0, "Nézet", nullptr, nullptr},
-    {1, "Horizont", "Horizont1", &TForm1::Horizont1Click},
-    {1, "Mundán", "Mundan1", &TForm1::Mundan1Click},
-    {1, "Dekád", "Dekad1", &TForm1::Dekad1Click},
-    {0, "Progressziók", nullptr, nullptr},
-    {1, "Revolúció", nullptr, nullptr},
-    {2, "Szolár", "Szolar1", &TForm1::Szolar1Click},
-    {2, "Lunár", "Lunar1", &TForm1::Lunar1Click},
-    {2, "Merkúr Rev", "MerkurRev1", &TForm1::MerkurRev1Click},
-    {2, "Vénusz Rev", "VenuszRev1", &TForm1::VenuszRev1Click},
-    {2, "Mars Rev", "MarsRev1", &TForm1::MarsRev1Click},
-    {2, "Jupiter Rev", "JupiterRev1", &TForm1::JupiterRev1Click},
-    {2, "Szaturnusz Rev", "SzaturnuszRev1", &TForm1::SzaturnuszRev1Click},
-    {1, "Personar", nullptr, nullptr},
-    {2, "Asc Pers", "AscPers1", &TForm1::AscPers1Click},
-    {2, "Mc Pers", "McPers1", &TForm1::McPers1Click},
-    {2, "Hold Pers", "HoldPers1", &TForm1::HoldPers1Click},
-    {2, "Merkúr Pers", "MerkurPers1", &TForm1::MerkurPers1Click},
-    {2, "Vénusz Pers", "VenuszPers1", &TForm1::VenuszPers1Click},
-    {2, "Mars Pers", "MarsPers1", &TForm1::MarsPers1Click},
-    {2, "Jupiter Pers", "JupiterPers1", &TForm1::JupiterPers1Click},
-    {2, "Szaturnusz Pers", "SzaturnuszPers1", &TForm1::SzaturnuszPers1Click},
-    {2, "Uranusz Pers", "UranuszPers1", &TForm1::UranuszPers1Click},
-    {2, "Neptun Pers", "NeptunPers1", &TForm1::NeptunPers1Click},
-    {2, "Plutó Pers", "PlutoPers1", &TForm1::PlutoPers1Click},
-    {1, "Primer direkció", "Primer1", &TForm1::Primer1Click},
-    {1, "Tercier direkció", "Tercier1", &TForm1::Tercier1Click},
-    {1, "Szolár ingresszió", "Szolaringresszio11", &TForm1::Szolaringresszio11Click},
-    {0, "Beállítások", nullptr, nullptr},
-    {1, "Léptet", "Radixlepteto1", &TForm1::Radixlepteto1Click},
-    {1, "Orbisok", "Orbisok1", &TForm1::Orbisok1Click},
-    {1, "Mundánházas pontosítás", "Mundnhzaspontosts1", &TForm1::Mundnhzaspontosts1Click},
-    {1, "Szimbólumok", "Szimbolumok1", &TForm1::Szimbolumok1Click},
-};
-
 constexpr std::array<int, 7> statuszSzelessegek{48, 90, 150, 135, 150, 90, 750};
 
 }  // namespace
@@ -115,25 +61,7 @@ TForm1::TForm1()
     timer1_->start();
 }
 
-void TForm1::menuEpites() {
-    menuBar()->setObjectName("MainMenu1");
-    std::array<QMenu*, 3> menuk{};
-    for (const TMenuSor& sor : menuSorok) {
-        const auto szint = static_cast<std::size_t>(sor.szint);
-        if (sor.nev == nullptr) {
-            menuk[szint] =
-                szint == 0 ? menuBar()->addMenu(sor.felirat) : menuk[szint - 1]->addMenu(sor.felirat);
-            continue;
-        }
-        QAction* pont = menuk[szint - 1]->addAction(sor.felirat);
-        pont->setObjectName(sor.nev);
-        connect(pont, &QAction::triggered, this, [this, kezelo = sor.kezelo] {
-            if (kezelo == &TForm1::Kilepes1Click || JelszoKeres()) (this->*kezelo)();
-        });
-    }
-}
-
-void TForm1::gombEpites(int hely, const char* nev, const QString& felirat, TKezelo kezelo) {
+void TForm1::gombEpites(int hely, const char* nev, const QString& felirat, void (TForm1::*kezelo)()) {
     auto* gomb = new QPushButton(felirat, panel1_);
     gomb->setObjectName(nev);
     gomb->setGeometry(0, hely * gombMagassag, panelSzelesseg, gombMagassag);

@@ -1,15 +1,18 @@
 // The main window's commands: each opens what it needs and hands over to the core.
 
 #include <QCloseEvent>
+#include <QPainter>
+#include <QPrinter>
 
-#include "chart/kepletciklus.h"
 #include "chart/statuszsor.h"
+#include "commands/datumosdirekcio.h"
 #include "commands/kvhfajl.h"
 #include "commands/nezet.h"
 #include "commands/nyomtatas.h"
 #include "commands/orajel.h"
+#include "commands/orbisok.h"
 #include "commands/rendszerido.h"
-#include "drawing/betutipus.h"
+#include "commands/szemelyiadatok.h"
 #include "windows/ablakelhelyezes.h"
 #include "windows/ablakok.h"
 #include "windows/qszoveg.h"
@@ -92,14 +95,7 @@ void TForm1::Radixlepteto1Click() {
 
 void TForm1::Orbisok1Click() {
     ablakok_->form6.megmutat();
-    TKeplet& k = allapot_.Keplet;
-    k.Bolygok = k.bolygo;
-    k.Mozgasok = k.mozgas;
-    k.Hazcsucsok = k.hazCsucs;
-    FenyszogCiklus(allapot_);
-    Ervenytelenit();
-    allapot_.TeljesTorles = false;
-    RajzolKeplet();
+    OrbisUjraszamitas(allapot_, *this);
 }
 
 void TForm1::visszateres(const TVisszateresFajta& fajta) {
@@ -131,15 +127,7 @@ void TForm1::datumosDirekcio(bool tercier) {
     form3.megmutat();
     if (allapot_.Megsem3) return;
 
-    const std::string datum = datumSzoveg(allapot_.TercierDatum).append(" ");
-    const std::string& talalat = form3.eredmeny();
-    felulet_->rajzol([&](QtVaszon& vaszon) {
-        constexpr int magassag = 24;
-        vaszon.Betu(szovegFont, magassag);
-        vaszon.TextOut(55, 7, datum);
-        if (!talalat.empty()) vaszon.Betu(allapot_.Rajz.szimbolumFont, magassag);
-        vaszon.TextOut(175, 7, talalat.empty() ? form3.verdikt().uresKep : talalat);
-    });
+    felulet_->rajzol([&](QtVaszon& vaszon) { DatumosKiiras(vaszon, allapot_, form3.eredmeny()); });
     felulet_->megmutat();
 }
 

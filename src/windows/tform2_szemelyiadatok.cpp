@@ -1,30 +1,22 @@
 #include "windows/tform2_szemelyiadatok.h"
 
-#include <QButtonGroup>
+#include <initializer_list>
+
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
-#include <QVBoxLayout>
 
-#include "windows/gomb.h"
 #include "windows/helysegmezo.h"
 #include "windows/idovalaszto.h"
 #include "windows/qszoveg.h"
+#include "windows/vezerlok.h"
 
-TForm2::TForm2(Allapot& allapot, FoAblak& ablak, QWidget* fo)
-    : QDialog(fo), allapot_(allapot), ablak_(ablak) {
+TForm2::TForm2(Allapot& allapot, FoAblak&, QWidget* fo) : QDialog(fo), allapot_(allapot) {
     setObjectName("TForm2");
     setWindowTitle("Személyi adatok");
     epites();
-}
-
-QSpinBox* TForm2::szamMezo(const char* nev, int also, int felso) {
-    auto* mezo = new QSpinBox(this);
-    mezo->setObjectName(nev);
-    mezo->setRange(also, felso);
-    return mezo;
 }
 
 namespace {
@@ -35,85 +27,100 @@ QLabel* cimke(const QString& szoveg) {
     return felirat;
 }
 
+struct TFeliratosMezo {
+    const char* felirat;
+    QWidget* mezo;
+};
+
+/// Three fields in a row, each behind its caption.
+void haromMezo(QGridLayout& racs, int sor, std::initializer_list<TFeliratosMezo> mezok) {
+    int oszlop = 0;
+    for (const auto& [felirat, mezo] : mezok) {
+        racs.addWidget(cimke(felirat), sor, oszlop++);
+        racs.addWidget(mezo, sor, oszlop++);
+    }
+}
+
+void koordinataSor(QGridLayout& racs, int sor, const char* felirat, QWidget* fok, QWidget* perc) {
+    racs.addWidget(cimke(felirat), sor, 0, 1, 2);
+    racs.addWidget(cimke("fok:"), sor, 2);
+    racs.addWidget(fok, sor, 3);
+    racs.addWidget(cimke("perc:"), sor, 4);
+    racs.addWidget(perc, sor, 5);
+}
+
 }  // namespace
 
-void TForm2::epites() {
-    editNev1_ = new QLineEdit(this);
-    editNev1_->setObjectName("EditNev1");
-    spinEditEv1_ = szamMezo("SpinEditEv1", 1900, 2068);
-    spinEditHo1_ = szamMezo("SpinEditHo1", 1, 12);
-    spinEditNap1_ = szamMezo("SpinEditNap1", 1, 31);
-    spinEditOra1_ = szamMezo("SpinEditOra1", 0, 23);
-    spinEditPerc1_ = szamMezo("SpinEditPerc1", 0, 59);
-    spinEditMperc1_ = szamMezo("SpinEditMperc1", 0, 59);
+void TForm2::mezokEpitese() {
+    editNev1_ = ujSzovegMezo(this, "EditNev1");
+    spinEditEv1_ = ujSzamMezo(this, "SpinEditEv1", 1900, 2068);
+    spinEditHo1_ = ujSzamMezo(this, "SpinEditHo1", 1, 12);
+    spinEditNap1_ = ujSzamMezo(this, "SpinEditNap1", 1, 31);
+    spinEditOra1_ = ujSzamMezo(this, "SpinEditOra1", 0, 23);
+    spinEditPerc1_ = ujSzamMezo(this, "SpinEditPerc1", 0, 59);
+    spinEditMperc1_ = ujSzamMezo(this, "SpinEditMperc1", 0, 59);
     comboBoxHelyseg1_ = ujHelysegMezo(this, "ComboBoxHelyseg1");
-    spinEditIdozona1_ = szamMezo("SpinEditIdozona1", -12, 12);
-    spinEditNyariidosz1_ = szamMezo("SpinEditNyariidosz1", 0, 1);
-    spinEditHosszFok1_ = szamMezo("SpinEditHosszFok1", -180, 180);
-    spinEditHosszPerc1_ = szamMezo("SpinEditHosszPerc1", 0, 59);
-    spinEditSzelFok1_ = szamMezo("SpinEditSzelFok1", -180, 180);
-    spinEditSzelPerc1_ = szamMezo("SpinEditSzelPerc1", 0, 59);
+    spinEditIdozona1_ = ujSzamMezo(this, "SpinEditIdozona1", -12, 12);
+    spinEditNyariidosz1_ = ujSzamMezo(this, "SpinEditNyariidosz1", 0, 1);
+    spinEditHosszFok1_ = ujSzamMezo(this, "SpinEditHosszFok1", -180, 180);
+    spinEditHosszPerc1_ = ujSzamMezo(this, "SpinEditHosszPerc1", 0, 59);
+    spinEditSzelFok1_ = ujSzamMezo(this, "SpinEditSzelFok1", -180, 180);
+    spinEditSzelPerc1_ = ujSzamMezo(this, "SpinEditSzelPerc1", 0, 59);
     memo_Jegyzet1_ = new QPlainTextEdit(this);
     memo_Jegyzet1_->setObjectName("Memo_Jegyzet1");
     memo_Jegyzet1_->setTabChangesFocus(true);
+    connect(comboBoxHelyseg1_, &QComboBox::editTextChanged, this, &TForm2::ComboBoxHelyseg1Change);
+}
 
+QGroupBox* TForm2::idoValaszto() {
     auto* valaszto = ujIdoValaszto(this);
     idovalaszto_ = new QButtonGroup(valaszto);
     int index = 0;
     for (QRadioButton* radio : valaszto->findChildren<QRadioButton*>())
         idovalaszto_->addButton(radio, index++);
+    connect(idovalaszto_, &QButtonGroup::idClicked, this, &TForm2::RadioGroupIdovalaszto1Click);
+    return valaszto;
+}
 
+QHBoxLayout* TForm2::gombSor() {
+    auto* rendben = ujGomb(this, "Button_Rendben1", "Rendben");
+    rendben->setDefault(true);
+    auto* megsem = ujGomb(this, "Button_Megsem1", "Mégsem");
+    auto* esemenyek = ujGomb(this, "Button_Eletesemenyek1", "Életesemények");
+    connect(rendben, &QPushButton::clicked, this, &TForm2::Button_Rendben1Click);
+    connect(megsem, &QPushButton::clicked, this, &TForm2::Button_Megsem1Click);
+    connect(esemenyek, &QPushButton::clicked, this, &TForm2::Button_Eletesemenyek1Click);
+    connect(this, &QDialog::rejected, this, [this] { allapot_.Megsem2 = true; });
+    auto* sor = new QHBoxLayout;
+    sor->addWidget(esemenyek);
+    sor->addStretch();
+    sor->addWidget(rendben);
+    sor->addWidget(megsem);
+    return sor;
+}
+
+void TForm2::epites() {
+    mezokEpitese();
     auto* racs = new QGridLayout;
     racs->addWidget(cimke("Név:"), 0, 0);
     racs->addWidget(editNev1_, 0, 1, 1, 5);
-    const auto harom = [racs](int sor, const char* a, QWidget* wa, const char* b, QWidget* wb, const char* c,
-                              QWidget* wc) {
-        int oszlop = 0;
-        for (const auto& [felirat, mezo] : {std::pair{a, wa}, std::pair{b, wb}, std::pair{c, wc}}) {
-            racs->addWidget(cimke(felirat), sor, oszlop++);
-            racs->addWidget(mezo, sor, oszlop++);
-        }
-    };
-    harom(1, "Év:", spinEditEv1_, "Hó:", spinEditHo1_, "Nap:", spinEditNap1_);
-    harom(2, "Óra:", spinEditOra1_, "Perc:", spinEditPerc1_, "Mp:", spinEditMperc1_);
+    haromMezo(*racs, 1, {{"Év:", spinEditEv1_}, {"Hó:", spinEditHo1_}, {"Nap:", spinEditNap1_}});
+    haromMezo(*racs, 2, {{"Óra:", spinEditOra1_}, {"Perc:", spinEditPerc1_}, {"Mp:", spinEditMperc1_}});
     racs->addWidget(cimke("Helység:"), 3, 0);
     racs->addWidget(comboBoxHelyseg1_, 3, 1, 1, 5);
     racs->addWidget(cimke("Időzóna (+/K, -/Ny):"), 4, 0, 1, 2);
     racs->addWidget(spinEditIdozona1_, 4, 2, 1, 2);
     racs->addWidget(cimke("Nyári idősz. (0/1):"), 5, 0, 1, 2);
     racs->addWidget(spinEditNyariidosz1_, 5, 2, 1, 2);
-    const auto koordinata = [racs](int sor, const char* felirat, QWidget* fok, QWidget* perc) {
-        racs->addWidget(cimke(felirat), sor, 0, 1, 2);
-        racs->addWidget(cimke("fok:"), sor, 2);
-        racs->addWidget(fok, sor, 3);
-        racs->addWidget(cimke("perc:"), sor, 4);
-        racs->addWidget(perc, sor, 5);
-    };
-    koordinata(6, "Hosszúság (+/K, -/Ny):", spinEditHosszFok1_, spinEditHosszPerc1_);
-    koordinata(7, "Szélesség (+/É, -/D):", spinEditSzelFok1_, spinEditSzelPerc1_);
-    racs->addWidget(valaszto, 8, 0, 1, 6);
+    koordinataSor(*racs, 6, "Hosszúság (+/K, -/Ny):", spinEditHosszFok1_, spinEditHosszPerc1_);
+    koordinataSor(*racs, 7, "Szélesség (+/É, -/D):", spinEditSzelFok1_, spinEditSzelPerc1_);
+    racs->addWidget(idoValaszto(), 8, 0, 1, 6);
     racs->addWidget(cimke("Jegyzet:"), 9, 0);
     racs->addWidget(memo_Jegyzet1_, 9, 1, 1, 5);
 
-    auto* rendben = ujGomb(this, "Button_Rendben1", "Rendben");
-    rendben->setDefault(true);
-    auto* megsem = ujGomb(this, "Button_Megsem1", "Mégsem");
-    auto* esemenyek = ujGomb(this, "Button_Eletesemenyek1", "Életesemények");
-    auto* gombok = new QHBoxLayout;
-    gombok->addWidget(esemenyek);
-    gombok->addStretch();
-    gombok->addWidget(rendben);
-    gombok->addWidget(megsem);
     auto* egesz = new QVBoxLayout(this);
     egesz->addLayout(racs);
-    egesz->addLayout(gombok);
-
-    connect(rendben, &QPushButton::clicked, this, &TForm2::Button_Rendben1Click);
-    connect(megsem, &QPushButton::clicked, this, &TForm2::Button_Megsem1Click);
-    connect(this, &QDialog::rejected, this, [this] { allapot_.Megsem2 = true; });
-    connect(esemenyek, &QPushButton::clicked, this, &TForm2::Button_Eletesemenyek1Click);
-    connect(comboBoxHelyseg1_, &QComboBox::editTextChanged, this, &TForm2::ComboBoxHelyseg1Change);
-    connect(idovalaszto_, &QButtonGroup::idClicked, this, &TForm2::RadioGroupIdovalaszto1Click);
+    egesz->addLayout(gombSor());
 }
 
 void TForm2::kitoltes(bool ujKeplet) {

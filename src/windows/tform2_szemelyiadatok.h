@@ -2,11 +2,13 @@
 
 #include <functional>
 
+#include <QBoxLayout>
+#include <QButtonGroup>
 #include <QComboBox>
 #include <QDialog>
+#include <QGroupBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QRadioButton>
 #include <QSpinBox>
 
 #include "chart/foablak.h"
@@ -38,12 +40,13 @@ private slots:
 
 private:
     void epites();
-    QSpinBox* szamMezo(const char* nev, int also, int felso);
+    void mezokEpitese();
+    QGroupBox* idoValaszto();
+    QHBoxLayout* gombSor();
     void mutat(const TSzemelyiAdatok& mezok);
     void idoTipusMutatas(int index);
 
     Allapot& allapot_;
-    FoAblak& ablak_;
     QLineEdit* editNev1_ = nullptr;
     QSpinBox *spinEditEv1_ = nullptr, *spinEditHo1_ = nullptr, *spinEditNap1_ = nullptr;
     QSpinBox *spinEditOra1_ = nullptr, *spinEditPerc1_ = nullptr, *spinEditMperc1_ = nullptr;

@@ -3,12 +3,11 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 
-#include "predictive/ingresszio.h"
-#include "tables/efemerida.h"
+#include "commands/datumosdirekcio.h"
 #include "windows/ablakelhelyezes.h"
-#include "windows/gomb.h"
 #include "windows/qszoveg.h"
 #include "windows/qtvaszon.h"
+#include "windows/vezerlok.h"
 
 namespace {
 
@@ -26,17 +25,13 @@ TForm3::TForm3(Allapot& allapot, FoAblak&, QWidget* fo)
     setObjectName("TForm3");
     setWindowTitle("Tercier direkció");
     setFixedSize(ablakMeret);
-    auto* cim = new QLabel("Esemény dátuma:", this);
-    cim->setObjectName("Datum_bekero1");
-    cim->move(24, 12);
+    ujCimke(this, "Esemény dátuma:", {24, 12})->setObjectName("Datum_bekero1");
     ev_ = mezo("SpinEditEv1", "Év:", 1900, 2068, 24);
     ho_ = mezo("SpinEditHo1", "Hó:", 0, 13, 150);
     nap_ = mezo("SpinEditNap1", "Nap:", 0, 32, 256);
     orbisFelirat_ = new QLabel("Orbis napokban:", this);
     orbisFelirat_->setObjectName("Orbis_napokban1");
-    orbis_ = new QSpinBox(this);
-    orbis_->setObjectName("SpinEditOrbis1");
-    orbis_->setRange(1, 99);
+    orbis_ = ujSzamMezo(this, "SpinEditOrbis1", 1, 99);
     direkcio1_ = new QLabel(this);
     direkcio1_->setObjectName("Tercier_Direkcio1");
     direkcio1_->setGeometry(24, 120, ablakMeret.width() - 48, 22);
@@ -58,13 +53,8 @@ TForm3::TForm3(Allapot& allapot, FoAblak&, QWidget* fo)
 }
 
 QSpinBox* TForm3::mezo(const char* nev, const char* felirat, int also, int felso, int x) {
-    auto* cimke = new QLabel(felirat, this);
-    cimke->move(x, 45);
-    auto* uj = new QSpinBox(this);
-    uj->setObjectName(nev);
-    uj->setRange(also, felso);
-    uj->setGeometry(x + 36, 40, 62, 26);
-    return uj;
+    ujCimke(this, felirat, {x, 45});
+    return ujSzamMezo(this, nev, also, felso, {x + 36, 40, 62, 26});
 }
 
 void TForm3::megmutat() {
@@ -75,12 +65,9 @@ void TForm3::megmutat() {
     orbisFelirat_->move(orbisFeliratBal + eltolas, orbisTetej);
     orbis_->move(orbisMezoBal + eltolas, orbisTetej);
     direkcio2_->setFont(cellaMagassaguBetu(qszoveg(allapot_.Rajz.szimbolumFont), 18, logicalDpiY()));
+    datumMutatas(allapot_.TercierDatum);
     {
-        const QSignalBlocker blokkok[]{QSignalBlocker(ev_), QSignalBlocker(ho_), QSignalBlocker(nap_),
-                                       QSignalBlocker(orbis_)};
-        ev_->setValue(allapot_.TercierDatum.ev);
-        ho_->setValue(allapot_.TercierDatum.ho);
-        nap_->setValue(allapot_.TercierDatum.nap);
+        const QSignalBlocker blokk(orbis_);
         orbis_->setValue(static_cast<int>(alapOrbis));
     }
     DatumChange();
@@ -88,37 +75,27 @@ void TForm3::megmutat() {
     exec();
 }
 
-void TForm3::keres() {
-    const std::string& hely = allapot_.VisszaMod ? allapot_.helysegMentett : allapot_.Keplet.helyseg;
-    const TPillanat datum{ev_->value(), ho_->value(), nap_->value(), 0, 0, 0};
-    eredmeny_ =
-        allapot_.TercierAblak
-            ? TercierKeres(allapot_, allapot_.SzuletesiPillanat, datum, hely, orbis_->value()).TercierSzoveg
-            : IngresszioKeres(allapot_, allapot_.SzuletesiPillanat, datum, hely);
-    direkcio1_->setText(eredmeny_.empty() ? verdikt().nincs : verdikt().van);
+TPillanat TForm3::datum() const {
+    return {ev_->value(), ho_->value(), nap_->value(), 0, 0, 0};
 }
 
-/// The spins roll over; the year stops at its ends while the month still wraps.
-void TForm3::atfordulas() {
+void TForm3::datumMutatas(const TPillanat& d) {
     const QSignalBlocker blokkok[]{QSignalBlocker(ev_), QSignalBlocker(ho_), QSignalBlocker(nap_)};
-    if (nap_->value() == 32) {
-        nap_->setValue(1);
-        ho_->setValue(ho_->value() + 1);
-    } else if (nap_->value() == 0) {
-        nap_->setValue(31);
-        ho_->setValue(ho_->value() - 1);
-    }
-    if (ho_->value() == 13) {
-        ho_->setValue(1);
-        ev_->setValue(ev_->value() + 1);
-    } else if (ho_->value() == 0) {
-        ho_->setValue(12);
-        ev_->setValue(ev_->value() - 1);
-    }
+    ev_->setValue(d.ev);
+    ho_->setValue(d.ho);
+    nap_->setValue(d.nap);
+}
+
+void TForm3::keres() {
+    eredmeny_ = DatumosKereses(allapot_, datum(), orbis_->value());
+    const TVerdikt& verdikt = DatumosVerdikt(allapot_);
+    direkcio1_->setText(eredmeny_.empty() ? verdikt.nincs : verdikt.van);
 }
 
 void TForm3::DatumChange() {
-    atfordulas();
+    TPillanat d = datum();
+    DatumAtfordulas(d);
+    datumMutatas(d);
     keres();
     direkcio2_->setText(qszoveg(eredmeny_));
 }
@@ -129,12 +106,8 @@ void TForm3::SpinEditOrbis1Change() {
 }
 
 void TForm3::Button_Rendben1Click() {
-    TPillanat& datum = allapot_.TercierDatum;
-    datum = {ev_->value(), ho_->value(), nap_->value(), 0, 0, 0};
-    JulianszambolDatum(DatumbolJulianszam(datum.ev, datum.ho, datum.nap), datum.ev, datum.ho, datum.nap);
-    allapot_.TercierOrbisNap = orbis_->value();
+    DatumosRendben(allapot_, datum(), orbis_->value());
     keres();
-    allapot_.Megsem3 = false;
     accept();
 }
 

@@ -8,7 +8,6 @@
 
 #include "chart/allapot.h"
 #include "chart/foablak.h"
-#include "predictive/tercier.h"
 
 /// Date dialog of the tertiary directions and of the solar ingress; `TercierAblak` of the state tells which.
 class TForm3 : public QDialog {
@@ -21,9 +20,8 @@ public:
     /// and waits.
     void megmutat();
 
-    /// The text of the last search, and what it means.
+    /// The text of the last search.
     const std::string& eredmeny() const { return eredmeny_; }
-    const TVerdikt& verdikt() const { return allapot_.TercierAblak ? tercierVerdikt : ingresszioVerdikt; }
 
 private slots:
     void Button_Rendben1Click();
@@ -34,7 +32,8 @@ private slots:
 private:
     QSpinBox* mezo(const char* nev, const char* felirat, int also, int felso, int x);
     void keres();
-    void atfordulas();
+    TPillanat datum() const;
+    void datumMutatas(const TPillanat& datum);
 
     Allapot& allapot_;
     QWidget* fo_;

@@ -8,8 +8,8 @@
 
 #include "commands/hang.h"
 #include "windows/ablakelhelyezes.h"
-#include "windows/gomb.h"
 #include "windows/qszoveg.h"
+#include "windows/vezerlok.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 #include "drawing/betutipus.h"
 #include "tables/szotar.h"
 #include "windows/ablakelhelyezes.h"
-#include "windows/gomb.h"
 #include "windows/qszoveg.h"
+#include "windows/vezerlok.h"
 
 namespace {
 

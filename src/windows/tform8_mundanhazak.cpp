@@ -5,8 +5,8 @@
 #include "drawing/betutipus.h"
 #include "tables/szotar.h"
 #include "windows/ablakelhelyezes.h"
-#include "windows/gomb.h"
 #include "windows/qszoveg.h"
+#include "windows/vezerlok.h"
 
 namespace {
 

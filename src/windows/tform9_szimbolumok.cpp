@@ -4,8 +4,8 @@
 
 #include "windows/ablakelhelyezes.h"
 #include "windows/betumappak.h"
-#include "windows/gomb.h"
 #include "windows/qszoveg.h"
+#include "windows/vezerlok.h"
 
 TForm9::TForm9(Allapot& allapot, FoAblak&, QWidget* fo)
     : QDialog(fo), allapot_(allapot), fo_(fo), comboBox1_(new QComboBox(this)) {

@@ -24,9 +24,7 @@ TJson nyariIdoMuvelet(const TJson& kerelem) {
 }
 
 TJson telepulesMuvelet(const TJson& kerelem) {
-    TTelepules t{};
-    TelepulesKeres(szovegMezo(kerelem, "nev"), t.idozona, t.szelesseg, t.hosszusagJel, t.szelessegJel,
-                   t.hosszusag);
+    const TTelepules& t = TelepulesKeres(szovegMezo(kerelem, "nev"));
     return {{"idozona", t.idozona},
             {"szelesseg", t.szelesseg},
             {"hosszusag", t.hosszusag},

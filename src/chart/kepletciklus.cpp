@@ -1,12 +1,17 @@
 #include "chart/kepletciklus.h"
 
+#include <string>
+
 #include "engine/bolygohelyek.h"
 #include "engine/csillagido.h"
 #include "engine/fenyszogek.h"
 #include "engine/hazak.h"
+#include "engine/keszlet.h"
 #include "engine/uralkodok.h"
 #include "tables/nyariido.h"
+#include "tables/pillanat.h"
 #include "tables/telepulesek.h"
+#include "tables/tomb.h"
 
 void HelyAdatok(Allapot& allapot) {
     TKeplet& k = allapot.Keplet;

@@ -1,6 +1,8 @@
 #include "chart/statuszsor.h"
 
+#include <array>
 #include <cstdlib>
+#include <string_view>
 
 #include "tables/szamtan.h"
 #include "tables/szoveg.h"

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "chart/allapot.h"
+#include "tables/pillanat.h"
+#include "tables/szotar.h"
 
 /// Panels of the status bar.
 enum StatuszPanel {

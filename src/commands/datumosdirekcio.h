@@ -5,6 +5,7 @@
 #include "chart/allapot.h"
 #include "drawing/vaszon.h"
 #include "predictive/tercier.h"
+#include "tables/pillanat.h"
 
 /// The directions of a date: tertiary directions, or the solar ingress; `TercierAblak` tells which. What
 /// their dialog does with its fields.

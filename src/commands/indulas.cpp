@@ -1,13 +1,16 @@
 #include "commands/indulas.h"
 
+#include <array>
 #include <filesystem>
 #include <fstream>
+#include <system_error>
 
 #include "chart/kepletciklus.h"
 #include "chart/statuszsor.h"
 #include "commands/rendszerido.h"
 #include "drawing/betutipus.h"
 #include "files/cimfajl.h"
+#include "tables/pillanat.h"
 
 namespace {
 

@@ -1,13 +1,19 @@
 #include "commands/kvhfajl.h"
 
+#include <array>
 #include <charconv>
+#include <cstdint>
 #include <fstream>
 #include <istream>
+#include <system_error>
 
 #include "chart/kepletciklus.h"
 #include "commands/szemelyiadatok.h"
 #include "files/kvhrekord.h"
 #include "tables/fokperc.h"
+#include "tables/pillanat.h"
+#include "tables/szotar.h"
+#include "tables/tomb.h"
 
 namespace {
 

@@ -1,5 +1,7 @@
 #include "commands/lepteto.h"
 
+#include <cstdint>
+
 #include "tables/pillanat.h"
 #include "tables/szamtan.h"
 

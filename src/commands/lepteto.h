@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "chart/allapot.h"
+#include "tables/pillanat.h"
 
 /// The stepper: sixteen buttons that move the moment of the chart on screen. The next tick does the rest.
 

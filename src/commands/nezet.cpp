@@ -1,10 +1,13 @@
 #include "commands/nezet.h"
 
+#include <array>
+#include <string>
 #include <string_view>
 
 #include "chart/kepletciklus.h"
 #include "chart/kepletmutatas.h"
 #include "chart/statuszsor.h"
+#include "tables/tomb.h"
 
 namespace {
 

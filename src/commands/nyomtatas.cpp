@@ -1,10 +1,13 @@
 #include "commands/nyomtatas.h"
 
+#include <array>
+#include <string_view>
+
 #include "chart/statuszsor.h"
 #include "commands/nezet.h"
-#include "drawing/betutipus.h"
 #include "drawing/geometria.h"
 #include "drawing/kepletrajz.h"
+#include "tables/pillanat.h"
 #include "tables/szamtan.h"
 #include "tables/szotar.h"
 #include "tables/szoveg.h"

@@ -1,13 +1,18 @@
 #include "commands/orajel.h"
 
+#include <array>
 #include <string>
+#include <string_view>
 
 #include "chart/kepletciklus.h"
 #include "chart/kepletmutatas.h"
 #include "chart/statuszsor.h"
 #include "commands/rendszerido.h"
+#include "engine/uralkodok.h"
+#include "tables/pillanat.h"
 #include "tables/szotar.h"
 #include "tables/szoveg.h"
+#include "tables/tomb.h"
 
 namespace {
 

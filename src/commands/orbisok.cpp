@@ -2,6 +2,7 @@
 
 #include "chart/kepletciklus.h"
 #include "chart/kepletmutatas.h"
+#include "engine/keszlet.h"
 
 void OrbisUjraszamitas(Allapot& allapot, FoAblak& ablak) {
     // A search may have left another chart in the work tables.

@@ -2,8 +2,11 @@
 
 #include <array>
 #include <charconv>
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
+#include <system_error>
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "chart/allapot.h"
+#include "tables/pillanat.h"
 
 /// Reads a short date as groups of decimal digits, each other character being one separator: the group of
 /// four digits is the year; of the others the first is the month, the second the day. A month above 12 takes

@@ -1,6 +1,7 @@
 #include "commands/szemelyiadatok.h"
 
 #include <algorithm>
+#include <array>
 
 #include "chart/kepletciklus.h"
 #include "chart/kepletmutatas.h"

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "chart/allapot.h"
 #include "chart/foablak.h"
+#include "tables/pillanat.h"
+#include "tables/szotar.h"
 
 /// Entering a chart: what the personal-data dialog does with its fields.
 

@@ -1,6 +1,7 @@
 #include "drawing/betutipus.h"
 
 #include <algorithm>
+#include <string_view>
 
 #include "tables/szotar.h"
 

@@ -1,11 +1,14 @@
 #include "drawing/bolygorajz.h"
 
 #include <algorithm>
+#include <array>
 #include <string>
 
 #include "drawing/oldalpanel.h"
+#include "drawing/vaszon.h"
 #include "tables/szamtan.h"
 #include "tables/szotar.h"
+#include "tables/tomb.h"
 
 namespace {
 

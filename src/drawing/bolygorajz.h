@@ -3,7 +3,9 @@
 #include <string_view>
 
 #include "chart/allapot.h"
+#include "drawing/geometria.h"
 #include "drawing/kerek.h"
+#include "engine/keszlet.h"
 
 /// Bodies on the wheels: glyphs at their spread places, motion letters, labels, pointers to the true places.
 

@@ -1,7 +1,9 @@
 #include "drawing/fenyszograjz.h"
 
+#include "drawing/vaszon.h"
 #include "tables/szamtan.h"
 #include "tables/szotar.h"
+#include "tables/tomb.h"
 
 namespace {
 

@@ -2,8 +2,10 @@
 
 #include <string_view>
 
+#include "drawing/geometria.h"
 #include "drawing/kerek.h"
 #include "engine/fenyszogek.h"
+#include "engine/keszlet.h"
 
 /// Aspect lines. The pen style runs through its five kinds from line to line and carries no meaning.
 

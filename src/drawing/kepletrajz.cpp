@@ -1,14 +1,17 @@
 #include "drawing/kepletrajz.h"
 
+#include <string>
 #include <utility>
 
 #include "drawing/bolygorajz.h"
 #include "drawing/fenyszograjz.h"
 #include "drawing/geometria.h"
+#include "drawing/kerek.h"
 #include "drawing/keretek.h"
 #include "drawing/oldalpanel.h"
 #include "drawing/rendezett.h"
 #include "engine/fenyszogpontok.h"
+#include "engine/uralkodok.h"
 
 namespace {
 

@@ -2,6 +2,7 @@
 
 #include <numbers>
 
+#include "drawing/vaszon.h"
 #include "tables/szamtan.h"
 #include "tables/szotar.h"
 

@@ -3,8 +3,10 @@
 #include <string>
 #include <string_view>
 
+#include "drawing/geometria.h"
 #include "drawing/kerek.h"
 #include "engine/keszlet.h"
+#include "tables/tomb.h"
 
 /// Frames of the three kinds of wheel. Circles come first and from the outside inward, since each erases what
 /// stood inside it.

@@ -1,5 +1,8 @@
 #include "drawing/oldalpanel.h"
 
+#include <cstddef>
+#include <string_view>
+
 #include "tables/szamtan.h"
 #include "tables/szotar.h"
 

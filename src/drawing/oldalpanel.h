@@ -4,6 +4,7 @@
 #include <string>
 
 #include "chart/allapot.h"
+#include "engine/keszlet.h"
 
 /// Houses whose cusps the side panel and the cusp labels show.
 inline constexpr std::array<int, 6> feliratosCsucsok{1, 2, 3, 10, 11, 12};

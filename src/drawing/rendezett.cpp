@@ -5,6 +5,7 @@
 
 #include "tables/szamtan.h"
 #include "tables/szotar.h"
+#include "tables/tomb.h"
 
 void RendezettEpites(TRendezett& Rendezett, const TBolygok& bolygo, const TMozgasok& mozgas) {
     for (int i = 1; i <= 10; ++i) {

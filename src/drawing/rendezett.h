@@ -1,6 +1,7 @@
 #pragma once
 
 #include "chart/allapot.h"
+#include "engine/keszlet.h"
 
 /// Fills the table from the true longitudes: degrees and minutes within the sign, letter, motion.
 /// @param bolygo  degrees

@@ -1,5 +1,8 @@
 #include "engine/bolygohelyek.h"
 
+#include <array>
+#include <cstddef>
+
 #include "tables/efemerida.h"
 #include "tables/szamtan.h"
 

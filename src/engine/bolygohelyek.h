@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include "engine/keszlet.h"
 
 /// Positions of the ten bodies by a straight line between two rows of `Efemerida`.

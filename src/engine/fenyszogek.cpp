@@ -1,5 +1,8 @@
 #include "engine/fenyszogek.h"
 
+#include <array>
+#include <cstddef>
+
 #include "tables/szamtan.h"
 #include "tables/szotar.h"
 

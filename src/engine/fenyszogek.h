@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/keszlet.h"
+#include "tables/tomb.h"
 
 /// Orbs in degrees: rows Ascendant, Midheaven, Sun to Pluto; columns the nine aspects of `fenyszogSzog`.
 using TOrbisTabla = Matrix<double, 12, 9>;

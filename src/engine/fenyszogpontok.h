@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/keszlet.h"
+#include "tables/tomb.h"
 
 /// The sixteen aspect points of each body, degrees, 0..360: column 1 is the body itself, the others stand in
 /// the order of `FenyszogEltolasok`.

@@ -1,6 +1,9 @@
 #include "engine/hazak.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
+#include <initializer_list>
 
 #include "tables/haztablak.h"
 #include "tables/szamtan.h"

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include "engine/keszlet.h"
 
 /// Twelve Placidus cusps from the local sidereal time and the latitude, by interpolation in `HazTabla`

@@ -1,6 +1,8 @@
 #include "engine/mundanlanc.h"
 
+#include <array>
 #include <cmath>
+#include <string_view>
 
 #include "engine/bolygohelyek.h"
 #include "engine/csillagido.h"

@@ -6,6 +6,7 @@
 #include "engine/fenyszogek.h"
 #include "engine/keszlet.h"
 #include "engine/mundantablak.h"
+#include "tables/tomb.h"
 
 /// The chart pipeline a second time, for trial charts: the same routines on a set of tables of its own, so
 /// that nothing of the chart on screen is touched, and at its end the verdict on the mundane houses.

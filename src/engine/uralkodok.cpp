@@ -1,5 +1,7 @@
 #include "engine/uralkodok.h"
 
+#include <string_view>
+
 #include "tables/szamtan.h"
 #include "tables/szotar.h"
 

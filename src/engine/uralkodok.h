@@ -3,6 +3,7 @@
 #include <string>
 
 #include "engine/keszlet.h"
+#include "tables/tomb.h"
 
 /// Rulers and placement of one chart.
 struct TUralkodok {

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 
 #include "tables/szotar.h"
+#include "tables/tomb.h"
 
 namespace {
 

@@ -1,7 +1,10 @@
 #include "events/eletesemenyek.h"
 
+#include <string_view>
+
 #include "engine/bolygohelyek.h"
 #include "engine/csillagido.h"
+#include "engine/keszlet.h"
 #include "engine/uralkodok.h"
 #include "predictive/solarkereses.h"
 #include "tables/efemerida.h"
@@ -9,6 +12,7 @@
 #include "tables/pillanat.h"
 #include "tables/szotar.h"
 #include "tables/szoveg.h"
+#include "tables/tomb.h"
 
 namespace {
 

@@ -1,9 +1,12 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string>
 
 #include "chart/allapot.h"
+#include "tables/pillanat.h"
+#include "tables/szotar.h"
 
 /// The life events: the store's operations, the texts of the list, and the solar return before an event.
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "chart/allapot.h"
+#include "tables/tomb.h"
 
 /// Name of the title file, looked for in the process's current directory.
 inline constexpr const char* cimFajlNev = "Korvend.txt";

@@ -2,11 +2,13 @@
 
 #include "engine/bolygohelyek.h"
 #include "engine/fenyszogek.h"
+#include "engine/keszlet.h"
 #include "predictive/natalis.h"
 #include "predictive/solarkereses.h"
 #include "tables/efemerida.h"
 #include "tables/pillanat.h"
 #include "tables/szotar.h"
+#include "tables/tomb.h"
 
 namespace {
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "chart/allapot.h"
+#include "tables/pillanat.h"
 
 /// Half-width of the solar ingress, degrees: half a day of the year's circle.
 inline constexpr long double IngresszioTures = 0.4931506849315068L;

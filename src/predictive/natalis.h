@@ -1,6 +1,9 @@
 #pragma once
 
+#include <string>
+
 #include "chart/allapot.h"
+#include "tables/pillanat.h"
 
 /// Makes the birth the chart's moment and computes its bodies: place by name, summer time looked up, the
 /// sidereal step, `Bolygok`. The moment stays so, also where a step or a derived chart was on screen: meant

@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string_view>
+#include <utility>
 
 #include "chart/statuszsor.h"
+#include "engine/fenyszogpontok.h"
 #include "engine/uralkodok.h"
 #include "predictive/solarkereses.h"
 #include "tables/efemerida.h"
@@ -11,6 +14,7 @@
 #include "tables/pillanat.h"
 #include "tables/szamtan.h"
 #include "tables/szotar.h"
+#include "tables/tomb.h"
 
 namespace {
 

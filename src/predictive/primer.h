@@ -1,12 +1,15 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
 
 #include "chart/allapot.h"
+#include "engine/keszlet.h"
 #include "predictive/orbisablak.h"
+#include "tables/pillanat.h"
 #include "tables/szamtan.h"
 
 /// Primary directions, and the routines on the equator that rectification uses too.

@@ -1,13 +1,17 @@
 #include "predictive/tercier.h"
 
+#include <string_view>
+
 #include "engine/fenyszogek.h"
 #include "engine/hazak.h"
+#include "engine/keszlet.h"
 #include "engine/uralkodok.h"
 #include "predictive/natalis.h"
 #include "predictive/orbisablak.h"
 #include "tables/pillanat.h"
 #include "tables/szamtan.h"
 #include "tables/szotar.h"
+#include "tables/tomb.h"
 
 namespace {
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "chart/allapot.h"
+#include "tables/pillanat.h"
 
 /// Degrees that the bodies are turned back for each day of life.
 inline constexpr long double TercierKulcs = 0.013888706365503L;

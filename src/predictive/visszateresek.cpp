@@ -1,17 +1,23 @@
 #include "predictive/visszateresek.h"
 
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
 #include "chart/kepletciklus.h"
 #include "chart/kepletmutatas.h"
 #include "chart/statuszsor.h"
 #include "engine/bolygohelyek.h"
 #include "engine/csillagido.h"
 #include "engine/hazak.h"
+#include "engine/keszlet.h"
 #include "predictive/athaladas.h"
 #include "tables/efemerida.h"
 #include "tables/nyariido.h"
 #include "tables/pillanat.h"
 #include "tables/szamtan.h"
 #include "tables/telepulesek.h"
+#include "tables/tomb.h"
 
 namespace {
 

@@ -5,6 +5,7 @@
 
 #include "chart/allapot.h"
 #include "chart/foablak.h"
+#include "tables/pillanat.h"
 #include "tables/szotar.h"
 
 /// Returns: the moments at which a body comes back to its Radix longitude (revolutions), or the Sun passes a

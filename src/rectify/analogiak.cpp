@@ -1,10 +1,14 @@
 #include "rectify/analogiak.h"
 
 #include <algorithm>
+#include <utility>
 
+#include "engine/keszlet.h"
+#include "engine/mundantablak.h"
 #include "engine/uralkodok.h"
 #include "tables/szamtan.h"
 #include "tables/szotar.h"
+#include "tables/tomb.h"
 
 namespace {
 

@@ -1,8 +1,13 @@
 #include "rectify/mundankereses.h"
 
+#include <cstdint>
+#include <optional>
+#include <string>
+
 #include "chart/kepletciklus.h"
 #include "chart/statuszsor.h"
 #include "commands/lepteto.h"
+#include "engine/fenyszogek.h"
 #include "tables/efemerida.h"
 #include "tables/pillanat.h"
 #include "tables/telepulesek.h"

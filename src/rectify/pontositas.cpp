@@ -1,9 +1,18 @@
 #include "rectify/pontositas.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <initializer_list>
+#include <string_view>
+#include <utility>
 
 #include "chart/statuszsor.h"
+#include "engine/fenyszogpontok.h"
+#include "engine/keszlet.h"
+#include "predictive/orbisablak.h"
 #include "tables/efemerida.h"
 #include "tables/fokperc.h"
 #include "tables/haztablak.h"
@@ -11,6 +20,7 @@
 #include "tables/szamtan.h"
 #include "tables/szotar.h"
 #include "tables/szoveg.h"
+#include "tables/tomb.h"
 
 namespace {
 

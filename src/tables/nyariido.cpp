@@ -1,6 +1,7 @@
 #include "tables/nyariido.h"
 
 #include <chrono>
+#include <cstddef>
 
 #include "tables/efemerida.h"
 

@@ -1,5 +1,7 @@
 #include "windows/ablakok.h"
 
+#include "commands/szemelyiadatok.h"
+#include "events/eletesemenyek.h"
 #include "tables/fokperc.h"
 
 namespace {

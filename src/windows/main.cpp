@@ -5,6 +5,9 @@
 
 #include "windows/ablakok.h"
 #include "windows/betumappak.h"
+#include "windows/parbeszed.h"
+#include "windows/tform11_jelszo.h"
+#include "windows/tform1_foablak.h"
 
 int main(int argc, char** argv) {
     QApplication program(argc, argv);

@@ -8,6 +8,7 @@
 #include "tables/pillanat.h"
 #include "tables/szotar.h"
 #include "tables/telepulesek.h"
+#include "tables/tomb.h"
 #include "windows/ablakelhelyezes.h"
 #include "windows/helysegmezo.h"
 #include "windows/qszoveg.h"

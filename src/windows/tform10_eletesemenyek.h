@@ -14,6 +14,7 @@
 #include "chart/allapot.h"
 #include "chart/foablak.h"
 #include "events/eletesemenyek.h"
+#include "tables/pillanat.h"
 
 /// Life events: the list of up to twenty, and the fields of the one that is typed or selected.
 class TForm10 : public QDialog {

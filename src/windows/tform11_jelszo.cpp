@@ -4,6 +4,7 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
+#include "chart/allapot.h"
 #include "commands/jelszo.h"
 #include "windows/ablakelhelyezes.h"
 

@@ -2,7 +2,9 @@
 
 #include <QPushButton>
 
+#include "chart/allapot.h"
 #include "predictive/primer.h"
+#include "tables/szotar.h"
 #include "windows/ablakelhelyezes.h"
 #include "windows/qszoveg.h"
 #include "windows/qtvaszon.h"

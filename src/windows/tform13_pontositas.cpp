@@ -10,8 +10,9 @@
 #include <QSignalBlocker>
 #include <QTextBlock>
 
-#include "drawing/betutipus.h"
+#include "chart/allapot.h"
 #include "rectify/pontositas.h"
+#include "tables/szotar.h"
 #include "windows/ablakelhelyezes.h"
 #include "windows/qszoveg.h"
 #include "windows/qtvaszon.h"

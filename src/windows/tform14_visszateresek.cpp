@@ -5,7 +5,11 @@
 #include <QRadioButton>
 #include <QSignalBlocker>
 
+#include "chart/allapot.h"
+#include "predictive/visszateresek.h"
 #include "tables/fokperc.h"
+#include "tables/pillanat.h"
+#include "tables/szotar.h"
 #include "tables/telepulesek.h"
 #include "windows/ablakelhelyezes.h"
 #include "windows/helysegmezo.h"

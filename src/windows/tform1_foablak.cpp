@@ -14,14 +14,20 @@
 
 #include "commands/indulas.h"
 #include "commands/orajel.h"
-#include "drawing/betutipus.h"
 #include "drawing/geometria.h"
 #include "drawing/kepletrajz.h"
+#include "engine/keszlet.h"
 #include "tables/szotar.h"
 #include "windows/ablakok.h"
 #include "windows/betumappak.h"
 #include "windows/datumformatum.h"
 #include "windows/qszoveg.h"
+#include "windows/qtvaszon.h"
+#include "windows/tform12_primer.h"
+#include "windows/tform13_pontositas.h"
+#include "windows/tform5_hanglejatszo.h"
+#include "windows/tform7_lepteto.h"
+#include "windows/tform8_mundanhazak.h"
 
 namespace {
 

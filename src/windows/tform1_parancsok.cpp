@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QPrinter>
 
+#include "chart/allapot.h"
 #include "chart/statuszsor.h"
 #include "commands/datumosdirekcio.h"
 #include "commands/kvhfajl.h"
@@ -13,11 +14,25 @@
 #include "commands/orbisok.h"
 #include "commands/rendszerido.h"
 #include "commands/szemelyiadatok.h"
+#include "predictive/visszateresek.h"
+#include "tables/pillanat.h"
 #include "windows/ablakelhelyezes.h"
 #include "windows/ablakok.h"
+#include "windows/kepletfelulet.h"
+#include "windows/parbeszed.h"
 #include "windows/qszoveg.h"
 #include "windows/qtvaszon.h"
+#include "windows/tform11_jelszo.h"
+#include "windows/tform12_primer.h"
+#include "windows/tform14_visszateresek.h"
 #include "windows/tform1_foablak.h"
+#include "windows/tform2_szemelyiadatok.h"
+#include "windows/tform3_tercier.h"
+#include "windows/tform5_hanglejatszo.h"
+#include "windows/tform6_orbisok.h"
+#include "windows/tform7_lepteto.h"
+#include "windows/tform8_mundanhazak.h"
+#include "windows/tform9_szimbolumok.h"
 
 void TForm1::szemelyiAblak(bool ujKeplet) {
     TForm2& form2 = ablakok_->form2;

@@ -8,6 +8,8 @@
 #include <QRadioButton>
 #include <QSignalBlocker>
 
+#include "chart/allapot.h"
+#include "tables/pillanat.h"
 #include "windows/helysegmezo.h"
 #include "windows/idovalaszto.h"
 #include "windows/qszoveg.h"

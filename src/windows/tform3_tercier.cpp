@@ -3,7 +3,9 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 
+#include "chart/allapot.h"
 #include "commands/datumosdirekcio.h"
+#include "predictive/tercier.h"
 #include "windows/ablakelhelyezes.h"
 #include "windows/qszoveg.h"
 #include "windows/qtvaszon.h"

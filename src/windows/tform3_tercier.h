@@ -8,6 +8,7 @@
 
 #include "chart/allapot.h"
 #include "chart/foablak.h"
+#include "tables/pillanat.h"
 
 /// Date dialog of the tertiary directions and of the solar ingress; `TercierAblak` of the state tells which.
 class TForm3 : public QDialog {

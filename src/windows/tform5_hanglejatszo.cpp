@@ -6,8 +6,10 @@
 #include <QHBoxLayout>
 #include <QUrl>
 
+#include "chart/allapot.h"
 #include "commands/hang.h"
 #include "windows/ablakelhelyezes.h"
+#include "windows/parbeszed.h"
 #include "windows/qszoveg.h"
 #include "windows/vezerlok.h"
 

@@ -3,8 +3,9 @@
 #include <QLabel>
 #include <QLocale>
 
-#include "drawing/betutipus.h"
+#include "chart/allapot.h"
 #include "tables/szotar.h"
+#include "tables/tomb.h"
 #include "windows/ablakelhelyezes.h"
 #include "windows/qszoveg.h"
 #include "windows/vezerlok.h"

@@ -7,6 +7,7 @@
 
 #include "chart/allapot.h"
 #include "chart/foablak.h"
+#include "engine/fenyszogek.h"
 
 /// Orb settings: a button for each cell of `OrbisTabla` that can be edited. A click adds the step.
 class TForm6 : public QDialog {

@@ -2,7 +2,9 @@
 
 #include <QGuiApplication>
 
-#include "drawing/betutipus.h"
+#include "chart/allapot.h"
+#include "chart/foablak.h"
+#include "rectify/mundankereses.h"
 #include "tables/szotar.h"
 #include "windows/ablakelhelyezes.h"
 #include "windows/qszoveg.h"

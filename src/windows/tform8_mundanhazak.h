@@ -10,6 +10,7 @@
 
 #include "chart/allapot.h"
 #include "chart/foablak.h"
+#include "rectify/analogiak.h"
 #include "rectify/mundankereses.h"
 
 /// Rectification by mundane houses. It stays open beside the main window and follows the chart with every

@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 
+#include "chart/allapot.h"
 #include "windows/ablakelhelyezes.h"
 #include "windows/betumappak.h"
 #include "windows/qszoveg.h"

@@ -12,6 +12,11 @@
 #include "tables/szotar.h"
 
 /// All that the program knows at run time, as plain data. The main window owns the one `Allapot`.
+///
+/// Where two names differ by case or plural only, the capital is the working set that routines write, the
+/// small letter the kept one that the screen shows and later work reads: `Bolygok` and `bolygo`, `Mozgasok`
+/// and `mozgas`, `Hazcsucsok` and `hazCsucs`, `HangCim` (the text that scrolls) and `hangCim` (what the
+/// window's title shows). A search may leave another chart in the working set; it never touches the kept one.
 
 /// The three views; the numbers are those of the program's commands and of the outside.
 enum class TKepletTipus { radix = 1, mundan = 2, dekad = 3 };
@@ -25,7 +30,7 @@ struct TKeplet {
     std::int32_t idozona = 1;           ///< hours, east positive
     std::int32_t szelesseg = 171000;    ///< arcseconds, north positive
     std::int32_t hosszusag = 68640;     ///< arcseconds, east positive
-    char szelessegJel = 'N';
+    char szelessegJel = 'N';            ///< with the next one the place's own letters; the signs above decide
     char hosszusagJel = 'E';
     std::string helyseg;
     std::int32_t armcOra = 0, armcPerc = 0;  ///< local sidereal time
@@ -136,8 +141,9 @@ struct Allapot {
 
     TPillanat RadixPillanat;      ///< the moment that the `Most` button returns to
     TPillanat SzuletesiPillanat;  ///< the birth moment that returns and personars rebuild
-    TPillanat InduloDatum;        ///< date of the program's start
-    TPillanat RevDatum;
+    TPillanat InduloDatum;   ///< date of the program's start; with the next one a record of the run that no
+                             ///< command reads: `TercierDatum` begins with the same date
+    TPillanat RevDatum;      ///< the same for the dialog of returns, which starts from `RadixPillanat`
     TPillanat TercierDatum;  ///< event date of the directions, as last confirmed
 
     bool MostFut = true;  ///< the computer's clock sets the moment
@@ -163,7 +169,8 @@ struct Allapot {
     int JelszoProba = 0;         ///< changes of the prompt's field so far
     bool TercierAblak = true;    ///< TForm3 serves tertiary directions, else the solar ingress
     int PontositasHatotav = 25;  ///< hundredths of a degree
-    double TercierOrbisNap = 45.0;
+    double TercierOrbisNap =
+        45.0;  ///< days; the orb of the last tertiary search confirmed, the field holds the one in use
 
     TEsemenyTar Esemenyek;
     TVisszateresek Visszateresek;

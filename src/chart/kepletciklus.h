@@ -3,7 +3,8 @@
 #include "chart/allapot.h"
 
 /// Summer time and place of the chart's moment from the tables. A name that the gazetteer lacks gets the
-/// default place, so typed coordinates are lost here: nothing protects them, and that is meant.
+/// default place, so typed coordinates are lost here. Nothing protects them: the place's name is the one
+/// source of a recomputed place, so that a view, a step and the tick always agree on it.
 void HelyAdatok(Allapot& allapot);
 
 /// The sidereal step: writes `napresz` and the ARMC fields and may lower `julianszam` by one, which is not

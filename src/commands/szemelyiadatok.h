@@ -36,7 +36,8 @@ TSzemelyiAdatok UjKepletMezok(Allapot& allapot);
 TSzemelyiAdatok SzemelyMezok(const Allapot& allapot);
 
 /// The place's text changed: zone, coordinates and summer time follow it, and the date is put right.
-/// The state takes the place at once, so "Mégsem" does not undo it: that is meant.
+/// The state takes the place at once, so "Mégsem" does not undo it: the running clock under the dialog shows
+/// the place that is being typed.
 void HelysegValtozas(Allapot& allapot, TSzemelyiAdatok& mezok);
 
 /// The time kind of a radio index; -1, no selection, counts as "ZN".

@@ -76,7 +76,8 @@ void nyilhegy(const TKerek& kerek, double szog, int tengelyVeg) {
     kerek.vonal(tengelyVeg + 7, szog, tengelyVeg - 5, szog + nyilNyilas);
 }
 
-/// On the horizon the arrowed end is the longer one, on the meridian the unarrowed one: meant so.
+/// On the horizon the arrowed end is the longer one, on the meridian the unarrowed one: so the two axes can
+/// be told apart where their arrows are too small to see.
 void tengelyek(const TKerek& kerek, const TSugarak& s, double mc) {
     Vaszon& vaszon = kerek.vaszon();
     const int vekony = TollVastagsag(3, s.kulso);
@@ -184,7 +185,8 @@ void DekadKerek(const TKerek& kerek, int kerekSugar, const Tomb<std::string, 12>
     const int r = kerekSugar;
     dekadKorok(kerek, kerekit(0.88 * r), TollVastagsag(2, r), r);
     kullok(kerek, 25, r);
-    // Height and offset use different constants, 10 and 12: meant so.
+    // Height and offset use different constants, 10 and 12: the row of glyphs stands a pixel up and left,
+    // clear of its spoke.
     kerek.vaszon().Betu(szimbolumFont, kerekit(r / 15.0 + 10));
     dekadBolygok(kerek, r, kerekit((r / 15.0 + 12) * 0.5), DekadSzoveg);
     dekadJegyek(kerek, r, szimbolumFont);

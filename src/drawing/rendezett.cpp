@@ -20,7 +20,9 @@ namespace {
 constexpr int legkisebbKoz = 6;  ///< degrees between neighbours
 constexpr double szetlepes = 2;  ///< degrees that each row of a close pair moves
 
-/// Exchange sort: equal longitudes stay in their order.
+/// Exchange sort of whole rows. Rows of one longitude keep their order unless an exchange passes over them:
+/// longitudes 50, 50, 10 of the bodies A, B, C come out as C, B, A. Which of two such bodies moves up and
+/// which down follows from it, so no stable sort may take its place.
 void rendezes(TRendezett& sorok) {
     for (int a = 1; a <= 10; ++a)
         for (int b = a; b <= 10; ++b)

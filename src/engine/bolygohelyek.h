@@ -9,7 +9,8 @@
 /// @param napresz     fraction of that day; above 1 it extrapolates along the same step
 /// @param[out] Bolygok   degrees. A direct body is reduced on reaching the full circle (0 is possible,
 ///                       360 is not), a retrograde one is lifted on reaching 0 (360 is possible, 0 is not);
-///                       this asymmetry is meant.
+///                       one rule for both would change signs and
+///                       houses of bodies exactly on 0 degrees of Aries.
 /// @param[out] Mozgasok  'D' for Sun and Moon, the row's own letter for the others; 'S' moves like 'D'
 void BolygoHelyek(std::int32_t julianszam, double napresz, TBolygok& Bolygok, TMozgasok& Mozgasok);
 

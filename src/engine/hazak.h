@@ -11,6 +11,7 @@
 ///                         interpolation crosses Aries may come out at 360 or a little above
 /// @param szelesseg  latitude, arcseconds; outside 42..60 degrees it is held to the band of the tables
 /// @note No wrap is made between latitudes: at RAMC 240 house 2 reads 0 and 21599 in turn between 57 and 60
-///       degrees, and a place there gets a wrong second house. This is meant to stay.
+///       degrees, and a place there gets a wrong second house. Charts of these latitudes agree with the
+///       printed tables in this; a wrap would make them differ.
 void Hazak(std::int32_t armcOra, std::int32_t armcPerc, double armcMperc, THazcsucsok& Hazcsucsok,
            std::int32_t szelesseg);

@@ -11,6 +11,7 @@ struct TAnalogia {
 };
 
 /// Reads Arabic numbers 1..12 and the Roman forms of the angular houses I, IV, VII, X; all other characters
-/// separate. Meant so: a '1' that is the very last character is not taken; of "VI" nothing is read, and a
-/// Roman nine reads as 1 and 10.
+/// separate. A '1' that is the very last character is not taken; of "VI" nothing is read, and a
+/// Roman nine reads as 1 and 10: the saved analogies of charts came of this reading, and it gives the same
+/// again.
 TAnalogia AnalogiaElemzes(std::string_view szoveg);

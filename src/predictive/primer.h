@@ -29,9 +29,9 @@ TFerdeTabla FerdeSor(std::int32_t szelesseg);
 
 /// Longitude in arcminutes of an oblique ascension in arcminutes: between the first column at or above it and
 /// the one before. A hit already at column 0 gives 0.
-/// @param utolsoOszlop  360, or 359: then a value above column 359 takes 0 as the upper value, and the result
-/// falls
-///                      a little below 359 degrees; the primary list is meant so
+/// @param utolsoOszlop  360, or 359 for the primary list: there a value above column 359 takes 0 as the upper
+///                      value and the result falls a little below 359 degrees. Rectification searches one
+///                      column more; making the two alike would move lines of lists that users keep.
 double FerdeToEkl(const TFerdeTabla& FerdeTabla, double t, int utolsoOszlop);
 
 /// A sum on the equator brought into 0..21600 arcminutes by one turn.
@@ -40,7 +40,7 @@ constexpr double rektKorbe(double x) {
 }
 
 /// Whether an aspect point lies in the window. A window that spans 0 leaves out a point exactly on its lower
-/// end, a plain one does not: meant so.
+/// end while a plain one takes it: the spanning test is the negation of the gap, whose ends both count to it.
 bool PontTalalat(double p, const TOrbisAblak& ablak);
 
 /// The four directed points, in the order of the columns.

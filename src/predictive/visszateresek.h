@@ -41,17 +41,15 @@ double VisszateresCel(Allapot& allapot, const TVisszateresFajta& fajta);
 
 /// One forward pass from the start day; fills `Allapot::Visszateresek` from row 1 on and sets its count.
 ///
-/// Meant so: on the day on which a direct body passes 0 degrees of Aries the target is compared with 360
-/// although it is in arcseconds, so a target between the day's longitude and the end of Pisces is missed; a
-/// day without a step is a hit for any target, but not with the letter 'S'; a target exactly on the day's
-/// longitude gives a fraction of the day far above 1.
+/// The passage itself is `NapiLepesben` with its bound of 360. A day without a step is a hit for any target,
+/// but not with the letter 'S': the lists name each day on which a slow body stands to the minute of arc.
 void VisszateresKereses(Allapot& allapot, const TVisszateresFajta& fajta, double cel);
 
 /// Texts of the list, as in "1975.03.21. 06:04:09 GMT", with " R" behind it for a retrograde crossing.
 std::vector<std::string> VisszateresSorok(const Allapot& allapot, const TVisszateresFajta& fajta);
 
 /// Makes a row of the table the chart on screen, cast for a place one arcminute east and one north of the
-/// stated one, without summer time: meant so.
+/// stated one, without summer time. Users compare these charts with their older ones, which carry the minute.
 /// @param sor  from 1; with an empty list row 1 of the table as the last search left it
 void VisszateresKeplet(Allapot& allapot, FoAblak& ablak, const TVisszateresFajta& fajta, int sor,
                        const std::string& helyseg);

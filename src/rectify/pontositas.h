@@ -24,7 +24,7 @@ double JeloltIdo(IranyOszlop oszlop, double p, double iv, const TFerdeTabla& Fer
 /// A time of day as hh:mm:ss.
 /// @param t  seconds
 /// @note The seconds are rounded while hours and minutes are cut off, so 59.6 seconds read "00" in the same
-///       minute: meant so.
+///       minute. Carrying the minute would make the list differ from the times that users have noted from it.
 std::string jeloltSzoveg(double t);
 
 /// The three lists, one line an event.

@@ -270,7 +270,8 @@ void TForm1::Panel1Click() {
     memoHely();
 }
 
-/// A change of the note flips its position too, also a change that comes from the program: meant so.
+/// A change of the note flips its position too, also a change that comes from the program: a note that was
+/// just filled in is wanted large.
 void TForm1::Memo1Change() {
     Panel1Click();
 }

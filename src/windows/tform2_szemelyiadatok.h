@@ -22,7 +22,7 @@ public:
     TForm2(Allapot& allapot, FoAblak& ablak, QWidget* fo);
 
     /// Fills the fields for a new chart or for the one in hand. The list of places grows by the whole
-    /// gazetteer at each filling: that is meant.
+    /// gazetteer at each filling; a longer list finds the same places.
     void kitoltes(bool ujKeplet);
 
     /// The fields as they stand.

@@ -102,7 +102,8 @@ void TForm3::DatumChange() {
     direkcio2_->setText(qszoveg(eredmeny_));
 }
 
-/// The text beneath stays until the date changes, so that it may disagree with the verdict: meant so.
+/// The text beneath stays until the date changes, so that it may disagree with the verdict: the user sees
+/// what the last date's hits were while trying orbs.
 void TForm3::SpinEditOrbis1Change() {
     keres();
 }

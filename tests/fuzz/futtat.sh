@@ -1,17 +1,13 @@
 #!/bin/sh
-# Fuzzes the chart-file reader: builds the target with clang and libFuzzer (Debian: clang, libclang-rt-14-dev) and runs it.
-# Usage: tests/fuzz/futtat.sh [seconds] [folder for new finds]
+# Builds the fuzz targets with clang and libFuzzer (Debian: clang, libclang-rt-14-dev) and runs one of them.
+# Usage: tests/fuzz/futtat.sh [target] [seconds] [folder for new finds]
 set -eu
-gyoker=$(cd "$(dirname "$0")/../.." && pwd)
-ido=${1:-1200}
-gyujtemeny=${2:-$gyoker/build/fuzz/gyujtemeny}
-mkdir -p "$gyoker/build/fuzz" "$gyujtemeny"
-# The reader needs the day look-up, which reads the ephemeris that a build has expanded.
-objektumok=$(find "$gyoker/build/release/src/tables" -name '*.o')
-cd "$gyoker/build/fuzz"
-# shellcheck disable=SC2086
-clang++ -std=c++20 -g -O1 -fsanitize=fuzzer,address,undefined -fno-sanitize-recover=all -I"$gyoker/src" \
-    "$gyoker/tests/fuzz/kvh_fuzz.cpp" "$gyoker"/src/shell/kvhfajl.cpp "$gyoker"/src/shell/kvhrekord.cpp \
-    "$gyoker"/src/shell/kodlap1250.cpp "$gyoker"/src/shell/kepletciklus.cpp "$gyoker"/src/shell/szemelyiadatok.cpp \
-    "$gyoker"/src/shell/nezet.cpp "$gyoker"/src/shell/statuszsor.cpp "$gyoker"/src/engine/*.cpp $objektumok -o kvh_fuzz
-./kvh_fuzz -max_total_time="$ido" -max_len=14000 -print_final_stats=1 "$gyujtemeny" "$gyoker/tests/fuzz/kvh_mintak"
+cd "$(dirname "$0")/../.."
+cel=${1:-kvh}
+ido=${2:-1200}
+gyujtemeny=${3:-build/fuzz/gyujtemeny/$cel}
+mkdir -p "$gyujtemeny"
+cmake --preset fuzz >/dev/null
+cmake --build --preset fuzz --target "${cel}_fuzz"
+build/fuzz/tests/fuzz/"${cel}_fuzz" -max_total_time="$ido" -max_len=14000 -print_final_stats=1 "$gyujtemeny" \
+    "tests/fuzz/${cel}_mintak"

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "engine/fenyszogek.h"
@@ -53,8 +54,11 @@ struct TSzemely {
     std::string jegyzetMentett;  ///< the note while the running clock keeps `Memo1` empty
     TIdoTipus idoTipus = TIdoTipus::ZN;
     int idoTipusIndex = 0;  ///< 0, 1, 2; -1 shows no selection
-    TPillanat beirt;        ///< date and time as typed or read from a file, by the clock of `idoTipus`
-    std::string hangJel;    ///< the chart file's sound field; a leading 'H' says that there is a sound
+    /// The kind that the user has clicked in the open personal-data dialog: it stands whatever the ticks
+    /// write.
+    std::optional<TIdoTipus> valasztottIdoTipus;
+    TPillanat beirt;      ///< date and time as typed or read from a file, by the clock of `idoTipus`
+    std::string hangJel;  ///< the chart file's sound field; a leading 'H' says that there is a sound
 };
 
 /// One event of a life.
@@ -192,6 +196,6 @@ struct Allapot {
     std::string AktFelirat;                            ///< the title text now scrolling
     Tomb<std::string, feliratHelyek> FeliratSzovegek;  ///< from the title file
     std::string FutoSzoveg;                            ///< the scrolling part of the composed title
-    std::string helysegMentett;                        ///< the place while a derived chart is shown
+    std::string helysegMentett;                        ///< the birth's place while derived charts are shown
     std::string HangCim;                               ///< scrolling title of the sound player
 };

@@ -1,6 +1,7 @@
 #include "commands/datumosdirekcio.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "chart/statuszsor.h"
 #include "predictive/ingresszio.h"
@@ -26,10 +27,28 @@ void DatumAtfordulas(TPillanat& d) {
     }
 }
 
+namespace {
+
+/// Gives the chart on screen its clock moment, day number and place back; the work arrays stay as a search
+/// leaves them.
+void kepletVissza(TKeplet& k, TKeplet eredeti) {
+    eredeti.Bolygok = k.Bolygok;
+    eredeti.Mozgasok = k.Mozgasok;
+    eredeti.BolygoHazak = k.BolygoHazak;
+    eredeti.Hazcsucsok = k.Hazcsucsok;
+    k = std::move(eredeti);
+}
+
+}  // namespace
+
 std::string DatumosKereses(Allapot& a, const TPillanat& datum, int orbisNap) {
-    const std::string& hely = a.VisszaMod ? a.helysegMentett : a.Keplet.helyseg;
-    if (a.TercierAblak) return TercierKeres(a, a.SzuletesiPillanat, datum, hely, orbisNap).TercierSzoveg;
-    return IngresszioKeres(a, a.SzuletesiPillanat, datum, hely);
+    const std::string hely = a.VisszaMod ? a.helysegMentett : a.Keplet.helyseg;
+    TKeplet eredeti = a.Keplet;
+    std::string talalatok = a.TercierAblak
+                                ? TercierKeres(a, a.SzuletesiPillanat, datum, hely, orbisNap).TercierSzoveg
+                                : IngresszioKeres(a, a.SzuletesiPillanat, datum, hely);
+    kepletVissza(a.Keplet, std::move(eredeti));
+    return talalatok;
 }
 
 const TVerdikt& DatumosVerdikt(const Allapot& allapot) {

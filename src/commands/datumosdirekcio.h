@@ -14,7 +14,8 @@
 /// 1900 and 2068 while the month still wraps.
 void DatumAtfordulas(TPillanat& datum);
 
-/// Searches a date for the birth of the chart.
+/// Searches a date for the birth of the chart. The chart on screen, also a stepped or a derived one, keeps
+/// its moment, day number and place; the work arrays are those of the search.
 /// @param orbisNap  orb in days; plays no part in the ingress
 /// @return the hits in letters of the symbol font
 std::string DatumosKereses(Allapot& allapot, const TPillanat& datum, int orbisNap);

@@ -72,8 +72,8 @@ void mostPillanat(Allapot& a, FoAblak& ablak) {
 
 void idoEsStatusz(Allapot& a) {
     IdoAdatok(a);
-    a.Szemely.idoTipus = TIdoTipus::ZN;
-    IrStatuszSor(a, a.Keplet.pillanat, a.Szemely.idoTipus);
+    a.Szemely.idoTipus = a.Szemely.valasztottIdoTipus.value_or(TIdoTipus::ZN);
+    IrStatuszSor(a, a.Keplet.pillanat, TIdoTipus::ZN);
     a.Feliratok.memo.clear();
     if (a.LeptetesVolt) LeptetoCimIras(a.Feliratok);
 }

@@ -104,7 +104,12 @@ void HelysegValtozas(Allapot& allapot, TSzemelyiAdatok& mezok) {
 
 void IdoTipusValasztas(Allapot& allapot, int index) {
     allapot.Szemely.idoTipus = static_cast<TIdoTipus>(std::clamp(index, 0, 2));
+    allapot.Szemely.valasztottIdoTipus = allapot.Szemely.idoTipus;
     allapot.Szemely.idoTipusIndex = index;
+}
+
+void SzemelyiAblakZarult(Allapot& allapot) {
+    allapot.Szemely.valasztottIdoTipus.reset();
 }
 
 void SzemelyiRendben(Allapot& allapot, const TSzemelyiAdatok& mezok) {

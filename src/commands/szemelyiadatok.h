@@ -40,8 +40,12 @@ TSzemelyiAdatok SzemelyMezok(const Allapot& allapot);
 /// the place that is being typed.
 void HelysegValtozas(Allapot& allapot, TSzemelyiAdatok& mezok);
 
-/// The time kind of a radio index; -1, no selection, counts as "ZN".
+/// The time kind of a radio index; -1, no selection, counts as "ZN". It stands against the ticks of the
+/// running clock, which write "ZN", until the dialog closes.
 void IdoTipusValasztas(Allapot& allapot, int index);
+
+/// The dialog has closed, however: the next tick of a running clock writes "ZN" again.
+void SzemelyiAblakZarult(Allapot& allapot);
 
 /// "Rendben": takes the fields; the chart's moment becomes zone time, the typed one is kept beside it.
 void SzemelyiRendben(Allapot& allapot, const TSzemelyiAdatok& mezok);

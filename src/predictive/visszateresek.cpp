@@ -134,7 +134,7 @@ void VisszateresKeplet(Allapot& allapot, FoAblak& ablak, const TVisszateresFajta
     f.mostGomb = "Vissza";
     f.statusz[panelTipus] = fajta.cim.rovid;
     allapot.KepletTipus = TKepletTipus::radix;
-    allapot.helysegMentett = k.helyseg;
+    if (!allapot.VisszaMod) allapot.helysegMentett = k.helyseg;
     k.helyseg = helyseg;
     allapot.VisszaMod = true;
 

@@ -14,6 +14,23 @@ inline std::size_t karakterHossz(std::string_view szoveg) {
     return hossz;
 }
 
+/// Whether a text is UTF-8 throughout: no stray, missing or overlong bytes, no half of a surrogate pair,
+/// nothing above U+10FFFF.
+inline bool ervenyesUtf8(std::string_view szoveg) {
+    while (!szoveg.empty()) {
+        const auto elso = static_cast<unsigned char>(szoveg[0]);
+        const std::size_t hossz = karakterHossz(szoveg);
+        const std::size_t kell = elso < 0x80 ? 1 : elso < 0xC2 ? 0 : elso < 0xE0 ? 2 : elso < 0xF0 ? 3 : 4;
+        if (elso > 0xF4 || hossz != kell) return false;
+        const auto masodik = static_cast<unsigned char>(hossz > 1 ? szoveg[1] : '\0');
+        if ((elso == 0xE0 && masodik < 0xA0) || (elso == 0xED && masodik > 0x9F) ||
+            (elso == 0xF0 && masodik < 0x90) || (elso == 0xF4 && masodik > 0x8F))
+            return false;
+        szoveg.remove_prefix(hossz);
+    }
+    return true;
+}
+
 /// Number of characters.
 inline int karakterSzam(std::string_view szoveg) {
     int szam = 0;

@@ -174,7 +174,13 @@ void TForm13::Button_Rendben1Click() {
 }
 
 void TForm13::Button_Megsem1Click() {
+    reject();
+}
+
+/// Every way of closing ends here, the window's own button and the Escape key too: the repeats go back to the
+/// primary list.
+void TForm13::done(int eredmeny) {
     allapot_.PontositasFut = false;
     allapot_.PrimerFut = true;
-    close();
+    QDialog::done(eredmeny);
 }

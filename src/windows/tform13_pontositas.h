@@ -38,6 +38,7 @@ private:
     void lathatatlanVezerlok();
     void betuk();
     void resizeEvent(QResizeEvent* esemeny) override;
+    void done(int eredmeny) override;
 
     Allapot& allapot_;
     QWidget* fo_;

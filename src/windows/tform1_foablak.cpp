@@ -228,7 +228,8 @@ void TForm1::Mutat() {
     setWindowTitle(qszoveg(f.cim));
     if (const QString memo = qszoveg(f.memo); memo1_->toPlainText() != memo) memo1_->setPlainText(memo);
     if (ablakok_ == nullptr) return;
-    ablakok_->form7.setWindowTitle(qszoveg(f.leptetoCim));
+    // A blank for an empty one: the toolkit would show the program's name in its place.
+    ablakok_->form7.setWindowTitle(f.leptetoCim.empty() ? " " : qszoveg(f.leptetoCim));
     ablakok_->form5.setWindowTitle(qszoveg(f.hangCim));
 }
 

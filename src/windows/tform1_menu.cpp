@@ -10,7 +10,7 @@ namespace {
 
 using TKezelo = void (TForm1::*)();
 
-/// One line of the menu: a submenu if it has no name.
+/// One line of the menu: a submenu if it has no handler.
 struct TMenuSor {
     int szint;
     const char* felirat;
@@ -32,7 +32,7 @@ constexpr TMenuSor menuSorok[]{
     {1, "Mundán", "Mundan1", &TForm1::Mundan1Click},
     {1, "Dekád", "Dekad1", &TForm1::Dekad1Click},
     {0, "Progressziók", nullptr, nullptr},
-    {1, "Revolúció", nullptr, nullptr},
+    {1, "Revolúció", "Revolucio1", nullptr},
     {2, "Szolár", "Szolar1", &TForm1::Szolar1Click},
     {2, "Lunár", "Lunar1", &TForm1::Lunar1Click},
     {2, "Merkúr Rev", "MerkurRev1", &TForm1::MerkurRev1Click},
@@ -40,7 +40,7 @@ constexpr TMenuSor menuSorok[]{
     {2, "Mars Rev", "MarsRev1", &TForm1::MarsRev1Click},
     {2, "Jupiter Rev", "JupiterRev1", &TForm1::JupiterRev1Click},
     {2, "Szaturnusz Rev", "SzaturnuszRev1", &TForm1::SzaturnuszRev1Click},
-    {1, "Personar", nullptr, nullptr},
+    {1, "Personar", "Personar1", nullptr},
     {2, "Asc Pers", "AscPers1", &TForm1::AscPers1Click},
     {2, "Mc Pers", "McPers1", &TForm1::McPers1Click},
     {2, "Hold Pers", "HoldPers1", &TForm1::HoldPers1Click},
@@ -69,9 +69,10 @@ void TForm1::menuEpites() {
     std::array<QMenu*, 3> menuk{};
     for (const TMenuSor& sor : menuSorok) {
         const auto szint = static_cast<std::size_t>(sor.szint);
-        if (sor.nev == nullptr) {
+        if (sor.kezelo == nullptr) {
             menuk[szint] =
                 szint == 0 ? menuBar()->addMenu(sor.felirat) : menuk[szint - 1]->addMenu(sor.felirat);
+            menuk[szint]->setObjectName(sor.nev);
             continue;
         }
         QAction* pont = menuk[szint - 1]->addAction(sor.felirat);

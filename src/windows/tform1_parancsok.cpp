@@ -40,6 +40,7 @@ void TForm1::szemelyiAblak(bool ujKeplet) {
     form2.adjustSize();
     kozepre(form2, *this);
     form2.exec();
+    SzemelyiAblakZarult(allapot_);
     if (!allapot_.Megsem2) BevittKepletMutatasa(allapot_, *this);
 }
 

@@ -1,5 +1,6 @@
 #include "windows/tform3_tercier.h"
 
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
 
@@ -52,6 +53,10 @@ TForm3::TForm3(Allapot& allapot, FoAblak&, QWidget* fo)
     for (const QSpinBox* datum : {ev_, ho_, nap_})
         connect(datum, &QSpinBox::valueChanged, this, &TForm3::DatumChange);
     connect(orbis_, &QSpinBox::valueChanged, this, &TForm3::SpinEditOrbis1Change);
+    // The field keeps its value while its text is empty, so the text is listened to as well.
+    connect(orbis_->findChild<QLineEdit*>(), &QLineEdit::textChanged, this, [this](const QString& szoveg) {
+        if (szoveg.isEmpty()) SpinEditOrbis1Change();
+    });
 }
 
 QSpinBox* TForm3::mezo(const char* nev, const char* felirat, int also, int felso, int x) {
@@ -81,6 +86,11 @@ TPillanat TForm3::datum() const {
     return {ev_->value(), ho_->value(), nap_->value(), 0, 0, 0};
 }
 
+/// An emptied field counts as 1.
+int TForm3::orbis() const {
+    return orbis_->cleanText().isEmpty() ? 1 : orbis_->value();
+}
+
 void TForm3::datumMutatas(const TPillanat& d) {
     const QSignalBlocker blokkok[]{QSignalBlocker(ev_), QSignalBlocker(ho_), QSignalBlocker(nap_)};
     ev_->setValue(d.ev);
@@ -89,7 +99,7 @@ void TForm3::datumMutatas(const TPillanat& d) {
 }
 
 void TForm3::keres() {
-    eredmeny_ = DatumosKereses(allapot_, datum(), orbis_->value());
+    eredmeny_ = DatumosKereses(allapot_, datum(), orbis());
     const TVerdikt& verdikt = DatumosVerdikt(allapot_);
     direkcio1_->setText(eredmeny_.empty() ? verdikt.nincs : verdikt.van);
 }
@@ -109,7 +119,7 @@ void TForm3::SpinEditOrbis1Change() {
 }
 
 void TForm3::Button_Rendben1Click() {
-    DatumosRendben(allapot_, datum(), orbis_->value());
+    DatumosRendben(allapot_, datum(), orbis());
     keres();
     accept();
 }

@@ -34,6 +34,7 @@ private:
     QSpinBox* mezo(const char* nev, const char* felirat, int also, int felso, int x);
     void keres();
     TPillanat datum() const;
+    int orbis() const;
     void datumMutatas(const TPillanat& datum);
 
     Allapot& allapot_;

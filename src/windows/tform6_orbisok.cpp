@@ -27,11 +27,10 @@ void betuMeret(QWidget& vezerlo, int meret) {
 
 /// Narrows the letters until the text fits in its button.
 void beszorit(QPushButton& gomb) {
-    constexpr int keret = 6;  // pixels
     const int szelesseg = gomb.fontMetrics().horizontalAdvance(gomb.text());
-    if (szelesseg <= gomb.width() - keret) return;
+    if (szelesseg <= gomb.width()) return;
     QFont betu = gomb.font();
-    betu.setStretch(100 * (gomb.width() - keret) / szelesseg);
+    betu.setStretch(100 * gomb.width() / szelesseg);
     gomb.setFont(betu);
 }
 
@@ -84,7 +83,7 @@ void TForm6::cimkeEpites(const QString& szoveg, const QString& betutipus, int x,
     betu.setPointSize(alapMeret);
     cimke->setFont(betu);
     cimke->setGeometry(x, y, gombSzelesseg, gombMagassag);
-    cimke->setAlignment(Qt::AlignCenter);
+    cimke->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     cimkek_.push_back(cimke);
 }
 
@@ -105,6 +104,8 @@ void TForm6::racsEpites() {
             if (!vanGomb(r + 1, c + 1)) continue;
             auto* gomb = ujGomb(this, QStringLiteral("BOrbis_%1_%2").arg(r + 1).arg(c + 1), {},
                                 {295 - 32 * (8 - c), 140 - 26 * (3 - r), gombSzelesseg, gombMagassag});
+            gomb->setFont(QFont(szoveges));
+            gomb->setStyleSheet("padding: 0px");
             connect(gomb, &QPushButton::clicked, this, [this, gomb] { BOrbisClick(gomb); });
             cellak_.push_back({r + 1, c + 1, gomb});
         }

@@ -21,6 +21,7 @@
 #include "windows/ablakok.h"
 #include "windows/betumappak.h"
 #include "windows/datumformatum.h"
+#include "windows/modalisfelul.h"
 #include "windows/qszoveg.h"
 #include "windows/qtvaszon.h"
 #include "windows/tform12_primer.h"
@@ -51,6 +52,7 @@ constexpr std::array<int, 7> statuszSzelessegek{48, 90, 150, 135, 150, 90, 750};
 TForm1::TForm1()
     : felulet_(new KepletFelulet(this)), panel1_(new QFrame(felulet_)), timer1_(new QTimer(this)) {
     setObjectName("TForm1");
+    new TModalisFelul(this);
     resize(tervezettSzelesseg, tervezettMagassag);
     felulet_->setObjectName("Felulet");
     felulet_->installEventFilter(this);

@@ -11,7 +11,7 @@ objektumok=$(find "$gyoker/build/release/src/tables" -name '*.o')
 cd "$gyoker/build/fuzz"
 # shellcheck disable=SC2086
 clang++ -std=c++20 -g -O1 -fsanitize=fuzzer,address,undefined -fno-sanitize-recover=all -I"$gyoker/src" \
-    "$gyoker/tests/fuzz/kvh_fuzz.cpp" "$gyoker"/src/shell/kvhfajl.cpp "$gyoker"/src/shell/kvhrekord.cpp \
-    "$gyoker"/src/shell/kodlap1250.cpp "$gyoker"/src/shell/kepletciklus.cpp "$gyoker"/src/shell/szemelyiadatok.cpp \
-    "$gyoker"/src/shell/nezet.cpp "$gyoker"/src/shell/statuszsor.cpp "$gyoker"/src/engine/*.cpp $objektumok -o kvh_fuzz
+    "$gyoker/tests/fuzz/kvh_fuzz.cpp" "$gyoker"/src/commands/kvhfajl.cpp "$gyoker"/src/commands/szemelyiadatok.cpp \
+    "$gyoker"/src/commands/nezet.cpp "$gyoker"/src/files/*.cpp "$gyoker"/src/chart/*.cpp "$gyoker"/src/engine/*.cpp \
+    $objektumok -o kvh_fuzz
 ./kvh_fuzz -max_total_time="$ido" -max_len=14000 -print_final_stats=1 "$gyujtemeny" "$gyoker/tests/fuzz/kvh_mintak"

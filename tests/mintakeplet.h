@@ -1,8 +1,8 @@
 #pragma once
 
 #include "chart/kepletciklus.h"
-#include "commands/szemelyiadatok.h"
-#include "drawing/oldalpanel.h"
+#include "chart/statuszsor.h"
+#include "engine/fenyszogpontok.h"
 
 /// A birth on screen, with the aspect points of its drawing.
 inline Allapot szuletesiKeplet(const TPillanat& p, const char* hely = "Szeged") {
@@ -17,15 +17,9 @@ inline Allapot szuletesiKeplet(const TPillanat& p, const char* hely = "Szeged") 
     return a;
 }
 
-/// A person born at Szeged, as the personal-data dialog gives it.
-inline TSzemelyiAdatok mintaSzemely(const TPillanat& p) {
-    TSzemelyiAdatok m;
-    m.nev = "Minta Anna";
-    m.ido = p;
-    m.helyseg = "Szeged";
-    m.hosszFok = 20;
-    m.hosszPerc = 9;
-    m.szelFok = 46;
-    m.szelPerc = 14;
-    return m;
+/// The same with its status bar.
+inline Allapot kepernyoKeplet(const TPillanat& p, const char* hely) {
+    Allapot a = szuletesiKeplet(p, hely);
+    IrStatuszSor(a, a.Keplet.pillanat, TIdoTipus::ZN);
+    return a;
 }

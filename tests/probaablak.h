@@ -6,6 +6,8 @@
 
 #include "chart/foablak.h"
 
+using THivasok = std::vector<std::string>;
+
 /// Stands in for the main window: notes what the commands ask of it, and has a clock that the test sets.
 class TProbaAblak : public FoAblak {
 public:
@@ -23,7 +25,7 @@ public:
         return static_cast<int>(std::count(hivasok.begin(), hivasok.end(), "RajzolKeplet"));
     }
 
-    std::vector<std::string> hivasok;
+    THivasok hivasok;
     std::string datum = "2024.03.05";
     std::string ido = "8:15:00";
 };

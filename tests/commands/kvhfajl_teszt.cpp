@@ -1,4 +1,4 @@
-// Chart files: the record, its text encoding, whole files good and bad.
+// Chart files: whole files good and bad.
 
 #include <filesystem>
 #include <fstream>
@@ -9,7 +9,6 @@
 
 #include "chart/statuszsor.h"
 #include "commands/kvhfajl.h"
-#include "files/kodlap1250.h"
 #include "files/kvhrekord.h"
 #include "probaablak.h"
 
@@ -61,77 +60,6 @@ Allapot minta(int esemenyek = 0) {
     }
     a.Esemenyek.EsemenyDb = esemenyek;
     return a;
-}
-
-TEST(Kodlap, AMagyarBetukEgyBajton) {
-    EXPECT_EQ(kodlapra("őűŐŰá"), "\xF5\xFB\xD5\xDB\xE1");
-    EXPECT_EQ(kodlaprol("\xF5\xFB\xD5\xDB\xE1"), "őűŐŰá");
-    EXPECT_EQ(kodlapra("€"), "\x80");
-}
-
-TEST(Kodlap, AHianyzoKarakterKerdojel) {
-    EXPECT_EQ(kodlapra("a漢b😀c"), "a?b?c");
-    EXPECT_EQ(kodlapra("a\xFF"
-                       "b"),
-              "a?b");
-    EXPECT_EQ(kodlaprol("a\x81"), "a?");
-}
-
-TEST(KvhRekord, AMezokHelyei) {
-    TKvhRekord r;
-    r.nev = "ő";
-    r.pillanat = {1975, 3, 21, 6, 4, 9};
-    r.idozona = -1;
-    r.nyariIdo = 1;
-    r.helyseg = "Pécs";
-    r.hosszusag = 0x01020304;
-    r.szelesseg = -2;
-    r.jegyzet = "j";
-    r.esemenySzam = 7;
-    r.hang = "H";
-    const TKvhBajtok b = KvhKodolas(r);
-    EXPECT_EQ(b[0], 1);
-    EXPECT_EQ(b[1], 0xF5);
-    EXPECT_EQ(b[36] + 256 * b[37], 1975);
-    EXPECT_EQ(b[40], 3);
-    EXPECT_EQ(b[44], 21);
-    EXPECT_EQ(b[48], 6);
-    EXPECT_EQ(b[52], 4);
-    EXPECT_EQ(b[56], 9);
-    EXPECT_EQ(b[60], 0xFF);
-    EXPECT_EQ(b[63], 0xFF);
-    EXPECT_EQ(b[64], 1);
-    EXPECT_EQ(b[68], 4);
-    EXPECT_EQ(b[70], 0xE9);
-    EXPECT_EQ(b[104], 4);
-    EXPECT_EQ(b[107], 1);
-    EXPECT_EQ(b[108], 0xFE);
-    EXPECT_EQ(b[112], 1);
-    EXPECT_EQ(b[113], 'j');
-    EXPECT_EQ(b[368], 7);
-    EXPECT_EQ(b[372], 1);
-    EXPECT_EQ(b[373], 'H');
-    EXPECT_EQ(KvhDekodolas(b), r);
-}
-
-TEST(KvhRekord, ATulHosszuSzovegLevagva) {
-    TKvhRekord r;
-    r.nev = std::string(31, 'x') + "őy";
-    r.jegyzet = std::string(300, 'j');
-    const TKvhRekord vissza = KvhDekodolas(KvhKodolas(r));
-    EXPECT_EQ(vissza.nev, std::string(31, 'x') + "ő");  // 32 characters of the code page
-    EXPECT_EQ(vissza.jegyzet, std::string(255, 'j'));
-}
-
-TEST(KvhRekord, ATulNagyHosszbajtAMezoMerete) {
-    TKvhBajtok b{};
-    b.fill('z');
-    const TKvhRekord r = KvhDekodolas(b);
-    EXPECT_EQ(r.nev, std::string(32, 'z'));
-    EXPECT_EQ(r.helyseg, std::string(32, 'z'));
-    EXPECT_EQ(r.jegyzet.size(), static_cast<std::size_t>('z'));
-    b.fill(255);
-    EXPECT_EQ(KvhDekodolas(b).jegyzet.size() / 2, 255U);  // each byte 0xFF is a character of two bytes
 }
 
 TEST_F(TKvh, EsemenyNelkul628BajtHusszal13188) {

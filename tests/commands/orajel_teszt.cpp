@@ -1,83 +1,22 @@
-// The tick, the `Most` mode and the start-up, without a window.
+// The tick and the `Most` mode, without a window.
 
 #include <functional>
+#include <string>
 
 #include <gtest/gtest.h>
 
 #include "chart/statuszsor.h"
-#include "commands/indulas.h"
 #include "commands/nezet.h"
 #include "commands/orajel.h"
 #include "commands/szemelyiadatok.h"
-#include "mintakeplet.h"
+#include "indultprogram.h"
 #include "predictive/visszateresek.h"
-#include "probaablak.h"
-#include "tables/efemerida.h"
 #include "tables/szotar.h"
 #include "tables/szoveg.h"
 
 namespace {
 
-using THivasok = std::vector<std::string>;
-
-class TOrajel : public testing::Test {
-protected:
-    TOrajel() {
-        EXPECT_TRUE(Indulas(a, ablak, {}));
-        ablak.hivasok.clear();
-    }
-    void orajelek(int szam) {
-        for (int i = 0; i < szam; ++i) Orajel(a, ablak);
-    }
-    void szuletes() {
-        a.Szemely.idoTipus = TIdoTipus::ZN;
-        TSzemelyiAdatok m = mintaSzemely({1975, 3, 21, 6, 4, 9});
-        m.jegyzet = "jegyzet";
-        SzemelyiRendben(a, m);
-        BevittKepletMutatasa(a, ablak);
-        ablak.hivasok.clear();
-    }
-    std::string& panel(int i) { return a.Feliratok.statusz[static_cast<std::size_t>(i)]; }
-
-    Allapot a;
-    TProbaAblak ablak;
-};
-
-TEST_F(TOrajel, IndulasUtanAJelenPillanatBudapesten) {
-    EXPECT_EQ(a.Keplet.pillanat, (TPillanat{2024, 3, 5, 8, 15, 0}));
-    EXPECT_EQ(a.RadixPillanat, a.Keplet.pillanat);
-    EXPECT_EQ(a.SzuletesiPillanat, a.Keplet.pillanat);
-    EXPECT_EQ(a.InduloDatum.ev, 2024);
-    EXPECT_EQ(a.RevDatum.nap, 5);
-    EXPECT_EQ(a.Szemely.beirt, a.Keplet.pillanat);
-    EXPECT_EQ(a.Keplet.helyseg, "Budapest");
-    EXPECT_EQ(panel(panelTipus), "Radix");
-    EXPECT_EQ(panel(panelNev), "Most");
-    EXPECT_EQ(panel(panelIdo), "2024.03.05. 08:15:00 ZN");
-    EXPECT_EQ(panel(panelHely), "Budapest");
-    EXPECT_EQ(panel(panelKoordinata), "19°4'K  47°30'É");
-    EXPECT_EQ(a.Feliratok.mostGomb, "Állj");
-    EXPECT_EQ(a.Feliratok.valtGomb, "Mundán");
-    EXPECT_EQ(a.FeliratSzamlalo, 400);
-    EXPECT_FALSE(a.TeljesTorles);
-    EXPECT_EQ(a.PontositasHatotav, 25);
-    EXPECT_EQ(a.TercierOrbisNap, 45.0);
-}
-
-TEST(Indulas, OlvashatatlanDatumnalMegall) {
-    Allapot a;
-    TProbaAblak ablak;
-    ablak.datum = "ma";
-    EXPECT_FALSE(Indulas(a, ablak, {}));
-    EXPECT_TRUE(ablak.hivasok.empty());
-}
-
-TEST(Indulas, BetutipusNelkulAPotNev) {
-    Allapot a;
-    TProbaAblak ablak;
-    Indulas(a, ablak, {"/nincs ilyen mappa/"});
-    EXPECT_EQ(a.Rajz.szimbolumFont, "AstroMidget Bold");
-}
+class TOrajel : public TIndultProgram {};
 
 TEST_F(TOrajel, AFelirat2500EzredmasodpercElottiHetOrajelUtanValt) {
     for (int i = 1; i <= 6; ++i) a.FeliratSzovegek[i] = "cim" + std::to_string(i) + " ";
@@ -267,16 +206,6 @@ TEST_F(TOrajel, MindenUjraszamitasUtanAListakIs) {
     }
 }
 
-TEST_F(TOrajel, AListakCsakHaKertek) {
-    szuletes();
-    a.PrimerFut = true;
-    ValtParancs(a, ablak);
-    EXPECT_EQ(ablak.hivasok.back(), "PrimerFuttat");
-    a.PrimerFut = false;
-    ValtParancs(a, ablak);
-    EXPECT_EQ(ablak.hivasok.back(), "RajzolKeplet");
-}
-
 TEST_F(TOrajel, AHangCimeGordul) {
     szuletes();
     a.HangAktiv = true;
@@ -335,6 +264,17 @@ TEST_F(TOrajel, AVisszaUtAKepzettKepletrol) {
     EXPECT_EQ(a.Keplet.pillanat, (TPillanat{1975, 3, 21, 6, 4, 9}));
     EXPECT_EQ(a.RadixPillanat, a.SzuletesiPillanat);
     EXPECT_EQ(a.Feliratok.mostGomb, "Most");
+}
+
+TEST_F(TOrajel, AVisszateresKepleterolIsASzuleteshez) {
+    szuletes();
+    VisszateresKereses(a, RevolucioFajta(1), VisszateresCel(a, RevolucioFajta(1)));
+    VisszateresKeplet(a, ablak, RevolucioFajta(1), 31, "Pécs");
+    ASSERT_EQ(a.Keplet.helyseg, "Pécs");
+    a.MostFut = true;  // the press turns it off
+    MostParancs(a, ablak);
+    EXPECT_EQ(a.Keplet.helyseg, "Szeged");
+    EXPECT_EQ(a.Keplet.pillanat, (TPillanat{1975, 3, 21, 6, 4, 9}));
 }
 
 TEST_F(TOrajel, UjKepletAKepzettAllapotbanAVisszaModMarad) {

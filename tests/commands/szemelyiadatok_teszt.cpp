@@ -1,12 +1,14 @@
 // Typing in a chart: the fields and the time kinds.
 
+#include <string>
+#include <vector>
+
 #include <gtest/gtest.h>
 
 #include "chart/statuszsor.h"
 #include "commands/szemelyiadatok.h"
 #include "probaablak.h"
 #include "tables/efemerida.h"
-#include "tables/fokperc.h"
 
 namespace {
 
@@ -54,13 +56,6 @@ TEST(IdoAtvaltas, GreenwichiIdo) {
 TEST(IdoAtvaltas, ZonaIdoMaradDeADatumHelyreall) {
     EXPECT_EQ(atvalt({1990, 2, 30, 12, 0, 0}, TIdoTipus::ZN, 1, 68640).pillanat,
               (TPillanat{1990, 3, 2, 12, 0, 0}));
-}
-
-TEST(FokPerc, AzIvpercAzElojelesFokhozHozzaadodik) {
-    EXPECT_EQ(ivmasodpercre(-19, 4), -68160);
-    EXPECT_EQ(ivmasodpercre(19, 4), 68640);
-    EXPECT_EQ(fokPercre(-68160).fok, -18);
-    EXPECT_EQ(fokPercre(-68160).perc, -56);
 }
 
 TEST(SzemelyiAdatok, ARendbenABeirtIdotMegorziAKepletZonaIdoben) {

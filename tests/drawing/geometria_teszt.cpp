@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "drawing/betutipus.h"
-#include "drawing/kerek.h"
-#include "rajzteszt.h"
+#include "drawing/geometria.h"
 
 namespace {
 
@@ -93,42 +91,6 @@ TEST(Geometria, AFekvoLapKozepeMarad) {
     EXPECT_EQ(r.kozpontY, 1000);
     EXPECT_EQ(r.kerekSugar, 750);
     EXPECT_EQ(KisKerekGeometria(r).kisSugar, 0);  // no room below: (2000 - 2000) div 2
-}
-
-TEST(Kerek, AzAszcendensBaloldaltAHosszusagBalraForog) {
-    RogzitoVaszon v;
-    const TKerek kerek(v, 500, 400, 3.141592653589793 * 75 / 180);
-    const auto pont = [&](double hossz) { return kerek.pont(100, kerek.szog(hossz)); };
-    EXPECT_EQ(pont(75).x, 400);
-    EXPECT_EQ(pont(75).y, 400);
-    EXPECT_EQ(pont(165).x, 500);
-    EXPECT_EQ(pont(165).y, 500);  // 90 degrees on stands below: counter-clockwise from the left
-    EXPECT_EQ(pont(255).x, 600);
-    EXPECT_EQ(pont(345).y, 300);
-}
-
-using TFajlok = std::vector<std::string>;
-
-TFajlVan van(TFajlok fajlok) {
-    return [fajlok = std::move(fajlok)](const std::string& f) {
-        return std::find(fajlok.begin(), fajlok.end(), f) != fajlok.end();
-    };
-}
-
-TEST(SzimbolumFont, ARendszerMeghajtoMindkettotKeri) {
-    EXPECT_EQ(RendszerMeghajtoKeres(van({})), 'C');
-    EXPECT_EQ(RendszerMeghajtoKeres(van({"D:\\WINDOWS\\Fonts\\times.ttf", "F:\\WINDOWS\\Fonts\\times.ttf",
-                                         "F:\\WINDOWS\\Fonts\\arial.ttf"})),
-              'F');
-    EXPECT_EQ(RendszerMeghajtoKeres(van({"D:\\WINDOWS\\Fonts\\times.ttf", "E:\\WINDOWS\\Fonts\\arial.ttf"})),
-              'C');
-    EXPECT_EQ(RendszerMeghajtoKeres(van({"I:\\WINDOWS\\Fonts\\times.ttf", "I:\\WINDOWS\\Fonts\\arial.ttf"})),
-              'C');
-}
-
-TEST(SzimbolumFont, AzAstroSymbolsHaMegvanMaskulonbenAPot) {
-    EXPECT_EQ(SzimbolumFontValaszt({"/a/", "/b/"}, van({"/b/Astro Symbols.ttf"})), "Astro Symbols");
-    EXPECT_EQ(SzimbolumFontValaszt({"/a/", "/b/"}, van({"/c/Astro Symbols.ttf"})), "AstroMidget Bold");
 }
 
 }  // namespace

@@ -161,4 +161,11 @@ TEST(CsillagIdo, ANegativIdoMegtartjaCsonkitottReszeit) {
     EXPECT_NEAR(e.mperc, -8 + (600 * 0.0027379050925925926 - 1), 1e-9);
 }
 
+TEST(CsillagIdo, ANapBemenetEsAGreenwichiNapKulonJonKi) {
+    const TCsillagIdo ejfelUtan = CsillagIdo(2442614, 0, 30, 0, 72540, 0, 1);
+    EXPECT_EQ(ejfelUtan.julianszam, 2442613);
+    EXPECT_DOUBLE_EQ(ejfelUtan.napresz, 23.5 / 24);
+    EXPECT_EQ(CsillagIdo(2442614, 1, 0, 0, 72540, 0, 1).julianszam, 2442614);
+}
+
 }  // namespace

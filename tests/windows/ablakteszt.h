@@ -14,7 +14,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include "mintakeplet.h"
+#include "mintaszemely.h"
 #include "windows/ablakok.h"
 #include "windows/betumappak.h"
 
@@ -50,6 +50,10 @@ inline void gepel(QWidget& ablak, const char* mezo, const char* szoveg) {
         QKeyEvent leutes(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
         QApplication::sendEvent(hely, &leutes);
     }
+}
+
+inline QString cimke(const QWidget& ablak, const char* nev) {
+    return vezerlo<QLabel>(ablak, nev)->text();
 }
 
 inline int ertek(const QWidget& ablak, const char* mezo) {

@@ -1,157 +1,20 @@
-// Tertiary and primary directions, solar ingress.
+// Primary directions.
 
+#include <array>
 #include <cmath>
 #include <set>
+#include <string>
 
 #include <gtest/gtest.h>
 
 #include "engine/csillagido.h"
 #include "engine/hazak.h"
-#include "mintakeplet.h"
-#include "predictive/ingresszio.h"
+#include "iranyteszt.h"
 #include "predictive/primer.h"
-#include "predictive/tercier.h"
 #include "tables/efemerida.h"
 #include "tables/haztablak.h"
 
 namespace {
-
-constexpr TPillanat szuletesnap{1975, 7, 21, 6, 4, 9};
-
-Allapot szuletes(const TPillanat& p = szuletesnap) {
-    return szuletesiKeplet(p);
-}
-
-TPillanat napokkal(TPillanat p, int napok) {
-    JulianszambolDatum(DatumbolJulianszam(p.ev, p.ho, p.nap) + napok, p.ev, p.ho, p.nap);
-    return p;
-}
-
-TEST(Tercier, AKulcsEvenkentOtFoknyi) {
-    EXPECT_NEAR(static_cast<double>(TercierKulcs), 5.07285 / 365.25, 1e-12);
-    EXPECT_NEAR(static_cast<double>(TercierKulcs * 45), 0.625, 1e-3);
-    EXPECT_NEAR(static_cast<double>(TercierKulcs * 99), 1.375, 1e-3);
-}
-
-/// All hits by the plain definition: the directed body within the orb of another's place or opposite.
-/// A directed place beyond the circle is not reduced and meets nothing.
-std::string vartTercier(const TBolygok& lon, int napok, double orbisNap) {
-    const double orb = 0.013888706365503 * orbisNap;
-    const double iv = 0.013888706365503 * napok;
-    std::string szoveg;
-    for (int j = 1; j <= 10; ++j) {
-        std::string resz;
-        const auto jel = [&](int i) {
-            return std::string{static_cast<char>('a' + static_cast<int>(lon[i] / 30)),
-                               static_cast<char>('A' + i - 1)};
-        };
-        for (int i = 1; i <= 10; ++i) {
-            if (i == j) continue;
-            if (lon[j] - iv >= 360) continue;
-            const double d = std::abs(std::remainder(lon[j] - iv - lon[i], 360.0));
-            if (d <= orb) resz += "M" + jel(i);
-            if (180 - d <= orb) resz += "W" + jel(i);
-        }
-        if (!resz.empty()) szoveg += (szoveg.empty() ? "" : "Q") + jel(j) + resz;
-    }
-    return szoveg;
-}
-
-TEST(Tercier, ATalalatokADefinicioSzerint) {
-    int talalt = 0;
-    for (int nap = 0; nap < 12000; nap += 37) {
-        Allapot a = szuletes();
-        const double orbis = 1 + nap % 99;
-        const TTercier t = TercierKeres(a, szuletesnap, napokkal(szuletesnap, nap), "Szeged", orbis);
-        EXPECT_EQ(t.TercierSzoveg, vartTercier(a.Keplet.Bolygok, nap, orbis)) << nap;
-        talalt += !t.TercierSzoveg.empty();
-        EXPECT_EQ(t.TercierSzoveg.empty(), t.TercierHazSzoveg.empty());
-    }
-    EXPECT_GT(talalt, 100);
-}
-
-TEST(Tercier, ASzuletesNapjanCsakARadixEgyuttallasai) {
-    Allapot a = szuletes();
-    const TTercier t = TercierKeres(a, szuletesnap, szuletesnap, "Szeged", 99);
-    EXPECT_EQ(t.TercierSzoveg, vartTercier(a.Keplet.Bolygok, 0, 99));
-}
-
-TEST(Tercier, ASzuletesElottiEsemenyIranyaElore) {
-    int talalt = 0;
-    int koronKivul = 0;
-    for (int nap = -27000; nap < 0; nap += 37) {
-        Allapot a = szuletes();
-        const TTercier t = TercierKeres(a, szuletesnap, napokkal(szuletesnap, nap), "Szeged", 99);
-        EXPECT_EQ(t.TercierSzoveg, vartTercier(a.Keplet.Bolygok, nap, 99)) << nap;
-        talalt += !t.TercierSzoveg.empty();
-        for (const double hossz : a.Keplet.Bolygok) koronKivul += hossz - 0.013888706365503 * nap >= 360;
-    }
-    EXPECT_GT(talalt, 100);
-    EXPECT_GT(koronKivul, 100);
-}
-
-/// The search leaves the birth as the chart's moment, also when a stepped one was on screen.
-TEST(Tercier, ASzuletesMaradAKepletPillanata) {
-    for (const bool tercier : {true, false}) {
-        Allapot a = szuletes();
-        a.Keplet.pillanat = {1990, 1, 2, 3, 4, 5};
-        a.Keplet.helyseg = "Pécs";
-        const THazcsucsok kep = a.Keplet.hazCsucs;
-        if (tercier)
-            TercierKeres(a, szuletesnap, {2000, 1, 1}, "Szeged", 45);
-        else
-            IngresszioKeres(a, szuletesnap, {2000, 1, 1}, "Szeged");
-        const Allapot natalis = szuletes();
-        EXPECT_EQ(a.Keplet.pillanat, szuletesnap);
-        EXPECT_EQ(a.Keplet.julianszam, natalis.Keplet.julianszam);
-        EXPECT_EQ(a.Keplet.Bolygok, natalis.Keplet.Bolygok);
-        EXPECT_EQ(a.Keplet.helyseg, "Pécs");
-        EXPECT_EQ(a.Keplet.hazCsucs, kep);
-    }
-}
-
-TEST(Tercier, AVerdiktekSzovegei) {
-    EXPECT_STREQ(tercierVerdikt.van, "Van direkció!");
-    EXPECT_STREQ(tercierVerdikt.nincs, "Nincs direkció!");
-    EXPECT_STREQ(tercierVerdikt.uresKep, "Nincs tercier direkció!");
-    EXPECT_STREQ(ingresszioVerdikt.van, "Van inresszió!");
-    EXPECT_STREQ(ingresszioVerdikt.nincs, "Nincs ingresszió!");
-    EXPECT_STREQ(ingresszioVerdikt.uresKep, "Nincs szolár-ingresszió!");
-}
-
-std::string ingresszio(int napok) {
-    Allapot a = szuletes();
-    return IngresszioKeres(a, szuletesnap, napokkal(szuletesnap, napok), "Szeged");
-}
-
-TEST(Ingresszio, ASolarNapjanMindenBolygoOnmagaval) {
-    // The birth day is its own solar return: angle 0, the upper bound 0.493.
-    const std::string szoveg = ingresszio(0);
-    for (char b = 'A'; b <= 'J'; ++b)
-        EXPECT_NE(szoveg.find(std::string{' ', b, 'M', b}), std::string::npos) << b;
-    EXPECT_EQ(ingresszio(1).find(" AMA"), std::string::npos);  // an angle of 0.986
-}
-
-TEST(Ingresszio, AFelevEsAzEvVegeVisszahajlik) {
-    EXPECT_EQ(ingresszio(183).find(" AMA"), std::string::npos);
-    // The last day before the next return: 364 x 360 / 365 is 359.01, folded to 0.99; 365 days are exactly
-    // 360 and 0.
-    EXPECT_EQ(ingresszio(364).find(" AMA"), std::string::npos);
-    EXPECT_NE(ingresszio(365).find(" AMA"), std::string::npos);
-}
-
-TEST(Ingresszio, AParokTavolsagaANapokSzoge) {
-    for (const int nap : {30, 90, 150, 200, 300}) {
-        Allapot a = szuletes();
-        const std::string szoveg = IngresszioKeres(a, szuletesnap, napokkal(szuletesnap, nap), "Szeged");
-        double szog = nap * 360 / 365.0;
-        if (szog > 180) szog = 360 - szog;
-        int parok = 0;
-        for (int i = 1; i <= 10; ++i)
-            for (int j = i; j <= 10; ++j) parok += std::abs(a.Munka.Elteresek[i][j] - szog) < 180 / 365.0;
-        EXPECT_EQ(szoveg.size(), static_cast<std::size_t>(4 * parok)) << nap;
-    }
-}
 
 TEST(Primer, ATizpercesTablakOlvasasa) {
     EXPECT_DOUBLE_EQ(EklToRekt(0), 0);

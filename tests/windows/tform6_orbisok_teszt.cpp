@@ -1,7 +1,3 @@
-// Orbs and symbols.
-
-#include <QMenu>
-
 #include "ablakteszt.h"
 
 namespace {
@@ -12,7 +8,7 @@ QPushButton* cella(const QWidget& d, int sor, int oszlop) {
 
 }  // namespace
 
-class BeallitasokTeszt : public QObject {
+class TForm6Teszt : public QObject {
     Q_OBJECT
 
 private slots:
@@ -111,36 +107,7 @@ private slots:
         menu(a.form1, "Orbisok1");
         QCOMPARE(a.allapot().FenyszogRadix[1][2], 'W');
     }
-
-    void aSzimbolumokAFelsoroltBetukkel() {
-        TFrissAblakok a;
-        valasz([](QWidget& d) {
-            auto* lista = vezerlo<QComboBox>(d, "ComboBox1");
-            QVERIFY(lista->findText("Astro Symbols") >= 0);
-            gepel(d, "ComboBox1", "Valami");
-            kattint(d, "Button_Rendben1");
-        });
-        menu(a.form1, "Szimbolumok1");
-        QCOMPARE(a.allapot().Rajz.szimbolumFont, std::string("Valami"));
-        QCOMPARE(vezerlo<QLabel>(a.form1, "Label1")->font().family(), "Valami");
-    }
-
-    void uresenVagyMegsemmelMarad() {
-        TFrissAblakok a;
-        valasz([](QWidget& d) {
-            vezerlo<QComboBox>(d, "ComboBox1")->setEditText("");
-            kattint(d, "Button_Rendben1");
-        });
-        menu(a.form1, "Szimbolumok1");
-        QCOMPARE(a.allapot().Rajz.szimbolumFont, std::string("Astro Symbols"));
-        valasz([](QWidget& d) {
-            gepel(d, "ComboBox1", "Valami");
-            kattint(d, "Button_Megsem1");
-        });
-        menu(a.form1, "Szimbolumok1");
-        QCOMPARE(a.allapot().Rajz.szimbolumFont, std::string("Astro Symbols"));
-    }
 };
 
-QTEST_MAIN(BeallitasokTeszt)
-#include "beallitasok_teszt.moc"
+QTEST_MAIN(TForm6Teszt)
+#include "tform6_orbisok_teszt.moc"

@@ -1,11 +1,6 @@
-// The main window from start-up through clock and views, driven with mouse and menu.
-
-#include <QMenu>
-#include <QMenuBar>
-#include <QPlainTextEdit>
+// The main window from start-up through clock and surface, driven with mouse and menu.
 
 #include "ablakteszt.h"
-#include "commands/orajel.h"
 #include "tables/szotar.h"
 
 class TForm1Teszt : public QObject {
@@ -45,78 +40,6 @@ private slots:
                      szelessegek[i]);
     }
 
-    void mindenAblakAMaganakRendeltCimmelVan() {
-        TFrissAblakok a;
-        QCOMPARE(a.form2.windowTitle(), "Személyi adatok");
-        QCOMPARE(a.form3.windowTitle(), "Tercier direkció");
-        QCOMPARE(a.form4.windowTitle(), "Szolárrev");
-        QCOMPARE(a.form5.windowTitle(), "Hanglejátszás");
-        QCOMPARE(a.form6.windowTitle(), "Orbis beállítása");
-        QCOMPARE(a.form7.windowTitle(), "Léptet");
-        QCOMPARE(a.form8.windowTitle(), "Mundánházas pontosítás");
-        QCOMPARE(a.form9.windowTitle(), "Szimbólumok");
-        QCOMPARE(a.form10.windowTitle(), "Életesemények");
-        QCOMPARE(a.form11.windowTitle(), "Kérem a jelszót!");
-        QCOMPARE(a.form12.windowTitle(), "Primer direkció");
-        QCOMPARE(a.form13.windowTitle(), "Pontosítás");
-        QCOMPARE(a.form14.windowTitle(), "Nap-áthaladások");
-    }
-
-    void aMenuPontjaiASorrendjukben() {
-        TFrissAblakok a;
-        QStringList pontok;
-        for (const QAction* fo : a.form1.menuBar()->actions()) {
-            pontok << fo->text();
-            for (const QAction* pont : fo->menu()->actions()) {
-                pontok << pont->text();
-                if (pont->menu() != nullptr)
-                    for (const QAction* also : pont->menu()->actions()) pontok << also->text();
-            }
-        }
-        const QStringList vart{"Horoszkóp",
-                               "Személyi adatok",
-                               "Új",
-                               "Megnyitás",
-                               "Mentés",
-                               "Nyomtat",
-                               "Nyomtatóbeállítás",
-                               "Kilépés",
-                               "Nézet",
-                               "Horizont",
-                               "Mundán",
-                               "Dekád",
-                               "Progressziók",
-                               "Revolúció",
-                               "Szolár",
-                               "Lunár",
-                               "Merkúr Rev",
-                               "Vénusz Rev",
-                               "Mars Rev",
-                               "Jupiter Rev",
-                               "Szaturnusz Rev",
-                               "Personar",
-                               "Asc Pers",
-                               "Mc Pers",
-                               "Hold Pers",
-                               "Merkúr Pers",
-                               "Vénusz Pers",
-                               "Mars Pers",
-                               "Jupiter Pers",
-                               "Szaturnusz Pers",
-                               "Uranusz Pers",
-                               "Neptun Pers",
-                               "Plutó Pers",
-                               "Primer direkció",
-                               "Tercier direkció",
-                               "Szolár ingresszió",
-                               "Beállítások",
-                               "Léptet",
-                               "Orbisok",
-                               "Mundánházas pontosítás",
-                               "Szimbólumok"};
-        QCOMPARE(pontok, vart);
-    }
-
     void azElsoOrajelFeliratotAdEsGorget() {
         TFrissAblakok a;
         a.orajelek(2);
@@ -125,31 +48,6 @@ private slots:
         QVERIFY(elso.contains(panel(a.form1, 3).left(11)));
         a.orajelek(1);
         QCOMPARE(a.form1.windowTitle().left(40), elso.mid(1, 40));
-    }
-
-    void aValtHaromszoriMegnyomasaVisszavisz() {
-        TFrissAblakok a;
-        const QStringList nezetek{"Mundán", "Dekád", "Radix"};
-        const QStringList feliratok{"Dekád", "Radix", "Mundán"};
-        for (int i = 0; i < 3; ++i) {
-            kattint(a.form1, "PanelButton3_Valt");
-            QCOMPARE(panel(a.form1, 0), nezetek[i]);
-            QCOMPARE(vezerlo<QPushButton>(a.form1, "PanelButton3_Valt")->text(), feliratok[i]);
-            QVERIFY(a.allapot().TeljesTorles);
-            QVERIFY(!a.allapot().MostFut);
-        }
-        QCOMPARE(a.allapot().KepletTipus, TKepletTipus::radix);
-        QCOMPARE(vezerlo<QPushButton>(a.form1, "PanelButton2_Most")->text(), "Most");
-    }
-
-    void aMenuNezeteiUgyanodaVisznek() {
-        TFrissAblakok a;
-        menu(a.form1, "Mundan1");
-        QCOMPARE(panel(a.form1, 0), "Mundán");
-        menu(a.form1, "Dekad1");
-        QCOMPARE(panel(a.form1, 0), "Dekád");
-        menu(a.form1, "Horizont1");
-        QCOMPARE(panel(a.form1, 0), "Radix");
     }
 
     void teljesTorlesAlattAFestesKeresUresenHagyjaAzAblakot() {
@@ -165,20 +63,6 @@ private slots:
         QApplication::processEvents();
         QVERIFY(fekete(felulet->kep().toImage()) > 100);
         QVERIFY(!a.allapot().TeljesTorles);
-    }
-
-    void aMostGombMegallitjaEsElinditjaAzOrat() {
-        TFrissAblakok a;
-        const TPillanat indulo = a.allapot().RadixPillanat;
-        kattint(a.form1, "PanelButton2_Most");
-        QVERIFY(!a.allapot().MostFut);
-        QVERIFY(a.allapot().Keplet.pillanat == indulo);
-        QCOMPARE(vezerlo<QPushButton>(a.form1, "PanelButton2_Most")->text(), "Most");
-        QCOMPARE(panel(a.form1, 2), "");
-        kattint(a.form1, "PanelButton2_Most");
-        QVERIFY(a.allapot().MostFut);
-        QCOMPARE(vezerlo<QPushButton>(a.form1, "PanelButton2_Most")->text(), "Vissza");
-        QCOMPARE(panel(a.form1, 2), "Most");
     }
 
     void aPanelreKattintvaAJegyzetHelyetValtoztat() {
@@ -247,4 +131,4 @@ private slots:
 };
 
 QTEST_MAIN(TForm1Teszt)
-#include "tform1_teszt.moc"
+#include "tform1_foablak_teszt.moc"

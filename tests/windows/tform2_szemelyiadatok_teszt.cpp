@@ -230,4 +230,4 @@ private slots:
 };
 
 QTEST_MAIN(TForm2Teszt)
-#include "tform2_teszt.moc"
+#include "tform2_szemelyiadatok_teszt.moc"

@@ -8,7 +8,6 @@
 #include <QTemporaryDir>
 
 #include "ablakteszt.h"
-#include "commands/hang.h"
 #include "commands/kvhfajl.h"
 #include "probaparbeszed.h"
 
@@ -34,7 +33,7 @@ void hangFajl(const QString& fajl) {
 
 }  // namespace
 
-class HangTeszt : public QObject {
+class TForm5Teszt : public QObject {
     Q_OBJECT
 
 private slots:
@@ -101,27 +100,10 @@ private slots:
         QVERIFY(p.uzenetek[0].contains("\r\n"));
     }
 
-    void aKeresesSorrendje() {
-        const auto mappak = HangMappak("/ide", "/otthon", false);
-        QCOMPARE(mappak, (std::vector<std::string>{"/ide/", "/otthon/Korvend/", "/otthon/"}));
-        const auto meghajtok = HangMappak("D:\\ide", "", true);
-        QCOMPARE(meghajtok.size(), 15U);
-        QCOMPARE(meghajtok[0], std::string("D:\\ide\\"));
-        QCOMPARE(meghajtok[1], std::string("C:\\Korvend\\"));
-        QCOMPARE(meghajtok[2], std::string("C:\\"));
-        QCOMPARE(meghajtok[14], std::string("I:\\"));
-        const auto van = [](const std::string& f) {
-            return f == "/otthon/N.mpe" || f == "/otthon/Korvend/N.mpe";
-        };
-        QCOMPARE(HangFajlKeres("N", mappak, van), std::string("/otthon/Korvend/N.mpe"));
-        QCOMPARE(HangFajlKeres("M", mappak, van), std::string());
-        QCOMPARE(HangFajlKeres("Korvend/N", mappak, van), std::string());
-    }
-
 private:
     QTemporaryDir mappa_;
     QString regiKonyvtar_;
 };
 
-QTEST_MAIN(HangTeszt)
-#include "hang_teszt.moc"
+QTEST_MAIN(TForm5Teszt)
+#include "tform5_hanglejatszo_teszt.moc"

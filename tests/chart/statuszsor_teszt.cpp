@@ -1,0 +1,30 @@
+#include <gtest/gtest.h>
+
+#include "chart/statuszsor.h"
+
+namespace {
+
+TEST(StatuszSor, MintaIdopont) {
+    EXPECT_EQ(idopontSzoveg({2024, 3, 5, 8, 15, 0}), "2024.03.05. 08:15:00");
+    EXPECT_EQ(idopontSzoveg({2024, 12, 15, 18, 5, 10}), "2024.12.15. 18:05:10");
+}
+
+TEST(StatuszSor, KoordinatakOldalai) {
+    EXPECT_EQ(koordinataSzoveg(68640, 171000), "19°4'K  47°30'É");
+    EXPECT_EQ(koordinataSzoveg(-68160, -171000), "18°56'Ny  47°30'D");
+    EXPECT_EQ(koordinataSzoveg(0, 171000), "0°0'47°30'É");
+    EXPECT_EQ(koordinataSzoveg(68640, 0), "19°4'K  0°0'");
+    EXPECT_EQ(koordinataSzoveg(-59, 59), "0°0'Ny  0°0'É");
+}
+
+TEST(StatuszSor, AzArmcMasodpercetLevagja) {
+    TKeplet k;
+    k.armcOra = 7;
+    k.armcPerc = 0;
+    k.armcMperc = 9.99;
+    EXPECT_EQ(armcSzoveg(k), "ARMC:  07:00:09");
+    k.armcMperc = 47.7;
+    EXPECT_EQ(armcSzoveg(k), "ARMC:  07:00:47");
+}
+
+}  // namespace

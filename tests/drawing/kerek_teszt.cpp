@@ -1,0 +1,20 @@
+#include <gtest/gtest.h>
+
+#include "drawing/kerek.h"
+#include "drawing/rogzitovaszon.h"
+
+namespace {
+
+TEST(Kerek, AzAszcendensBaloldaltAHosszusagBalraForog) {
+    RogzitoVaszon v;
+    const TKerek kerek(v, 500, 400, 3.141592653589793 * 75 / 180);
+    const auto pont = [&](double hossz) { return kerek.pont(100, kerek.szog(hossz)); };
+    EXPECT_EQ(pont(75).x, 400);
+    EXPECT_EQ(pont(75).y, 400);
+    EXPECT_EQ(pont(165).x, 500);
+    EXPECT_EQ(pont(165).y, 500);  // 90 degrees on stands below: counter-clockwise from the left
+    EXPECT_EQ(pont(255).x, 600);
+    EXPECT_EQ(pont(345).y, 300);
+}
+
+}  // namespace

@@ -1,0 +1,141 @@
+// Frames of the wheels.
+
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "rajzteszt.h"
+
+namespace {
+
+/// Lines with the pen width and both ends at these distances from a centre, to the pixel.
+int vonalak(const std::vector<TMuvelet>& m, int x, int y, double r1, double r2, int toll) {
+    int szam = 0;
+    for (const TVonalMuvelet& v : csak<TVonalMuvelet>(m)) {
+        const double a = std::hypot(v.x1 - x, v.y1 - y);
+        const double b = std::hypot(v.x2 - x, v.y2 - y);
+        szam += v.toll == toll && std::abs(a - r1) < 1 && std::abs(b - r2) < 1 ? 1 : 0;
+    }
+    return szam;
+}
+
+TEST(RadixKeret, AFokskalaOsztasai) {
+    Allapot a = probaKeplet();
+    const auto m = rajz(a);
+    // R0 - R1 is 9: 0.39 and 0.7 of it are 4 and 6.
+    EXPECT_EQ(vonalak(m, 342, 322, 249, 253, 1), 360);
+    EXPECT_EQ(vonalak(m, 342, 322, 249, 255, 1), 72);
+    EXPECT_EQ(vonalak(m, 342, 322, 249, 258, 1), 36);
+    // Sign dividers: (258 + 27.5) x 0.98 is 279.79.
+    EXPECT_EQ(vonalak(m, 342, 322, 249, 280, 3), 12);
+    EXPECT_EQ(vonalak(m, 342, 322, 37, 249, 1), 12);  // house lines
+}
+
+TEST(RadixKeret, ATengelyekEsANyilak) {
+    Allapot a = probaKeplet(0);
+    a.Keplet.hazCsucs[10] = 280;
+    const auto v = csak<TVonalMuvelet>(rajz(a));
+    // A = round(258 + 55 / 5) = 269.
+    const auto van = [&](const TVonalMuvelet& mi) { return std::find(v.begin(), v.end(), mi) != v.end(); };
+    EXPECT_TRUE(van({342 + 37, 322, 342 + 269, 322, 3, 0}));  // Descendant
+    EXPECT_TRUE(van({342 - 37, 322, 342 - 271, 322, 3, 0}));  // Ascendant
+    // Arrow head: from 276 at the left to 264 at 0.016 radians above and below, which is 4 pixels.
+    EXPECT_TRUE(van({342 - 276, 322, 342 - 264, 322 - 4, 3, 0}));
+    EXPECT_TRUE(van({342 - 276, 322, 342 - 264, 322 + 4, 3, 0}));
+    // The Medium Coeli at 280 stands above and a little right; its unarrowed opposite end is the longer one.
+    EXPECT_EQ(vonalak({v.begin(), v.end()}, 342, 322, 37, 271, 3), 2);
+    EXPECT_EQ(vonalak({v.begin(), v.end()}, 342, 322, 37, 269, 3), 2);
+}
+
+TEST(RadixKeret, AHazakSzamaiAHazKozepen) {
+    Allapot a = probaKeplet(100);
+    const auto m = rajz(a);
+    const auto sz = szovegek(m, "IV");
+    ASSERT_EQ(sz.size(), 1U);
+    EXPECT_EQ(sz[0].betutipus, "Ariel");
+    EXPECT_EQ(sz[0].magassag, 59 - 37 - 8);
+    // House 4 from 190 to 220, its middle 105 degrees after the Ascendant: radius 48, offset round(9.5 - 3)
+    // = 6.
+    EXPECT_EQ(sz[0].x, 342 + 12 - 6);  // 48 cos 75 is 12.4
+    EXPECT_EQ(sz[0].y, 322 + 46 - 6);  // 48 sin 75 is 46.4
+    std::vector<std::string> cimkek;
+    for (const auto& t : csak<TSzovegMuvelet>(m))
+        if (cimkek.size() < 12) cimkek.push_back(t.szoveg);
+    EXPECT_EQ(cimkek, (std::vector<std::string>{" I", " 2", " 3", "IV", " 5", " 6", "VII", " 8", " 9", " X",
+                                                "11", "12"}));
+}
+
+TEST(RadixKeret, AKosotAtlepoHazKozepe) {
+    Allapot a = probaKeplet(345);  // house 1 from 345 to 15
+    const auto sz = szovegek(rajz(a), " I");
+    // The middle, 360, is 15 degrees after the Ascendant: left and a little below.
+    EXPECT_EQ(sz[0].x, 342 - 46 - 6);
+    EXPECT_EQ(sz[0].y, 322 + 12 - 6);
+}
+
+TEST(RadixKeret, AJegyekAKerekenKivul) {
+    Allapot a = probaKeplet(0);
+    const auto m = rajz(a);
+    const auto kos = szovegek(m, "a");
+    // (258 + 27.5) x 0.97 is 276.9, and 2: radius 279 at 15 degrees; height 24.75 -> 25; offset 13.75 -> 14.
+    EXPECT_EQ(kos[0].x, 342 - 269 - 14);  // 279 cos 15 is 269.5
+    EXPECT_EQ(kos[0].y, 322 + 72 - 14);   // 279 sin 15 is 72.2
+    EXPECT_EQ(kos[0].magassag, 25);
+    EXPECT_EQ(kos[0].betutipus, "Jelek");
+}
+
+TEST(DekadKerek, AKeretEsASzovegek) {
+    Allapot a = probaKeplet();
+    a.Uralkodok.DekadSzoveg[1] = "AB";
+    const auto m = rajz(a, 3);
+    EXPECT_EQ(vonalak(m, 342, 322, 25, 258, 1), 12);
+    const auto t = csak<TSzovegMuvelet>(m);
+    // All twelve strings, the empty ones too: height 17.2 + 10 -> 27, offset 14.6 -> 15, radius 258 at 15
+    // degrees.
+    EXPECT_EQ(t[0].szoveg, "AB");
+    EXPECT_EQ(t[0].magassag, 27);
+    EXPECT_EQ(t[0].x, 342 - 249 - 15);  // 258 cos 15 is 249.2
+    EXPECT_EQ(t[0].y, 322 + 67 - 15);   // 258 sin 15 is 66.8
+    for (std::size_t i = 1; i < 12; ++i) EXPECT_EQ(t[i].szoveg, "");
+    // Signs: 258 / 25 + 8 is 18.3, offset 9, radius round(77.4).
+    EXPECT_EQ(t[12].szoveg, "a");
+    EXPECT_EQ(t[12].magassag, 18);
+    EXPECT_EQ(t[12].x, 342 - 74 - 9);  // 77 cos 15 is 74.4
+    EXPECT_EQ(t[12].y, 322 + 20 - 9);
+}
+
+TEST(KisDekadKerek, AMeretei) {
+    Allapot a = probaKeplet();
+    a.Uralkodok.DekadSzoveg[1] = "AB";
+    const auto m = rajz(a, 1);
+    EXPECT_EQ(vonalak(m, 803, 483, 16, 135, 1), 12);
+    const auto sz = szovegek(m, "AB");
+    // T = 135, radius round(148.5) to the even 148, height 12.86 + 10 -> 23, offset (10.8 + 12) / 2 -> 11.
+    EXPECT_EQ(sz[0].magassag, 23);
+    EXPECT_EQ(sz[0].x, 803 - 143 - 11);  // 148 cos 15 is 143.0
+    EXPECT_EQ(sz[0].y, 483 + 38 - 11);
+}
+
+TEST(KisMundanKerek, AKullokEsAJegyek) {
+    Allapot a = probaKeplet();
+    const auto m = rajz(a, 1);
+    EXPECT_EQ(vonalak(m, 803, 161, 120 / 1.125, 135, 2), 12);
+    // P = round(135 x 1.15) = 155: height 6.2 + 5 -> 11; the sign stands 4 degrees into its sector, radius
+    // 132.
+    const auto kos = szovegek(m, "a");
+    ASSERT_EQ(kos.size(), 3U);
+    EXPECT_EQ(kos[1].magassag, 11);
+    EXPECT_EQ(kos[1].x, 803 - 132 - 6);  // 132 cos 4 is 131.7
+    EXPECT_EQ(kos[1].y, 161 + 9 - 6);
+    // Bodies: radius 155, height 21, offset 10 (10.5 to the even); the Sun at 3 degrees.
+    const auto nap = szovegek(m, "A");
+    EXPECT_EQ(nap[1].magassag, 21);
+    EXPECT_EQ(nap[1].x, 803 - 155 - 10);
+    EXPECT_EQ(nap[1].y, 161 + 8 - 10);
+    // Pointers from 120 to 120 / 9 + 5 + 120 with pen 1.
+    EXPECT_EQ(vonalak(m, 803, 161, 120, 120 / 9.0 + 125, 1), 10);
+}
+
+}  // namespace

@@ -1,0 +1,48 @@
+// The title file.
+
+#include <sstream>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "files/cimfajl.h"
+#include "tables/szoveg.h"
+
+namespace {
+
+using TCimek = Tomb<std::string, feliratHelyek>;
+
+TCimek cimek(const std::string& fajl) {
+    std::istringstream be(fajl);
+    TCimek c;
+    CimFajlOlvas(be, c);
+    return c;
+}
+
+TEST(CimFajl, ASorokLegalabb200KarakteresekEsGorgethetok) {
+    const TCimek c = cimek("első\nmásodik sor\r\n");
+    // "első " has 5 characters: 200 / 5 + 1 = 41 times.
+    EXPECT_EQ(karakterSzam(c[1]), 205);
+    EXPECT_EQ(c[1].substr(0, 11), "első első");
+    // 12 characters with the blank: 16 + 1 = 17 times.
+    EXPECT_EQ(karakterSzam(c[2]), 204);
+    EXPECT_EQ(c[3], "");
+}
+
+TEST(CimFajl, AHosszuSorEgyszerSzerepel) {
+    const TCimek c = cimek(std::string(250, 'x'));
+    EXPECT_EQ(c[1], std::string(250, 'x') + " ");
+}
+
+TEST(CimFajl, AzElsoUresSorMindentUresenHagy) {
+    const TCimek c = cimek("\nszöveg\n");
+    for (const std::string& cim : c) EXPECT_EQ(cim, "");
+}
+
+TEST(CimFajl, AzUresSorNalMegallEsHatnalTobbetNemOlvas) {
+    EXPECT_EQ(cimek("a\n\nb\n")[2], "");
+    const TCimek c = cimek("a\nb\nc\nd\ne\nf\ng\n");
+    EXPECT_EQ(c[6].substr(0, 2), "f ");
+}
+
+}  // namespace

@@ -1,0 +1,47 @@
+// Solar ingress.
+
+#include <cmath>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "iranyteszt.h"
+#include "predictive/ingresszio.h"
+
+namespace {
+
+std::string ingresszio(int napok) {
+    Allapot a = szuletes();
+    return IngresszioKeres(a, szuletesnap, napokkal(szuletesnap, napok), "Szeged");
+}
+
+TEST(Ingresszio, ASolarNapjanMindenBolygoOnmagaval) {
+    // The birth day is its own solar return: angle 0, the upper bound 0.493.
+    const std::string szoveg = ingresszio(0);
+    for (char b = 'A'; b <= 'J'; ++b)
+        EXPECT_NE(szoveg.find(std::string{' ', b, 'M', b}), std::string::npos) << b;
+    EXPECT_EQ(ingresszio(1).find(" AMA"), std::string::npos);  // an angle of 0.986
+}
+
+TEST(Ingresszio, AFelevEsAzEvVegeVisszahajlik) {
+    EXPECT_EQ(ingresszio(183).find(" AMA"), std::string::npos);
+    // The last day before the next return: 364 x 360 / 365 is 359.01, folded to 0.99; 365 days are exactly
+    // 360 and 0.
+    EXPECT_EQ(ingresszio(364).find(" AMA"), std::string::npos);
+    EXPECT_NE(ingresszio(365).find(" AMA"), std::string::npos);
+}
+
+TEST(Ingresszio, AParokTavolsagaANapokSzoge) {
+    for (const int nap : {30, 90, 150, 200, 300}) {
+        Allapot a = szuletes();
+        const std::string szoveg = IngresszioKeres(a, szuletesnap, napokkal(szuletesnap, nap), "Szeged");
+        double szog = nap * 360 / 365.0;
+        if (szog > 180) szog = 360 - szog;
+        int parok = 0;
+        for (int i = 1; i <= 10; ++i)
+            for (int j = i; j <= 10; ++j) parok += std::abs(a.Munka.Elteresek[i][j] - szog) < 180 / 365.0;
+        EXPECT_EQ(szoveg.size(), static_cast<std::size_t>(4 * parok)) << nap;
+    }
+}
+
+}  // namespace

@@ -1,0 +1,113 @@
+// The date dialog of tertiary directions and of the solar ingress.
+
+#include "ablakteszt.h"
+
+class TForm3Teszt : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { sajatBetukBetoltese(); }
+
+    void aTercierDatumaForog() {
+        TFrissAblakok a;
+        szuletes(a);
+        valasz([](QWidget& d) {
+            QCOMPARE(d.windowTitle(), "Tercier direkció");
+            auto* ev = vezerlo<QSpinBox>(d, "SpinEditEv1");
+            auto* ho = vezerlo<QSpinBox>(d, "SpinEditHo1");
+            auto* nap = vezerlo<QSpinBox>(d, "SpinEditNap1");
+            ev->setValue(2000);
+            ho->setValue(12);
+            ho->setValue(13);
+            QCOMPARE(ho->value(), 1);
+            QCOMPARE(ev->value(), 2001);
+            ho->setValue(0);
+            QCOMPARE(ho->value(), 12);
+            QCOMPARE(ev->value(), 2000);
+            nap->setValue(32);
+            QCOMPARE(nap->value(), 1);
+            QCOMPARE(ho->value(), 1);
+            QCOMPARE(ev->value(), 2001);
+            nap->setValue(0);
+            QCOMPARE(nap->value(), 31);
+            QCOMPARE(ho->value(), 12);
+            ev->setValue(2068);
+            ho->setValue(13);
+            QCOMPARE(ev->value(), 2068);
+            QCOMPARE(ho->value(), 1);
+            QCOMPARE(vezerlo<QSpinBox>(d, "SpinEditOrbis1")->pos(), QPoint(152, 88));
+            QCOMPARE(vezerlo<QLabel>(d, "Orbis_napokban1")->pos(), QPoint(24, 88));
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Tercier1");
+        QVERIFY(a.allapot().Megsem3);
+    }
+
+    void azOrbisValtozasaASzovegetNemFrissiti() {
+        TFrissAblakok a;
+        szuletes(a);
+        valasz([](QWidget& d) {
+            auto* orbis = vezerlo<QSpinBox>(d, "SpinEditOrbis1");
+            auto* nap = vezerlo<QSpinBox>(d, "SpinEditNap1");
+            auto* verdikt = vezerlo<QLabel>(d, "Tercier_Direkcio1");
+            auto* szoveg = vezerlo<QLabel>(d, "Tercier_Direkcio2");
+            QCOMPARE(orbis->value(), 45);
+            // A date with a hit at the widest orb and none at the narrowest.
+            for (int ev = 1990; ev < 2030; ++ev) {
+                vezerlo<QSpinBox>(d, "SpinEditEv1")->setValue(ev);
+                orbis->setValue(1);
+                nap->setValue(nap->value() == 5 ? 6 : 5);
+                if (verdikt->text() == "Nincs direkció!") break;
+            }
+            QCOMPARE(verdikt->text(), "Nincs direkció!");
+            QCOMPARE(szoveg->text(), "");
+            orbis->setValue(99);
+            QCOMPARE(verdikt->text(), "Van direkció!");
+            QCOMPARE(szoveg->text(), "");
+            nap->setValue(nap->value() + 1);
+            QVERIFY(!szoveg->text().isEmpty());
+            kattint(d, "Button_Rendben1");
+        });
+        kattint(a.form1, "PanelButton7Tercier");
+        QVERIFY(!a.allapot().Megsem3);
+        QCOMPARE(a.allapot().TercierOrbisNap, 99.0);
+        // The next opening starts at the confirmed date with the orb of 45 days.
+        const int ev = a.allapot().TercierDatum.ev;
+        valasz([ev](QWidget& d) {
+            QCOMPARE(ertek(d, "SpinEditEv1"), ev);
+            QCOMPARE(ertek(d, "SpinEditOrbis1"), 45);
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Tercier1");
+    }
+
+    void aRendbenAFeluletreIrjaAzEredmenyt() {
+        TFrissAblakok a;
+        szuletes(a);
+        const QImage elobb = a.form1.findChild<KepletFelulet*>("Felulet")->kep().toImage();
+        valasz([](QWidget& d) { kattint(d, "Button_Rendben1"); });
+        menu(a.form1, "Szolaringresszio11");
+        const QImage utana = a.form1.findChild<KepletFelulet*>("Felulet")->kep().toImage();
+        QVERIFY(elobb.copy(55, 7, 300, 24) != utana.copy(55, 7, 300, 24));
+        QCOMPARE(panel(a.form1, 0), "Radix");
+    }
+
+    void azIngresszioOrbisaAzAblakonKivul() {
+        TFrissAblakok a;
+        szuletes(a);
+        valasz([](QWidget& d) {
+            QCOMPARE(d.windowTitle(), "Szolár-ingresszió");
+            QCOMPARE(vezerlo<QLabel>(d, "Orbis_napokban1")->pos(), QPoint(424, 88));
+            QCOMPARE(vezerlo<QSpinBox>(d, "SpinEditOrbis1")->pos(), QPoint(552, 88));
+            QVERIFY(d.width() <= 424);
+            const QString verdikt = vezerlo<QLabel>(d, "Tercier_Direkcio1")->text();
+            QVERIFY(verdikt == "Van inresszió!" || verdikt == "Nincs ingresszió!");
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Szolaringresszio11");
+        QVERIFY(!a.allapot().TercierAblak);
+    }
+};
+
+QTEST_MAIN(TForm3Teszt)
+#include "tform3_tercier_teszt.moc"

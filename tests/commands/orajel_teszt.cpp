@@ -277,6 +277,29 @@ TEST_F(TOrajel, AVisszateresKepleterolIsASzuleteshez) {
     EXPECT_EQ(a.Keplet.pillanat, (TPillanat{1975, 3, 21, 6, 4, 9}));
 }
 
+TEST_F(TOrajel, KetKepzettKepletUtanIsASzuletesHelyere) {
+    szuletes();
+    VisszateresKereses(a, RevolucioFajta(1), VisszateresCel(a, RevolucioFajta(1)));
+    VisszateresKeplet(a, ablak, RevolucioFajta(1), 31, "Pécs");
+    VisszateresKeplet(a, ablak, RevolucioFajta(1), 32, "Sopron");
+    EXPECT_EQ(a.Keplet.helyseg, "Sopron");
+    EXPECT_EQ(a.helysegMentett, "Szeged");
+    MostParancs(a, ablak);
+    EXPECT_EQ(a.Keplet.helyseg, "Szeged");
+    EXPECT_EQ(a.Keplet.pillanat, (TPillanat{1975, 3, 21, 6, 4, 9}));
+    EXPECT_EQ(panel(4), "Szeged");
+}
+
+TEST_F(TOrajel, AValasztottIdoTipustAzOrajelNemIrjaFelul) {
+    IdoTipusValasztas(a, 1);
+    orajelek(1);
+    EXPECT_EQ(a.Szemely.idoTipus, TIdoTipus::LMT);
+    EXPECT_TRUE(panel(3).ends_with(" ZN"));
+    SzemelyiAblakZarult(a);
+    orajelek(1);
+    EXPECT_EQ(a.Szemely.idoTipus, TIdoTipus::ZN);
+}
+
 TEST_F(TOrajel, UjKepletAKepzettAllapotbanAVisszaModMarad) {
     szuletes();
     a.VisszaMod = true;

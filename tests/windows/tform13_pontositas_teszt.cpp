@@ -1,8 +1,10 @@
 #include <array>
+#include <functional>
 
 #include <QTextBlock>
 
 #include "ablakteszt.h"
+#include "commands/lepteto.h"
 
 namespace {
 
@@ -82,6 +84,30 @@ private slots:
         kattint(a.form7, "Button9percp");
         a.orajelek(1);
         QVERIFY(!sorok(a.form12, "Memo1").isEmpty());
+    }
+
+    void mindenBezarasAGombkentTesz() {
+        const std::function<void(QWidget&)> bezarasok[]{
+            [](QWidget& d) { kattint(d, "Button_Megsem1"); }, [](QWidget& d) { d.close(); },
+            [](QWidget& d) { QTest::keyClick(&d, Qt::Key_Escape); }};
+        TFrissAblakok a;
+        a.oraIndul();
+        szuletes(a);
+        esemenyek(a, 1);
+        menu(a.form1, "Primer1");
+        for (const auto& bezaras : bezarasok) {
+            kattint(a.form12, "Button_Pontositas1");
+            QVERIFY(a.allapot().PontositasFut && !a.allapot().PrimerFut);
+            bezaras(a.form13);
+            QVERIFY(!a.form13.isVisible());
+            QVERIFY(!a.allapot().PontositasFut);
+            QVERIFY(a.allapot().PrimerFut);
+            // The primary list beside it follows the chart again.
+            const QString elobb = sorok(a.form12, "Memo1");
+            Leptetes(a.allapot(), lepesek[0]);
+            QTest::qWait(tobbOrajel);
+            QVERIFY(sorok(a.form12, "Memo1") != elobb);
+        }
     }
 
     void aHatotavValtozasaUjraFuttatEsMegmarad() {

@@ -6,6 +6,7 @@
 #include <QRadioButton>
 
 #include "ablakteszt.h"
+#include "windows/qszoveg.h"
 
 namespace {
 
@@ -99,6 +100,52 @@ private slots:
         QVERIFY((a.allapot().SzuletesiPillanat == TPillanat{1975, 3, 21, 6, 4, 9}));
         // The Sun an hour before the equinox of 21 March 1975, 5:57 in Greenwich.
         QVERIFY(k.bolygo[1] > 359.9 && k.bolygo[1] < 360.0);
+    }
+
+    /// 20°9' is 4836 s of local time: 6:04:09 - 1:20:36 + 1:00:00 = 5:43:33.
+    void aFutoOraAlattValasztottIdoTipusMegmarad() {
+        constexpr TPillanat vart[]{{1975, 3, 21, 6, 4, 9}, {1975, 3, 21, 5, 43, 33}, {1975, 3, 21, 7, 4, 9}};
+        for (const char* parancs : {"Uj1", "Szemely_adatok1"}) {
+            for (int tipus = 0; tipus < 3; ++tipus) {
+                TFrissAblakok a;
+                a.oraIndul();
+                valasz([&](QWidget& d) {
+                    szuletesGepelese(d);
+                    idoTipus(d, tipus);
+                    QTest::qWait(tobbOrajel);
+                    QVERIFY(a.allapot().MostFut);
+                    kattint(d, "Button_Rendben1");
+                });
+                menu(a.form1, parancs);
+                QCOMPARE(a.allapot().Szemely.idoTipus, static_cast<TIdoTipus>(tipus));
+                QVERIFY((a.allapot().Keplet.pillanat == vart[tipus]));
+                QCOMPARE(panel(a.form1, 3),
+                         "1975.03.21. 06:04:09 " + qszoveg(idoTipusok[static_cast<std::size_t>(tipus)]));
+            }
+        }
+    }
+
+    void aFutoOraAlattValasztasNelkulZonaIdo() {
+        TFrissAblakok a;
+        a.oraIndul();
+        valasz([&](QWidget& d) {
+            szuletesGepelese(d);
+            idoTipus(d, 1);
+            QTest::qWait(tobbOrajel);
+            // The status bar behind the dialog goes on showing the clock's own kind.
+            QVERIFY(panel(a.form1, 3).endsWith(" ZN"));
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Uj1");
+        QTest::qWait(tobbOrajel);
+        QCOMPARE(a.allapot().Szemely.idoTipus, TIdoTipus::ZN);
+        valasz([&](QWidget& d) {
+            szuletesGepelese(d);
+            QTest::qWait(tobbOrajel);
+            kattint(d, "Button_Rendben1");
+        });
+        menu(a.form1, "Szemely_adatok1");
+        QVERIFY((a.allapot().Keplet.pillanat == TPillanat{1975, 3, 21, 6, 4, 9}));
     }
 
     void helyiKozepidoAtszamitva() {

@@ -1,6 +1,9 @@
 // The date dialog of tertiary directions and of the solar ingress.
 
+#include <QListWidget>
+
 #include "ablakteszt.h"
+#include "commands/lepteto.h"
 
 class TForm3Teszt : public QObject {
     Q_OBJECT
@@ -79,6 +82,71 @@ private slots:
             kattint(d, "Button_Megsem1");
         });
         menu(a.form1, "Tercier1");
+    }
+
+    /// Also over a stepped and over a derived chart, confirmed or not, the chart on screen keeps its moment.
+    void aKepletAMagaPillanatanMarad() {
+        for (const char* parancs : {"Tercier1", "Szolaringresszio11"}) {
+            for (const char* gombja : {"Button_Rendben1", "Button_Megsem1"}) {
+                for (const bool kepzett : {false, true}) {
+                    TFrissAblakok a;
+                    szuletes(a);
+                    if (kepzett) {
+                        valasz([](QWidget& d) {
+                            vezerlo<QListWidget>(d, "ListBox1")->setCurrentRow(9);
+                            gepel(d, "ComboBoxHelyseg1", "Sopron");
+                            kattint(d, "Button_Rendben1");
+                        });
+                        menu(a.form1, "Lunar1");
+                    } else {
+                        Leptetes(a.allapot(), lepesek[4]);
+                        a.orajelek(1);
+                    }
+                    const TKeplet elobb = a.allapot().Keplet;
+                    const QString cim = panel(a.form1, 3);
+                    valasz([gombja](QWidget& d) {
+                        vezerlo<QSpinBox>(d, "SpinEditNap1")->setValue(11);
+                        kattint(d, gombja);
+                    });
+                    menu(a.form1, parancs);
+                    const TKeplet& k = a.allapot().Keplet;
+                    QVERIFY(k.pillanat == elobb.pillanat);
+                    QCOMPARE(k.julianszam, elobb.julianszam);
+                    QCOMPARE(k.napresz, elobb.napresz);
+                    QCOMPARE(k.helyseg, elobb.helyseg);
+                    QCOMPARE(k.hosszusag, elobb.hosszusag);
+                    QCOMPARE(k.nyariIdo, elobb.nyariIdo);
+                    QCOMPARE(panel(a.form1, 3), cim);
+                }
+            }
+        }
+    }
+
+    void azUresOrbisEgynekSzamit() {
+        TFrissAblakok a;
+        szuletes(a);
+        valasz([&](QWidget& d) {
+            auto* orbis = vezerlo<QSpinBox>(d, "SpinEditOrbis1");
+            auto* nap = vezerlo<QSpinBox>(d, "SpinEditNap1");
+            auto* verdikt = vezerlo<QLabel>(d, "Tercier_Direkcio1");
+            // A date with a hit at 45 days and none at 1.
+            for (int ev = 1990; ev < 2060; ++ev) {
+                vezerlo<QSpinBox>(d, "SpinEditEv1")->setValue(ev);
+                orbis->setValue(1);
+                nap->setValue(nap->value() == 5 ? 6 : 5);
+                const QString egy = verdikt->text();
+                orbis->setValue(45);
+                if (egy == "Nincs direkció!" && verdikt->text() == "Van direkció!") break;
+            }
+            QCOMPARE(verdikt->text(), "Van direkció!");
+            orbis->setFocus();
+            orbis->selectAll();
+            QTest::keyClick(orbis, Qt::Key_Delete);
+            QCOMPARE(verdikt->text(), "Nincs direkció!");
+            QTest::keyClick(orbis, Qt::Key_Return);
+        });
+        menu(a.form1, "Tercier1");
+        QVERIFY(!a.allapot().Megsem3);
     }
 
     void aRendbenAFeluletreIrjaAzEredmenyt() {

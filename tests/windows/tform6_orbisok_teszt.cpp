@@ -63,6 +63,46 @@ private slots:
         QCOMPARE(a.allapot().OrbisTabla[3][1], 14.5);
     }
 
+    /// Symbols stand at the told places: the body 65 + 26 r and the aspect 45 + 32 c pixels, from the label's
+    /// corner.
+    void aJelekAMegmondottHelyenAllnak() {
+        TFrissAblakok a;
+        valasz([](QWidget& d) {
+            int cimkek = 0;
+            for (const QLabel* cimke : d.findChildren<QLabel*>()) {
+                QCOMPARE(cimke->alignment(), Qt::AlignLeft | Qt::AlignTop);
+                QCOMPARE(cimke->size(), QSize(30, 24));
+                if (cimke->x() == 12)
+                    QCOMPARE((cimke->y() - 65) % 26, 0);
+                else
+                    QVERIFY(cimke->y() == 42 && (cimke->x() - 45) % 32 == 0);
+                ++cimkek;
+            }
+            QCOMPARE(cimkek, 12 + 9);
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Orbisok1");
+    }
+
+    void aHaromKarakteresErtekNemSzukul() {
+        TFrissAblakok a;
+        valasz([](QWidget& d) {
+            auto* gomb = vezerlo<QPushButton>(d, "BOrbis_5_1");  // 8 degrees as delivered
+            QTest::mouseClick(gomb, Qt::LeftButton);
+            QCOMPARE(gomb->text(), "8.5");
+            QCOMPARE(gomb->font().pointSize(), 16);
+            QVERIFY(gomb->font().stretch() == 0 || gomb->font().stretch() == 100);
+            QVERIFY(gomb->fontMetrics().horizontalAdvance("8.5") <= gomb->width());
+            auto* negy = vezerlo<QPushButton>(d, "BOrbis_3_1");  // 15 degrees
+            QTest::mouseClick(negy, Qt::LeftButton);
+            QCOMPARE(negy->text(), "15.5");
+            QVERIFY(negy->font().stretch() < 100);
+            QVERIFY(negy->fontMetrics().horizontalAdvance("15.5") <= negy->width());
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Orbisok1");
+    }
+
     void nullaAlaNemMegy() {
         TFrissAblakok a;
         a.allapot().OrbisTabla[5][2] = 0;

@@ -9,7 +9,7 @@ punctuation are DejaVu Sans outlines, made smaller.
 
 import argparse
 import os
-from math import acos, atan2, ceil, cos, degrees, hypot, radians, sin, sqrt
+from math import acos, atan2, ceil, cos, degrees, hypot, radians, sin, sqrt, tan
 
 from fontTools.fontBuilder import FontBuilder
 from fontTools.misc.transform import Transform
@@ -20,14 +20,14 @@ from fontTools.ttLib import TTFont
 from fontTools.ttLib.tables._g_l_y_f import flagOverlapSimple
 
 NEV = "Astro Symbols"
-VALTOZAT = "1.000"
+VALTOZAT = "2.000"
 IDO = 3786912000  # 2024-01-01 in the font's count of seconds: the file is the same at each making
 
 EM = 2048
 FELSO, ALSO = 1638, 410  # ascent, descent: together the em
-VONAL = 190              # stroke width of every symbol
+VONAL = 160              # stroke width of every symbol
 FEL = VONAL / 2
-KOZEP = 640              # height of the symbols' centre above the baseline
+KOZEP = 627              # height of the symbols' centre above the baseline: half that of the figures
 JELSZELES = 1820         # advance of every symbol
 KICSINYIT = 0.84         # scale of the DejaVu outlines
 
@@ -229,10 +229,10 @@ class Jel:
                 y.append(q[1])
         return min(x), min(y), max(x), max(y)
 
-    def glifa(self, szeles=JELSZELES):
-        """The glyph, its outline centred in the advance and at the symbols' height."""
+    def glifa(self, szeles=JELSZELES, emeles=0):
+        """The glyph, its outline centred in the advance and at the symbols' height, and lifted from there."""
         x0, y0, x1, y1 = self.keret()
-        dx, dy = szeles / 2 - (x0 + x1) / 2, KOZEP - (y0 + y1) / 2
+        dx, dy = szeles / 2 - (x0 + x1) / 2, KOZEP + emeles - (y0 + y1) / 2
         pen = TTGlyphPen(None)
 
         def pont(q):
@@ -254,86 +254,86 @@ class Jel:
         return g
 
 
-# --- the symbols; the centre of the drawing is about (0, 0), the strokes' lines reach to +-680 -----------
+# --- the symbols; the centre of the drawing is about (0, 0), the strokes' lines reach to +-700 -----------
+# Parallel strokes stand at least 180 apart, so that at 12 pixels a pixel of white stays between them.
 
 def nap(j):
-    j.huz(kor(0, 0, 640))
+    j.huz(kor(0, 0, 660))
     j.korlap(0, 0, 165)
 
 
 def hold(j):
-    j.huz(iv(0, 0, 680, 112, -112) + iv3((680 * cos(radians(112)), -680 * sin(radians(112))), (220, 0),
-                                         (680 * cos(radians(112)), 680 * sin(radians(112)))))
-    p = (680 * cos(radians(112)), 680 * sin(radians(112)))
+    r = 680
+    p, q = ((r * cos(radians(f)), r * sin(radians(f))) for f in (118, -118))
+    j.huz(iv(0, 0, r, 118, -118), iv3(q, (140, 0), p))
     j.korlap(*p, FEL)
+    j.korlap(*q, FEL)
 
 
 def merkur(j):
-    j.huz(iv3((-350, 700), (0, 400), (350, 700)), kor(0, 100, 300), szakasz((0, -200), (0, -700)),
-          szakasz((-340, -470), (340, -470)))
+    j.huz(iv3((-460, 760), (0, 480), (460, 760)), kor(0, 155, 325), szakasz((0, -170), (0, -775)),
+          szakasz((-430, -510), (430, -510)))
 
 
 def venusz(j):
-    j.huz(kor(0, 300, 380), szakasz((0, -80), (0, -680)), szakasz((-350, -390), (350, -390)))
+    j.huz(kor(0, 270, 430), szakasz((0, -160), (0, -775)), szakasz((-430, -475), (430, -475)))
 
 
 def mars(j):
-    j.huz(kor(-150, -170, 430), szakasz((154, 134), (640, 620)), szakasz((180, 640), (660, 640), (660, 160)))
+    j.huz(kor(-170, -190, 450), szakasz((148, 128), (640, 620)), szakasz((170, 660), (680, 660), (680, 150)))
 
 
 def jupiter(j):
-    r = 310
-    x, y = -270, 370
-    px, py = x + r * cos(radians(-45)), y + r * sin(radians(-45))
-    h = py + 290
-    j.huz(iv(x, y, r, 165, -45) + szakasz((px, py), (px - h, -290), (640, -290)),
-          szakasz((370, 560), (370, -680)))
+    r, x, y, bar = 310, -280, 400, -290
+    px, py = x + r * sqrt(0.5), y - r * sqrt(0.5)
+    j.huz(iv(x, y, r, 170, -45) + szakasz((px, py), (px - (py - bar), bar), (680, bar)),
+          szakasz((400, 640), (400, -720)))
 
 
 def szaturnusz(j):
-    x, y, r = 50, -130, 300
-    c = sqrt(0.5)
+    r, k, c = 330, 170, sqrt(0.5)
+    x, y = 10, -185
     p = (x + r * c, y - r * c)
-    q = (p[0] - 105, p[1] - 105)
-    k = 165
-    j.huz(szakasz((-250, 700), (-250, -480)), szakasz((-580, 450), (130, 450)),
-          iv(x, y, r, 180, -45) + szakasz(p, q) + iv(q[0] + k * c, q[1] - k * c, k, 135, 325))
+    j.huz(szakasz((-300, 780), (-300, -640)), szakasz((-650, 505), (50, 505)),
+          iv(x, y, r, 160, -45) + iv(p[0] + k * c, p[1] - k * c, k, 135, 320))
 
 
 def uranusz(j):
-    bal = iv3((-540, 680), (-430, 270), (-540, -140))
-    j.huz(bal, tukor(bal), szakasz((-430, 270), (430, 270)), szakasz((0, 680), (0, -210)), kor(0, -440, 240))
+    bal = iv3((-580, 710), (-460, 310), (-580, -90))
+    j.huz(bal, tukor(bal), szakasz((-460, 310), (460, 310)), szakasz((0, 730), (0, -190)), kor(0, -440, 250))
 
 
 def neptunusz(j):
-    r = 470
-    j.huz(szakasz((-r, 680), (-r, 350)) + iv(0, 350, r, 180, 360) + szakasz((r, 350), (r, 680)),
-          szakasz((0, 740), (0, -700)), szakasz((-330, -420), (330, -420)))
+    r = 480
+    j.huz(szakasz((-r, 720), (-r, 300)) + iv(0, 300, r, 180, 360) + szakasz((r, 300), (r, 720)),
+          szakasz((0, 760), (0, -760)), szakasz((-370, -470), (370, -470)))
 
 
 def pluto(j):
-    j.huz(szakasz((-340, 735), (-340, -640), (460, -640)),
-          szakasz((-340, 640), (80, 640)) + iv(80, 300, 340, 90, -90) + szakasz((80, -40), (-340, -40)))
+    j.huz(szakasz((470, -680), (-400, -680), (-400, 680), (60, 680)) + iv(60, 330, 350, 90, -90)
+          + szakasz((60, -20), (-400, -20)))
 
 
 def kos(j):
-    bal = szakasz((0, -700), (0, 340)) + iv(-330, 340, 330, 0, 215)
+    r, f, k = 4500, 15, 280
+    x, y = -r * (1 - cos(radians(f))), -740 + r * sin(radians(f))
+    bal = iv(-r, -740, r, 0, f) + iv(x - k * cos(radians(f)), y - k * sin(radians(f)), k, f, 215)
     j.huz(bal, tukor(bal))
 
 
 def bika(j):
-    j.huz(kor(0, -290, 400), iv3((-560, 680), (0, 110), (560, 680)))
+    j.huz(kor(0, -280, 410), iv3((-580, 700), (0, 130), (580, 700)))
 
 
 def ikrek(j):
-    fent = iv3((-560, 680), (0, 530), (560, 680))
-    j.huz(fent, forgat180(fent), szakasz((-250, 560), (-250, -560)), szakasz((250, 560), (250, -560)))
+    fent = iv3((-580, 700), (0, 560), (580, 700))
+    j.huz(fent, forgat180(fent), szakasz((-270, 590), (-270, -590)), szakasz((270, 590), (270, -590)))
 
 
 def rak(j):
-    r = 215
-    ut = iv(-60, 60, 590, 180, 90) + iv(-60, 650 - 1290, 1290, 90, 58)
-    gomb = kor(-650 + r, 60, r)
+    r = 265
+    ut = iv(-60, 60, 650, 180, 90) + iv(-60, 710 - 1290, 1290, 90, 58)
+    gomb = kor(-710 + r, 60, r)
     j.huz(gomb, ut, forgat180(gomb), forgat180(ut))
 
 
@@ -343,7 +343,7 @@ def oroszlan(j):
     p = (r * cos(radians(205)), y + r * sin(radians(205)))
     u = (cos(radians(-65)), sin(radians(-65)))
     q = (p[0] + 200 * u[0], p[1] + 200 * u[1])
-    k = 225
+    k = 280
     j.huz(kor(q[0] - k * cos(radians(25)), q[1] - k * sin(radians(25)), k))
     s = (r * cos(radians(-25)), y + r * sin(radians(-25)))
     v = (-u[0], u[1])
@@ -353,110 +353,135 @@ def oroszlan(j):
           + iv(t[0] + h * cos(radians(25)), t[1] - h * sin(radians(25)), h, 155, 335))
 
 
-def emBetu(j, veg):
-    """The m of Virgo and Scorpio; `veg` goes on from the third stem's foot at (140, -430)."""
-    k = 185
-    j.huz(szakasz((-600, 700), (-600, -480)),
-          iv(-415, 420, k, 180, 0) + szakasz((-230, 420), (-230, -480)),
-          iv(-45, 420, k, 180, 0) + szakasz((140, 420), (140, -430)) + veg)
+def emBetu(j, x, kez, also, also3, veg):
+    """The m of Virgo and Scorpio, its stems `kez` apart; `veg` goes on from the third's foot at `also3`."""
+    k = kez / 2
+    y = 695 - k
+    j.huz(szakasz((x, also), (x, y)) + iv(x + k, y, k, 180, 0) + szakasz((x + kez, y), (x + kez, also)),
+          iv(x + 3 * k, y, k, 180, 0) + szakasz((x + 2 * kez, y), (x + 2 * kez, also3)) + veg)
 
 
 def szuz(j):
-    emBetu(j, iv(400, -430, 260, 180, 280))
-    j.huz(iv(350, 250, 210, 180, 0) + iv(560 - 1000, 250, 1000, 0, -64))
+    emBetu(j, -690, 410, -540, -250, iv(650, -250, 520, 180, 236))
+    j.huz(iv(345, 180, 215, 180, 0) + iv(560 - 920, 180, 920, 0, -71))
 
 
 def merleg(j):
-    r = 420
-    h = degrees(acos(270 / r))
-    y = -130 + sqrt(r * r - 270 * 270)
-    j.huz(szakasz((-690, -560), (690, -560)),
-          szakasz((-690, -130), (-270, -130)) + iv(0, y, r, 180 + h, -h) + szakasz((270, -130), (690, -130)))
+    r = 440
+    h = degrees(acos(280 / r))
+    y = -130 + sqrt(r * r - 280 * 280)
+    j.huz(szakasz((-700, -570), (700, -570)),
+          szakasz((-700, -130), (-280, -130)) + iv(0, y, r, 180 + h, -h) + szakasz((280, -130), (700, -130)))
 
 
 def skorpio(j):
-    emBetu(j, iv(380, -430, 240, 180, 360) + szakasz((620, -430), (620, 120)))
-    j.huz(szakasz((340, -160), (620, 120), (900, -160)))
+    emBetu(j, -720, 420, -600, -340, iv(300, -340, 180, 180, 270) + szakasz((300, -520), (690, -520)))
+    j.huz(szakasz((490, -270), (690, -520), (490, -770)))
 
 
 def nyilas(j):
-    j.huz(szakasz((-640, -640), (620, 620)), szakasz((60, 640), (640, 640), (640, 60)),
-          szakasz((-530, 70), (70, -530)))
+    j.huz(szakasz((-660, -660), (640, 640)), szakasz((70, 660), (660, 660), (660, 70)),
+          szakasz((-560, 80), (80, -560)))
 
 
 def bak(j):
-    j.huz(szakasz((-640, 700), (-640, -260)),
-          iv(-350, 315, 290, 180, 0) + szakasz((-60, 315), (-60, -420)) + iv(-320, -420, 260, 0, -95),
-          kor(230, -130, 290))
+    """The second stem bends into the loop; the loop's end crosses it and becomes the tail."""
+    x, y = 0, -350                          # where the strokes cross
+    dol, fel = radians(17), radians(48)     # slope of the loop's middle line, half the angle of the crossing
+    r, nagy, k, q, hossz = 290, 360, 225, 200, 230
+    be, ki = dol - fel, dol + fel           # directions at the crossing, into the loop and back along its end
+    t = r / tan(fel)                        # from the crossing to where the loop's circle begins and ends
+    d = r / sin(fel)
+    x2, y2 = x - nagy * (1 + sin(be)), y + nagy * cos(be)
+    p = (x - hossz * cos(ki), y - hossz * sin(ki))
+    j.huz(szakasz((x2 - 2 * k, -170), (x2 - 2 * k, 475)) + iv(x2 - k, 475, k, 180, 0)
+          + szakasz((x2, 475), (x2, y2)) + iv(x2 + nagy, y2, nagy, 180, 270 + degrees(be))
+          + szakasz((x, y), (x + t * cos(be), y + t * sin(be)))
+          + iv(x + d * cos(dol), y + d * sin(dol), r, degrees(be) - 90, degrees(ki) + 90)
+          + szakasz((x + t * cos(ki), y + t * sin(ki)), p)
+          + iv(p[0] - q * sin(ki), p[1] + q * cos(ki), q, degrees(ki) - 90, -90))
 
 
 def vizonto(j):
-    x = [-700 + 280 * i for i in range(6)]
-    j.huz(szakasz(*[(a, 490 if i % 2 else 170) for i, a in enumerate(x)]),
-          szakasz(*[(a, -170 if i % 2 else -490) for i, a in enumerate(x)]))
+    x = [-710 + 284 * i for i in range(6)]
+    j.huz(szakasz(*[(a, 510 if i % 2 else 190) for i, a in enumerate(x)]),
+          szakasz(*[(a, -190 if i % 2 else -510) for i, a in enumerate(x)]))
 
 
 def halak(j):
-    bal = iv3((-580, 690), (-270, 0), (-580, -690))
-    j.huz(bal, tukor(bal), szakasz((-600, 0), (600, 0)))
+    bal = iv3((-600, 700), (-290, 0), (-600, -700))
+    j.huz(bal, tukor(bal), szakasz((-620, 0), (620, 0)))
 
 
 def egyuttallas(j):
-    j.huz(kor(-160, -160, 420), szakasz((137, 137), (640, 640)))
+    j.huz(kor(-170, -170, 430), szakasz((134, 134), (640, 640)))
 
 
 def felSextil(j):
-    j.huz(szakasz((-640, -430), (640, -430)), szakasz((-450, 470), (0, -334), (450, 470)))
+    j.huz(szakasz((-640, -460), (640, -460)), szakasz((-440, 520), (0, -380), (440, 520)))
 
 
 def felNegyzet(j):
-    j.huz(szakasz((520, 520), (-520, -420), (640, -420)))
+    j.huz(szakasz((540, 540), (-520, -440), (660, -440)))
 
 
 def szextil(j):
     for f in (30, 90, 150):
-        x, y = 680 * cos(radians(f)), 680 * sin(radians(f))
+        x, y = 700 * cos(radians(f)), 700 * sin(radians(f))
         j.huz(szakasz((-x, -y), (x, y)))
 
 
 def negyzet(j):
-    j.huz(szakasz((-530, -530), (530, -530), (530, 530), (-530, 530), (-530, -530)))
+    j.huz(szakasz((-550, -550), (550, -550), (550, 550), (-550, 550), (-550, -550)))
 
 
 def haromszog(j):
-    j.huz(szakasz((-600, -500), (600, -500), (0, 540), (-600, -500)))
+    j.huz(szakasz((-630, -520), (630, -520), (0, 570), (-630, -520)))
 
 
 def masfelNegyzet(j):
-    j.huz(szakasz((-560, -60), (180, -60), (180, 680), (-560, 680), (-560, -60)),
-          szakasz((180, -60), (-300, -640), (600, -640)))
+    j.huz(szakasz((-540, -40), (200, -40), (200, 700), (-540, 700), (-540, -40)),
+          szakasz((200, -40), (-280, -660), (600, -660)))
 
 
 def kvinkunx(j):
-    j.huz(szakasz((-640, 430), (640, 430)), szakasz((-450, -470), (0, 334), (450, -470)))
+    j.huz(szakasz((-640, 460), (640, 460)), szakasz((-440, -520), (0, 380), (440, -520)))
 
 
 def szembenallas(j):
-    r, c = 290, 390
+    r, c = 285, 405
     s = c - r * sqrt(0.5)
     j.huz(kor(-c, -c, r), kor(c, c, r), szakasz((-s, -s), (s, s)))
 
 
 def elvalaszto(j):
-    j.korlap(0, 0, 200)
+    j.korlap(0, 0, 190)
+
+
+NAGYBETU = 627  # half the height of the figures and the Roman figures
 
 
 def egy(j):
-    j.tomor((-FEL, -627), (FEL, -627), (FEL, 627), (-FEL, 627))
+    j.tomor((-FEL, -NAGYBETU), (FEL, -NAGYBETU), (FEL, NAGYBETU), (-FEL, NAGYBETU))
+
+
+def ferde(dx, dy):
+    """Width that a slanted stroke has on a level line."""
+    return VONAL * hypot(dx, dy) / dy
 
 
 def ot(j):
-    j.tomor((-540, 627), (-339, 627), (0, -362), (339, 627), (540, 627), (110, -627), (-110, -627))
+    k, t = 540, 95
+    v = ferde(k - t, 2 * NAGYBETU)
+    j.tomor((-k, NAGYBETU), (v - k, NAGYBETU), (0, v / (k - t) * NAGYBETU - NAGYBETU), (k - v, NAGYBETU),
+            (k, NAGYBETU), (t, -NAGYBETU), (-t, -NAGYBETU))
 
 
 def tiz(j):
-    j.tomor((-540, 627), (-310, 627), (540, -627), (310, -627))
-    j.tomor((540, 627), (310, 627), (-540, -627), (-310, -627))
+    k = 540
+    v = ferde(2 * k - VONAL, 2 * NAGYBETU)
+    for s in (1, -1):
+        j.tomor((-s * k, NAGYBETU), (s * (v - k), NAGYBETU), (s * k, -NAGYBETU), (s * (k - v), -NAGYBETU))
 
 
 BETUK = {
@@ -469,6 +494,8 @@ BETUK = {
     "Q": elvalaszto, "w": egy, "v": ot, "x": tiz,
 }
 SZELES = {"Q": 900, "w": 520, "v": 1180, "x": 1180}  # advances other than JELSZELES
+# What has its weight at the foot or the head looks too low or too high in the middle of its cell.
+EMELES = {"a": -50, "g": 30, "N": 40, "O": 50, "S": 70, "V": -40}
 
 
 def atvett(forras, jel):
@@ -498,7 +525,7 @@ def keszit(dejavu, ki):
             j = Jel()
             BETUK[jel](j)
             szelesseg[nev] = SZELES.get(jel, JELSZELES)
-            glifak[nev] = j.glifa(szelesseg[nev])
+            glifak[nev] = j.glifa(szelesseg[nev], EMELES.get(jel, 0))
         else:
             glifak[nev], szelesseg[nev] = atvett(forras, jel)
             if jel in " \u00a0":

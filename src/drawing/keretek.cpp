@@ -98,17 +98,29 @@ void tengelyek(const TKerek& kerek, const TSugarak& s, double mc) {
     nyilhegy(kerek, ic + pi, veg);
 }
 
-}  // namespace
-
-void RadixKeret(const TKerek& kerek, const TSugarak& s, const THazcsucsok& hazCsucs,
-                std::string_view szimbolumFont, bool r2Kor) {
+/// The two outermost circles; the pen is thin again behind them.
+void skalaKorok(const TKerek& kerek, const TSugarak& s) {
     Vaszon& vaszon = kerek.vaszon();
-
     vaszon.TollSzelesseg(1);
     kerek.kor(s.kulso);
     vaszon.TollSzelesseg(TollVastagsag(3, s.kulso));
     kerek.kor(s.skala);
     vaszon.TollSzelesseg(1);
+}
+
+/// What stands outside the bodies' ring.
+void zodiakus(const TKerek& kerek, const TSugarak& s, std::string_view szimbolumFont) {
+    jegyGyuru(kerek, s, szimbolumFont);
+    jegyHatarok(kerek, s);
+    fokSkala(kerek, s);
+}
+
+}  // namespace
+
+void RadixKeret(const TKerek& kerek, const TSugarak& s, const THazcsucsok& hazCsucs,
+                std::string_view szimbolumFont, bool r2Kor) {
+    Vaszon& vaszon = kerek.vaszon();
+    skalaKorok(kerek, s);
     if (r2Kor) kerek.kor(s.bolygo);
     kerek.kor(s.haz);
     vaszon.TollSzelesseg(TollVastagsag(4, s.kulso));
@@ -119,25 +131,16 @@ void RadixKeret(const TKerek& kerek, const TSugarak& s, const THazcsucsok& hazCs
     vaszon.TollSzelesseg(1);
     for (int i = 1; i <= 12; ++i)
         kerek.vonal(s.belso, kerek.szog(hazCsucs[i]), s.skala, kerek.szog(hazCsucs[i]));
-    jegyGyuru(kerek, s, szimbolumFont);
-    jegyHatarok(kerek, s);
-    fokSkala(kerek, s);
+    zodiakus(kerek, s, szimbolumFont);
     tengelyek(kerek, s, hazCsucs[10]);
 }
 
 void MundanKeret(const TKerek& kerek, const TSugarak& s, std::string_view szimbolumFont) {
-    Vaszon& vaszon = kerek.vaszon();
-    vaszon.TollSzelesseg(1);
-    kerek.kor(s.kulso);
-    vaszon.TollSzelesseg(TollVastagsag(3, s.kulso));
-    kerek.kor(s.skala);
-    vaszon.TollSzelesseg(1);
+    skalaKorok(kerek, s);
     kerek.kor(s.bolygo);
     kerek.kor(s.belso);
     kullok(kerek, s.belso, s.kulso);
-    jegyGyuru(kerek, s, szimbolumFont);
-    jegyHatarok(kerek, s);
-    fokSkala(kerek, s);
+    zodiakus(kerek, s, szimbolumFont);
 }
 
 namespace {

@@ -1,6 +1,5 @@
 #include "windows/betumappak.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFont>
 #include <QFontDatabase>
@@ -8,18 +7,10 @@
 
 #include "tables/szotar.h"
 #include "windows/qszoveg.h"
-
-namespace {
-
-QStringList sajatMappak() {
-    const QString alap = QCoreApplication::applicationDirPath();
-    return {alap + "/fonts", alap + "/../share/korvend/fonts"};
-}
-
-}  // namespace
+#include "windows/sajatfajlok.h"
 
 std::vector<std::string> betuMappak() {
-    QStringList mappak = sajatMappak();
+    QStringList mappak = sajatBetuMappak();
     mappak << QStandardPaths::standardLocations(QStandardPaths::FontsLocation) << "/usr/share/fonts"
            << "/usr/local/share/fonts";
     std::vector<std::string> nevek;
@@ -28,7 +19,7 @@ std::vector<std::string> betuMappak() {
 }
 
 void sajatBetukBetoltese() {
-    for (const QString& mappa : sajatMappak())
+    for (const QString& mappa : sajatBetuMappak())
         for (const QFileInfo& fajl : QDir(mappa).entryInfoList({"*.ttf"}, QDir::Files))
             QFontDatabase::addApplicationFont(fajl.absoluteFilePath());
     // The text face's name is on no system. The labels of the wheel are laid out for a face of these widths;

@@ -1,5 +1,6 @@
 #include "windows/parbeszed.h"
 
+#include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -39,6 +40,10 @@ QString TParbeszed::bekeres(QWidget* szulo, const QString& cim, const QString& f
 
 bool TParbeszed::nyomtatoBeallitas(QWidget* szulo, QPrinter& nyomtato) {
     return QPrintDialog(&nyomtato, szulo).exec() == QDialog::Accepted;
+}
+
+bool TParbeszed::megmutat(const QUrl& dokumentum) {
+    return QDesktopServices::openUrl(dokumentum);
 }
 
 bool TParbeszed::vanNyomtato() {

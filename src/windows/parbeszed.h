@@ -2,6 +2,7 @@
 
 #include <QPrinter>
 #include <QString>
+#include <QUrl>
 #include <QWidget>
 
 /// The toolkit's own dialogs behind one small seam, so that tests can answer them.
@@ -20,6 +21,8 @@ public:
     virtual QString bekeres(QWidget* szulo, const QString& cim, const QString& felirat);
     /// Printer set-up. @return false on cancel
     virtual bool nyomtatoBeallitas(QWidget* szulo, QPrinter& nyomtato);
+    /// Shows a document with the desktop's own program for it. @return false if there is none
+    virtual bool megmutat(const QUrl& dokumentum);
     /// Whether the system has a printer at all.
     virtual bool vanNyomtato();
 };

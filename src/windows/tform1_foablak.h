@@ -3,6 +3,7 @@
 #include <array>
 #include <memory>
 
+#include <QAction>
 #include <QLabel>
 #include <QMainWindow>
 #include <QPlainTextEdit>
@@ -82,6 +83,8 @@ public slots:
     void Mundnhzaspontosts1Click();
     void Szimbolumok1Click();
 
+    void Kezikonyv1Click();
+
     void PanelButton2_MostClick();
     void PanelButton3_ValtClick();
     void Panel1Click();
@@ -94,6 +97,7 @@ private:
     void FormResize();
 
     void menuEpites();
+    void parancsEpites(QAction& pont, const char* nev, void (TForm1::*kezelo)(), const char* billentyu);
     void panelEpites();
     void statuszEpites();
     void panelSorEpites(int sor);

@@ -22,6 +22,7 @@
 #include "windows/parbeszed.h"
 #include "windows/qszoveg.h"
 #include "windows/qtvaszon.h"
+#include "windows/sajatfajlok.h"
 #include "windows/tform11_jelszo.h"
 #include "windows/tform12_primer.h"
 #include "windows/tform14_visszateresek.h"
@@ -71,6 +72,12 @@ void TForm1::PanelButton2_MostClick() {
 }
 void TForm1::PanelButton3_ValtClick() {
     ValtParancs(allapot_, *this);
+}
+
+void TForm1::Kezikonyv1Click() {
+    const QString fajl = kezikonyvFajl();
+    if (fajl.isEmpty() || !parbeszed_->megmutat(QUrl::fromLocalFile(fajl)))
+        parbeszed_->uzenet(this, "A kézikönyv nem nyitható meg.");
 }
 
 namespace {

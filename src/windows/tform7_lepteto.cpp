@@ -24,6 +24,7 @@ TForm7::TForm7(Allapot& allapot, FoAblak&, QWidget* fo) : QDialog(fo) {
         auto* gomb = new QPushButton(qszoveg(lepes.felirat), this);
         gomb->setObjectName(qszoveg(lepes.gomb));
         gomb->setAutoDefault(false);
+        gomb->setAutoRepeat(true);
         gomb->setFixedWidth(44);
         const auto sor = static_cast<std::size_t>(lepes.mezo);
         racs->addWidget(gomb, static_cast<int>(sor), ++oszlop[sor]);

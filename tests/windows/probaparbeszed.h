@@ -32,6 +32,10 @@ public:
         nyomtatas(nyomtato);
         return true;
     }
+    bool megmutat(const QUrl& dokumentum) override {
+        dokumentumok << dokumentum;
+        return vanBongeszo;
+    }
     bool vanNyomtato() override { return false; }
 
     QString fajl;
@@ -41,4 +45,6 @@ public:
     int beallitasok = 0;
     QStringList kerdesek;
     QStringList uzenetek;
+    QList<QUrl> dokumentumok;
+    bool vanBongeszo = true;
 };

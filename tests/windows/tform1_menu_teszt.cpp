@@ -1,7 +1,30 @@
+#include <QFile>
 #include <QMenu>
 #include <QMenuBar>
 
 #include "ablakteszt.h"
+#include "probaparbeszed.h"
+
+namespace {
+
+/// The text as the user reads it.
+QString felirat(const QAction& pont) {
+    return pont.text().remove('&');
+}
+
+/// The key letters of a menu and of those below it, each once.
+void kulonbozoBetuk(const QList<QAction*>& pontok) {
+    QStringList betuk;
+    for (const QAction* pont : pontok) {
+        const auto hely = pont->text().indexOf('&');
+        QVERIFY2(hely >= 0, qPrintable(pont->text()));
+        betuk << pont->text().mid(hely + 1, 1).toUpper();
+        if (pont->menu() != nullptr) kulonbozoBetuk(pont->menu()->actions());
+    }
+    QCOMPARE(betuk.removeDuplicates(), 0);
+}
+
+}  // namespace
 
 class TForm1MenuTeszt : public QObject {
     Q_OBJECT
@@ -13,11 +36,11 @@ private slots:
         TFrissAblakok a;
         QStringList pontok;
         for (const QAction* fo : a.form1.menuBar()->actions()) {
-            pontok << fo->text();
+            pontok << felirat(*fo);
             for (const QAction* pont : fo->menu()->actions()) {
-                pontok << pont->text();
+                pontok << felirat(*pont);
                 if (pont->menu() != nullptr)
-                    for (const QAction* also : pont->menu()->actions()) pontok << also->text();
+                    for (const QAction* also : pont->menu()->actions()) pontok << felirat(*also);
             }
         }
         const QStringList vart{"Horoszkóp",
@@ -62,6 +85,73 @@ private slots:
                                "Mundánházas pontosítás",
                                "Szimbólumok"};
         QCOMPARE(pontok, vart);
+    }
+
+    void mindenPontnakSajatBetujeVan() {
+        TFrissAblakok a;
+        kulonbozoBetuk(a.form1.menuBar()->actions());
+    }
+
+    void aRevoluciokEsAPersonarokMenujeNevenSzolithato() {
+        TFrissAblakok a;
+        QCOMPARE(vezerlo<QMenu>(a.form1, "Revolucio1")->actions().size(), 7);
+        QCOMPARE(vezerlo<QMenu>(a.form1, "Personar1")->actions().size(), 11);
+    }
+
+    void aNezetekEsAMostBillentyuvel() {
+        TFrissAblakok a;
+        QTest::keyClick(&a.form1, Qt::Key_F3);
+        QCOMPARE(panel(a.form1, 0), "Mundán");
+        QTest::keyClick(&a.form1, Qt::Key_F4);
+        QCOMPARE(panel(a.form1, 0), "Dekád");
+        QTest::keyClick(&a.form1, Qt::Key_F2);
+        QCOMPARE(panel(a.form1, 0), "Radix");
+        QVERIFY(!a.allapot().MostFut);
+        QTest::keyClick(&a.form1, Qt::Key_F5);
+        QVERIFY(a.allapot().MostFut);
+        QTest::keyClick(&a.form1, Qt::Key_F5);
+        QVERIFY(!a.allapot().MostFut);
+    }
+
+    void aHoroszkopMenuBillentyuvel() {
+        TFrissAblakok a;
+        TProbaParbeszed parbeszed;
+        a.form1.parbeszedBeallitasa(parbeszed);
+        QTest::keyClick(&a.form1, Qt::Key_O, Qt::ControlModifier);
+        QCOMPARE(parbeszed.kerdesek.size(), 1);
+        QTest::keyClick(&a.form1, Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(parbeszed.kerdesek.contains(".kvh"));
+        QTest::keyClick(&a.form1, Qt::Key_P, Qt::ControlModifier);
+        QVERIFY(!a.allapot().MostFut);  // printing stops the clock
+        parbeszed.igenre = false;
+        QTest::keyClick(&a.form1, Qt::Key_Q, Qt::ControlModifier);
+        QVERIFY(parbeszed.kerdesek.contains("Valóban ki akar lépni?"));
+        QVERIFY(a.form1.isVisible());
+    }
+
+    void azUjKepletBillentyuvel() {
+        TFrissAblakok a;
+        valasz([](QWidget& d) {
+            QCOMPARE(vezerlo<QLineEdit>(d, "EditNev1")->text(), "Új képlet");
+            QTest::keyClick(&d, Qt::Key_Escape);
+        });
+        QTest::keyClick(&a.form1, Qt::Key_N, Qt::ControlModifier);
+        QVERIFY(a.allapot().Megsem2);
+    }
+
+    void aKezikonyvAProgramMellol() {
+        TFrissAblakok a;
+        TProbaParbeszed parbeszed;
+        a.form1.parbeszedBeallitasa(parbeszed);
+        QTest::keyClick(&a.form1, Qt::Key_F1);
+        QCOMPARE(parbeszed.dokumentumok.size(), 1);
+        QFile oldal(parbeszed.dokumentumok[0].toLocalFile());
+        QVERIFY(oldal.open(QIODevice::ReadOnly));
+        QVERIFY(QString::fromUtf8(oldal.readAll()).contains("<h1>Korvend – kézikönyv</h1>"));
+        QVERIFY(parbeszed.uzenetek.isEmpty());
+        parbeszed.vanBongeszo = false;
+        QTest::keyClick(&a.form1, Qt::Key_F1);
+        QCOMPARE(parbeszed.uzenetek, QStringList{"A kézikönyv nem nyitható meg."});
     }
 
     void semmiSincsLetiltva() {

@@ -15,6 +15,18 @@ private slots:
         a.orajelek(1);
         QCOMPARE(a.allapot().Keplet.pillanat.ev, a.allapot().RadixPillanat.ev + 1);
     }
+
+    void aLenyomvaTartottGombIsmetel() {
+        TFrissAblakok a;
+        a.oraIndul();
+        kattint(a.form1, "PanelButton4Leptet");
+        auto* gomb = vezerlo<QPushButton>(a.form7, "Button5napp");
+        const int elobb = napSzama(a.allapot().Keplet.pillanat);
+        QTest::mousePress(gomb, Qt::LeftButton);
+        QTest::qWait(1000);
+        QTest::mouseRelease(gomb, Qt::LeftButton);
+        QVERIFY(napSzama(a.allapot().Keplet.pillanat) >= elobb + 3);
+    }
 };
 
 QTEST_MAIN(TForm7Teszt)

@@ -1,0 +1,24 @@
+#include "windows/sajatfajlok.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace {
+
+/// A path beside the program, then the one where it is installed.
+QStringList helyek(const QString& mellette, const QString& telepitve) {
+    const QString alap = QCoreApplication::applicationDirPath();
+    return {alap + "/" + mellette, alap + "/../share/" + telepitve};
+}
+
+}  // namespace
+
+QStringList sajatBetuMappak() {
+    return helyek("fonts", "korvend/fonts");
+}
+
+QString kezikonyvFajl() {
+    for (const QString& mappa : helyek("doc", "doc/korvend"))
+        if (const QString fajl = mappa + "/kezikonyv.html"; QFileInfo::exists(fajl)) return fajl;
+    return {};
+}

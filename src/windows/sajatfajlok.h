@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// What the program brings with it, beside itself in the build tree and under share/ when installed.
+
+/// Folders of the program's own fonts.
+QStringList sajatBetuMappak();
+
+/// The handbook; empty if it is not there.
+QString kezikonyvFajl();

@@ -1,13 +1,17 @@
 // Summer time.
 
 #include <array>
+#include <cstdlib>
+#include <ctime>
 #include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
 
 #include "ellenorzoosszeg.h"
 #include "tables/efemerida.h"
 #include "tables/nyariido.h"
+#include "tables/pillanat.h"
 
 namespace {
 
@@ -169,6 +173,48 @@ TEST(NyariIdo, IdoszakNelkuliEvekben_Nincs) {
     EXPECT_EQ(NyariIdoE(2480555, 22, 59, 59), 1);
     EXPECT_EQ(NyariIdoE(2480555, 23, 0, 0), 0);
     EXPECT_EQ(NyariIdoE(2480556, 0, 0, 0), 0);
+}
+
+/// Summer time at noon of a day by the public time-zone table.
+int kozismertNyariIdo(int julianszam) {
+    TPillanat p;
+    JulianszambolDatum(julianszam, p);
+    std::tm ido{};
+    ido.tm_year = p.ev - 1900;
+    ido.tm_mon = p.ho - 1;
+    ido.tm_mday = p.nap;
+    ido.tm_hour = 12;
+    ido.tm_isdst = -1;
+    const std::time_t masodperc = std::mktime(&ido);
+    std::tm helyi{};
+    localtime_r(&masodperc, &helyi);
+    return static_cast<int>(helyi.tm_gmtoff / 3600) - 1;
+}
+
+/// The public table and ours differ on the days of five stretches and on no others; the handbook lists them.
+TEST(NyariIdo, AKozismertIdozonatablatolOtIdoszakbanTerEl) {
+    ASSERT_EQ(setenv("TZ", "Europe/Budapest", 1), 0);
+    tzset();
+    ASSERT_EQ(kozismertNyariIdo(nap(2000, 7, 1)), 1) << "no time-zone table on this machine";
+
+    struct TIdoszak {
+        int elso, utolso;
+        bool operator==(const TIdoszak&) const = default;
+    };
+    std::vector<TIdoszak> elteresek;
+    for (int j = nap(1916, 1, 1); j <= nap(2025, 12, 31); ++j) {
+        if (NyariIdoE(j, 12, 0, 0) == kozismertNyariIdo(j)) continue;
+        if (elteresek.empty() || elteresek.back().utolso != j - 1) elteresek.push_back({j, j});
+        elteresek.back().utolso = j;
+    }
+    const std::vector<TIdoszak> vart{{nap(1917, 6, 17), nap(1917, 9, 16)},
+                                     {nap(1919, 9, 15), nap(1919, 11, 23)},
+                                     {nap(1920, 4, 5), nap(1920, 9, 19)},
+                                     {nap(1946, 10, 6), nap(1946, 10, 6)},
+                                     {nap(1954, 10, 2), nap(1954, 10, 2)}};
+    EXPECT_EQ(elteresek, vart);
+    unsetenv("TZ");
+    tzset();
 }
 
 }  // namespace

@@ -300,6 +300,37 @@ TEST_F(TOrajel, AValasztottIdoTipustAzOrajelNemIrjaFelul) {
     EXPECT_EQ(a.Szemely.idoTipus, TIdoTipus::ZN);
 }
 
+TEST_F(TOrajel, AMostGombAzElkuszottNapotVisszahozza) {
+    SzemelyiRendben(a, mintaSzemely({1975, 3, 21, 0, 30, 0}));
+    BevittKepletMutatasa(a, ablak);
+    const TBolygok szuletesi = a.Keplet.bolygo;
+    for (int i = 0; i < 3; ++i) ValtParancs(a, ablak);
+    EXPECT_NE(a.Keplet.bolygo[2], szuletesi[2]);
+    MostParancs(a, ablak);  // the clock runs
+    MostParancs(a, ablak);  // and back
+    EXPECT_EQ(a.Keplet.bolygo[2], szuletesi[2]);
+    EXPECT_EQ(panel(3), "1975.03.21. 00:30:00 ZN");
+}
+
+TEST_F(TOrajel, ATeljesUjraszamitasUtanAFestesKeresRajzol) {
+    szuletes();
+    MundanParancs(a, ablak);
+    ASSERT_TRUE(a.TeljesTorles);
+    a.LeptetesVolt = true;
+    orajelek(1);
+    EXPECT_FALSE(a.TeljesTorles);
+}
+
+TEST_F(TOrajel, AzUjKepletRadixNezetbenJonFel) {
+    szuletes();
+    DekadParancs(a, ablak);
+    ASSERT_EQ(a.KepletTipus, TKepletTipus::dekad);
+    szuletes();
+    EXPECT_EQ(a.KepletTipus, TKepletTipus::radix);
+    EXPECT_EQ(panel(0), "Radix");
+    EXPECT_EQ(a.Feliratok.valtGomb, "Mundán");
+}
+
 TEST_F(TOrajel, UjKepletAKepzettAllapotbanAVisszaModMarad) {
     szuletes();
     a.VisszaMod = true;

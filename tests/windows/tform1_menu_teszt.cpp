@@ -139,6 +139,49 @@ private slots:
         QVERIFY(a.allapot().Megsem2);
     }
 
+    void aPanelGombjaiOdaVisznek() {
+        TFrissAblakok a;
+        kattint(a.form1, "PanelButton2_Most");
+        QVERIFY(!a.allapot().MostFut);
+        kattint(a.form1, "PanelButton3_Valt");
+        QCOMPARE(panel(a.form1, 0), "Mundán");
+        kattint(a.form1, "PanelButton4Leptet");
+        QVERIFY(a.form7.isVisible());
+        valasz([](QWidget& d) {
+            QCOMPARE(d.objectName(), "TForm6");
+            kattint(d, "Button_Megsem1");
+        });
+        kattint(a.form1, "PanelButton5Orbis");
+        kattint(a.form1, "PanelButton6MHP");
+        QVERIFY(a.form8.isVisible());
+        valasz([](QWidget& d) {
+            QCOMPARE(d.objectName(), "TForm3");
+            QCOMPARE(d.windowTitle(), "Tercier direkció");
+            kattint(d, "Button_Megsem1");
+        });
+        kattint(a.form1, "PanelButton7Tercier");
+    }
+
+    void aPanelGombjaiElobbAJelszotKerik() {
+        TFrissAblakok a;
+        a.form11.programVege = [] {};
+        const bool ora = a.allapot().MostFut;
+        for (const char* gomb : {"PanelButton2_Most", "PanelButton3_Valt", "PanelButton4Leptet",
+                                 "PanelButton5Orbis", "PanelButton6MHP", "PanelButton7Tercier"}) {
+            a.allapot().JelszoRendben = false;
+            bool kert = false;
+            valasz([&](QWidget& d) {
+                kert = d.objectName() == "TForm11";
+                d.close();
+            });
+            kattint(a.form1, gomb);
+            QVERIFY2(kert, gomb);
+            QCOMPARE(a.allapot().MostFut, ora);
+            QCOMPARE(panel(a.form1, 0), "Radix");
+            QVERIFY(!a.form7.isVisible() && !a.form8.isVisible());
+        }
+    }
+
     void aKezikonyvAProgramMellol() {
         TFrissAblakok a;
         TProbaParbeszed parbeszed;

@@ -9,7 +9,7 @@ namespace {
 
 using TRendezett = Tomb<TRendezettSor, 10>;
 
-/// Spreads bodies at these longitudes; the rest stand far from them, 10 degrees apart from 100 on.
+/// Spreads bodies at these longitudes; the rest stand 12 degrees apart from 112 on, body i at 100 + 12 i.
 TRendezett szetterit(std::vector<double> hosszak) {
     TBolygok b;
     TMozgasok m;
@@ -39,6 +39,22 @@ TEST(Rendezett, AKosPontjaKorulHajtodikVissza) {
     const TRendezett r = szetterit({359, 1});
     EXPECT_DOUBLE_EQ(hely(r, 'A'), 357);
     EXPECT_DOUBLE_EQ(hely(r, 'B'), 3);
+}
+
+/// The exchange sort holds row a against each row b from a on and exchanges whole rows, so that of two equal
+/// longitudes the earlier row may land behind the later one. A 50, B 50, C 10: row 1 is not greater than row
+/// 2, but greater than row 3; A and C change places, and C, B, A stay so. The seven others stand from 148 on,
+/// 12 degrees apart and 94 from the nearest of these, so that only A and B, at distance 0, move: to 48 and 52
+/// at the threshold 1, to 46 and 54 at the threshold 5, B downward since its row comes first.
+TEST(Rendezett, ACsereAzEgyenlokSorrendjetMegfordithatja) {
+    const TRendezett r = szetterit({50, 50, 10});
+    const std::string vart = "CBADEFGHIJ";
+    for (int sor = 1; sor <= 10; ++sor) EXPECT_EQ(r[sor].rendJel, vart[static_cast<std::size_t>(sor - 1)]);
+    EXPECT_DOUBLE_EQ(hely(r, 'C'), 10);
+    EXPECT_DOUBLE_EQ(hely(r, 'B'), 46);
+    EXPECT_DOUBLE_EQ(hely(r, 'A'), 54);
+    EXPECT_DOUBLE_EQ(hely(r, 'D'), 148);
+    EXPECT_DOUBLE_EQ(hely(r, 'J'), 220);
 }
 
 TEST(Rendezett, PontosanHatFokElfogadhato) {

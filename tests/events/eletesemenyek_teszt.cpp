@@ -88,6 +88,14 @@ TEST(Esemenyek, NullaOraNyariIdovelAzElozoNap) {
     EXPECT_EQ(EsemenyGmt(e), (TPillanat{2000, 3, 2, 1, 0, 0}));
 }
 
+TEST(Esemenyek, AHelybolANyariIdoCsakZonaOraval) {
+    const TPillanat nyar{2000, 7, 1, 12, 0, 0};
+    EXPECT_EQ(EsemenyHelyNyariIdo(TIdoTipus::ZN, nyar), 1);
+    EXPECT_EQ(EsemenyHelyNyariIdo(TIdoTipus::ZN, {2000, 1, 1, 12, 0, 0}), 0);
+    EXPECT_EQ(EsemenyHelyNyariIdo(TIdoTipus::LMT, nyar), 0);
+    EXPECT_EQ(EsemenyHelyNyariIdo(TIdoTipus::GMT, nyar), 0);
+}
+
 TEST(Esemenyek, ASorTizenotSzovege) {
     TEsemenyTar tar;
     int kijelolt = 0;

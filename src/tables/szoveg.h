@@ -7,7 +7,8 @@
 
 /// UTF-8 text counted, cut and rotated by character, and the program's number formats.
 
-/// Length in bytes of the character at the start of a non-empty text; a stray byte counts as one character.
+/// Length in bytes of the character at the start of a non-empty text. Stray continuation bytes belong to the
+/// character before them; at the start of a text they are one with their first byte.
 inline std::size_t karakterHossz(std::string_view szoveg) {
     std::size_t hossz = 1;
     while (hossz < szoveg.size() && (static_cast<unsigned char>(szoveg[hossz]) & 0xC0U) == 0x80U) ++hossz;

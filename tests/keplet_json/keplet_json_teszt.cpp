@@ -91,6 +91,30 @@ TEST(KepletJson, RosszKerelemreHibaEsTovabb) {
     }
 }
 
+TEST(KepletJson, ATulHosszuATulMelyEsANulosKerelemHibaEsTovabb) {
+    const std::string jo = R"({"op": "datum", "datum": [1900, 1, 1]})";
+    const auto melyen = [](int szint) {
+        return R"({"op": "datum", "datum": [1900, 1, 1], "x": )" +
+               std::string(static_cast<std::size_t>(szint - 1), '[') +
+               std::string(static_cast<std::size_t>(szint - 1), ']') + "}";
+    };
+    const std::string kitoltve = R"({"op": "datum", "datum": [1900, 1, 1], "x": ")";
+    const auto hosszu = [&](std::size_t bajt) {
+        return kitoltve + std::string(bajt - kitoltve.size() - 2, '[') + "\"}";
+    };
+    constexpr std::size_t hatar = std::size_t{16} << 20;
+    const auto sorok = valaszok({melyen(64), melyen(65), std::string(10'000'000, '['), hosszu(hatar),
+                                 hosszu(hatar + 1), R"({"op": "kvh_olvas", "fajl": "a\u0000b"})", jo});
+    ASSERT_EQ(sorok.size(), 7U);
+    EXPECT_EQ(TJson::parse(sorok[0])["julianszam"], 2415020);
+    EXPECT_EQ(TJson::parse(sorok[1])["hiba"], "a kérelem mélyebb 64 szintnél");
+    EXPECT_EQ(sorok[2], sorok[1]);
+    EXPECT_EQ(TJson::parse(sorok[3])["julianszam"], 2415020);  // brackets within a text are none
+    EXPECT_EQ(TJson::parse(sorok[4])["hiba"], "a sor hosszabb 16 MB-nál");
+    EXPECT_EQ(TJson::parse(sorok[5])["hiba"], "fajl: a névben nem lehet NUL");
+    EXPECT_EQ(TJson::parse(sorok[6])["julianszam"], 2415020);
+}
+
 TEST(KepletJson, DatumABeirtEsAVisszaolvasottErtekekkel) {
     const TJson v = valasz(R"({"op": "datum", "datum": [1899, 13, 40]})");
     EXPECT_EQ(v["beirt"], TJson({1900, 12, 32}));

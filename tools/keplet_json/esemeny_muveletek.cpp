@@ -8,12 +8,12 @@
 #include "events/eletesemenyek.h"
 #include "muveletek.h"
 
-TJson lepesMuvelet(const TJson& kerelem) {
+TJson lepesMuvelet(const TKerelem& kerelem) {
     Allapot allapot;
     pillanatMezo(kerelem, allapot);
-    const TJson& gombok = mezo(kerelem, "gombok");
+    const TKerelem& gombok = mezo(kerelem, "gombok");
     if (!gombok.is_array()) throw THiba("gombok: tömb kell");
-    for (const TJson& gomb : gombok) {
+    for (const TKerelem& gomb : gombok) {
         if (!gomb.is_string()) throw THiba("gombok: szöveg kell");
         const auto lepes = std::find_if(lepesek.begin(), lepesek.end(),
                                         [&](const TLepes& l) { return l.gomb == gomb.get<std::string>(); });
@@ -23,9 +23,9 @@ TJson lepesMuvelet(const TJson& kerelem) {
     return {{"pillanat", pillanatTomb(allapot.Keplet.pillanat)}, {"julianszam", allapot.Keplet.julianszam}};
 }
 
-TJson kvhOlvasMuvelet(const TJson& kerelem) {
+TJson kvhOlvasMuvelet(const TKerelem& kerelem) {
     Allapot allapot;
-    std::ifstream be(szovegMezo(kerelem, "fajl"), std::ios::binary);
+    std::ifstream be(fajlMezo(kerelem, "fajl"), std::ios::binary);
     if (const TKvhHiba hiba = KepletBeolvasas(allapot, be)) throw THiba(*hiba);
     TJson esemenyek = TJson::array();
     for (int i = 1; i <= allapot.Esemenyek.EsemenyDb; ++i)
@@ -42,7 +42,7 @@ TJson kvhOlvasMuvelet(const TJson& kerelem) {
             {"esemenyek", esemenyek}};
 }
 
-TJson kvhIrMuvelet(const TJson& kerelem) {
+TJson kvhIrMuvelet(const TKerelem& kerelem) {
     Allapot allapot;
     const auto p = egeszTomb<6>(kerelem, "pillanat");
     allapot.Keplet.pillanat = {p[0], p[1], p[2], p[3], p[4], p[5]};
@@ -55,19 +55,19 @@ TJson kvhIrMuvelet(const TJson& kerelem) {
     allapot.Szemely.jegyzet = szovegMezo(kerelem, "jegyzet");
     allapot.Szemely.hangJel = szovegMezo(kerelem, "hang");
     esemenyekMezo(kerelem, allapot.Esemenyek);
-    const std::string fajl = szovegMezo(kerelem, "fajl");
+    const std::string fajl = fajlMezo(kerelem, "fajl");
     if (const TKvhHiba hiba = KepletMentes(allapot, fajl)) throw THiba(*hiba);
     std::error_code baj;
     const auto meret = std::filesystem::file_size(fajl, baj);
     return {{"meret", baj ? 0 : meret}};
 }
 
-TJson analogiaMuvelet(const TJson& kerelem) {
+TJson analogiaMuvelet(const TKerelem& kerelem) {
     const TAnalogia analogia = AnalogiaElemzes(szovegMezo(kerelem, "szoveg"));
     return {{"analogia", analogia.szoveg}, {"szamok", analogia.szamok}};
 }
 
-TJson eletesemenyMuvelet(const TJson& kerelem) {
+TJson eletesemenyMuvelet(const TKerelem& kerelem) {
     Allapot allapot;
     pillanatMezo(kerelem, allapot);
     helyMezo(kerelem, allapot);

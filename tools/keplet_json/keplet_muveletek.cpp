@@ -10,7 +10,7 @@
 #include "tables/nyariido.h"
 #include "tables/telepulesek.h"
 
-TJson datumMuvelet(const TJson& kerelem) {
+TJson datumMuvelet(const TKerelem& kerelem) {
     auto [ev, ho, nap] = egeszTomb<3>(kerelem, "datum");
     const int julianszam = DatumbolJulianszam(ev, ho, nap);
     std::array<std::int32_t, 3> datum{};
@@ -18,12 +18,12 @@ TJson datumMuvelet(const TJson& kerelem) {
     return {{"julianszam", julianszam}, {"beirt", TJson::array({ev, ho, nap})}, {"datum", datum}};
 }
 
-TJson nyariIdoMuvelet(const TJson& kerelem) {
+TJson nyariIdoMuvelet(const TKerelem& kerelem) {
     return {{"nyariIdo", NyariIdoE(egeszMezo(kerelem, "julianszam"), egeszMezo(kerelem, "ora"),
                                    egeszMezo(kerelem, "perc"), egeszMezo(kerelem, "mperc"))}};
 }
 
-TJson telepulesMuvelet(const TJson& kerelem) {
+TJson telepulesMuvelet(const TKerelem& kerelem) {
     const TTelepules& t = TelepulesKeres(szovegMezo(kerelem, "nev"));
     return {{"idozona", t.idozona},
             {"szelesseg", t.szelesseg},
@@ -32,7 +32,7 @@ TJson telepulesMuvelet(const TJson& kerelem) {
             {"hosszusagJel", std::string(1, t.hosszusagJel)}};
 }
 
-TJson idoMuvelet(const TJson& kerelem) {
+TJson idoMuvelet(const TKerelem& kerelem) {
     Allapot allapot;
     pillanatMezo(kerelem, allapot);
     const std::string idoTipus = szovegMezo(kerelem, "idoTipus");
@@ -45,7 +45,7 @@ TJson idoMuvelet(const TJson& kerelem) {
     return {{"pillanat", pillanatTomb(pillanat)}, {"julianszam", julianszam}};
 }
 
-TJson kepletMuvelet(const TJson& kerelem) {
+TJson kepletMuvelet(const TKerelem& kerelem) {
     Allapot allapot = allapotKerelembol(kerelem);
     KepletCiklus(allapot);
     return kepletValasz(allapot);
@@ -67,7 +67,7 @@ struct TMuveletIro {
 
 }  // namespace
 
-TJson rajzMuvelet(const TJson& kerelem) {
+TJson rajzMuvelet(const TKerelem& kerelem) {
     Allapot allapot = allapotKerelembol(kerelem);
     const std::int32_t tipus = egeszMezo(kerelem, "tipus", 1, 3);
     const auto [szelesseg, magassag] = egeszTomb<2>(kerelem, "felulet");

@@ -10,13 +10,13 @@
 #include "drawing/rendezett.h"
 #include "engine/fenyszogpontok.h"
 
-const TJson& mezo(const TJson& kerelem, const char* nev) {
+const TKerelem& mezo(const TKerelem& kerelem, const char* nev) {
     const auto hely = kerelem.find(nev);
     if (hely == kerelem.end()) throw THiba(std::string("hiányzó mező: ") + nev);
     return *hely;
 }
 
-std::int32_t egeszErtek(const TJson& ertek, const char* nev) {
+std::int32_t egeszErtek(const TKerelem& ertek, const char* nev) {
     constexpr std::int64_t also = std::numeric_limits<std::int32_t>::min();
     constexpr std::int64_t felso = std::numeric_limits<std::int32_t>::max();
     if (!ertek.is_number_integer()) throw THiba(std::string(nev) + ": egész szám kell");
@@ -27,11 +27,11 @@ std::int32_t egeszErtek(const TJson& ertek, const char* nev) {
     return ertek.get<std::int32_t>();
 }
 
-std::int32_t egeszMezo(const TJson& kerelem, const char* nev) {
+std::int32_t egeszMezo(const TKerelem& kerelem, const char* nev) {
     return egeszErtek(mezo(kerelem, nev), nev);
 }
 
-std::int32_t egeszMezo(const TJson& kerelem, const char* nev, std::int32_t also, std::int32_t felso) {
+std::int32_t egeszMezo(const TKerelem& kerelem, const char* nev, std::int32_t also, std::int32_t felso) {
     const std::int32_t ertek = egeszMezo(kerelem, nev);
     if (ertek < also || ertek > felso)
         throw THiba(std::string(nev) + ": " + std::to_string(also) + " és " + std::to_string(felso) +
@@ -39,32 +39,38 @@ std::int32_t egeszMezo(const TJson& kerelem, const char* nev, std::int32_t also,
     return ertek;
 }
 
-double valosMezo(const TJson& kerelem, const char* nev) {
-    const TJson& ertek = mezo(kerelem, nev);
+double valosMezo(const TKerelem& kerelem, const char* nev) {
+    const TKerelem& ertek = mezo(kerelem, nev);
     if (!ertek.is_number()) throw THiba(std::string(nev) + ": szám kell");
     return ertek.get<double>();
 }
 
-bool logikaiMezo(const TJson& kerelem, const char* nev) {
-    const TJson& ertek = mezo(kerelem, nev);
+bool logikaiMezo(const TKerelem& kerelem, const char* nev) {
+    const TKerelem& ertek = mezo(kerelem, nev);
     if (!ertek.is_boolean()) throw THiba(std::string(nev) + ": igaz vagy hamis kell");
     return ertek.get<bool>();
 }
 
-std::string szovegMezo(const TJson& kerelem, const char* nev) {
-    const TJson& ertek = mezo(kerelem, nev);
+std::string szovegMezo(const TKerelem& kerelem, const char* nev) {
+    const TKerelem& ertek = mezo(kerelem, nev);
     if (!ertek.is_string()) throw THiba(std::string(nev) + ": szöveg kell");
     return ertek.get<std::string>();
 }
 
-void pillanatMezo(const TJson& kerelem, Allapot& allapot) {
+std::string fajlMezo(const TKerelem& kerelem, const char* nev) {
+    std::string fajl = szovegMezo(kerelem, nev);
+    if (fajl.find('\0') != std::string::npos) throw THiba(std::string(nev) + ": a névben nem lehet NUL");
+    return fajl;
+}
+
+void pillanatMezo(const TKerelem& kerelem, Allapot& allapot) {
     const auto p = egeszTomb<6>(kerelem, "pillanat");
     allapot.Keplet.pillanat = {p[0], p[1], p[2], p[3], p[4], p[5]};
     DatumRendezes(allapot.Keplet);
 }
 
-void helyMezo(const TJson& kerelem, Allapot& allapot) {
-    const TJson& hely = mezo(kerelem, "hely");
+void helyMezo(const TKerelem& kerelem, Allapot& allapot) {
+    const TKerelem& hely = mezo(kerelem, "hely");
     if (!hely.is_object()) throw THiba("hely: objektum kell");
     TKeplet& k = allapot.Keplet;
     k.helyseg = szovegMezo(hely, "helyseg");
@@ -80,15 +86,15 @@ void helyMezo(const TJson& kerelem, Allapot& allapot) {
 
 namespace {
 
-void orbisMezo(const TJson& kerelem, Allapot& allapot) {
+void orbisMezo(const TKerelem& kerelem, Allapot& allapot) {
     const auto hely = kerelem.find("orbis");
     if (hely == kerelem.end()) return;
     if (!hely->is_array() || hely->size() != 12) throw THiba("orbis: 12 sor kell");
     for (int sor = 1; sor <= 12; ++sor) {
-        const TJson& szamok = (*hely)[static_cast<std::size_t>(sor - 1)];
+        const TKerelem& szamok = (*hely)[static_cast<std::size_t>(sor - 1)];
         if (!szamok.is_array() || szamok.size() != 9) throw THiba("orbis: 9 szám kell egy sorba");
         for (int oszlop = 1; oszlop <= 9; ++oszlop) {
-            const TJson& ertek = szamok[static_cast<std::size_t>(oszlop - 1)];
+            const TKerelem& ertek = szamok[static_cast<std::size_t>(oszlop - 1)];
             if (!ertek.is_number()) throw THiba("orbis: szám kell");
             allapot.OrbisTabla[sor][oszlop] = ertek.get<double>();
         }
@@ -137,7 +143,7 @@ TJson statuszValasz(const Allapot& allapot) {
 
 }  // namespace
 
-Allapot allapotKerelembol(const TJson& kerelem) {
+Allapot allapotKerelembol(const TKerelem& kerelem) {
     Allapot allapot;
     pillanatMezo(kerelem, allapot);
     helyMezo(kerelem, allapot);
@@ -147,7 +153,7 @@ Allapot allapotKerelembol(const TJson& kerelem) {
     return allapot;
 }
 
-Allapot szuletesiAllapot(const TJson& kerelem) {
+Allapot szuletesiAllapot(const TKerelem& kerelem) {
     Allapot allapot = allapotKerelembol(kerelem);
     allapot.RadixPillanat = allapot.SzuletesiPillanat = allapot.Keplet.pillanat;
     KepletCiklus(allapot);
@@ -222,7 +228,7 @@ constexpr TSzamMezo<TEletesemeny> esemenySzamok[]{
 
 }  // namespace
 
-TEletesemeny esemenyErtek(const TJson& ertek) {
+TEletesemeny esemenyErtek(const TKerelem& ertek) {
     if (!ertek.is_object()) throw THiba("esemeny: objektum kell");
     TEletesemeny e;
     for (const auto& [nev, mezo] : esemenySzovegek)
@@ -234,11 +240,11 @@ TEletesemeny esemenyErtek(const TJson& ertek) {
     return e;
 }
 
-void esemenyekMezo(const TJson& kerelem, TEsemenyTar& tar) {
-    const TJson& tomb = mezo(kerelem, "esemenyek");
+void esemenyekMezo(const TKerelem& kerelem, TEsemenyTar& tar) {
+    const TKerelem& tomb = mezo(kerelem, "esemenyek");
     if (!tomb.is_array() || tomb.size() > esemenyHelyek) throw THiba("esemenyek: legfeljebb húsz");
     tar.EsemenyDb = 0;
-    for (const TJson& elem : tomb) tar.esemenyek[++tar.EsemenyDb] = esemenyErtek(elem);
+    for (const TKerelem& elem : tomb) tar.esemenyek[++tar.EsemenyDb] = esemenyErtek(elem);
 }
 
 TJson esemenyValasz(const TEletesemeny& e) {

@@ -4,26 +4,26 @@
 
 /// The operations: each takes a request and returns its answer, or throws THiba.
 
-TJson datumMuvelet(const TJson& kerelem);
-TJson nyariIdoMuvelet(const TJson& kerelem);
-TJson telepulesMuvelet(const TJson& kerelem);
-TJson idoMuvelet(const TJson& kerelem);
-TJson kepletMuvelet(const TJson& kerelem);
-TJson rajzMuvelet(const TJson& kerelem);
+TJson datumMuvelet(const TKerelem& kerelem);
+TJson nyariIdoMuvelet(const TKerelem& kerelem);
+TJson telepulesMuvelet(const TKerelem& kerelem);
+TJson idoMuvelet(const TKerelem& kerelem);
+TJson kepletMuvelet(const TKerelem& kerelem);
+TJson rajzMuvelet(const TKerelem& kerelem);
 
-TJson lepesMuvelet(const TJson& kerelem);
-TJson kvhOlvasMuvelet(const TJson& kerelem);
-TJson kvhIrMuvelet(const TJson& kerelem);
-TJson analogiaMuvelet(const TJson& kerelem);
-TJson eletesemenyMuvelet(const TJson& kerelem);
+TJson lepesMuvelet(const TKerelem& kerelem);
+TJson kvhOlvasMuvelet(const TKerelem& kerelem);
+TJson kvhIrMuvelet(const TKerelem& kerelem);
+TJson analogiaMuvelet(const TKerelem& kerelem);
+TJson eletesemenyMuvelet(const TKerelem& kerelem);
 
-TJson revolucioMuvelet(const TJson& kerelem);
-TJson personarMuvelet(const TJson& kerelem);
-TJson tercierMuvelet(const TJson& kerelem);
-TJson ingresszioMuvelet(const TJson& kerelem);
-TJson primerMuvelet(const TJson& kerelem);
-TJson solarHazMuvelet(const TJson& kerelem);
+TJson revolucioMuvelet(const TKerelem& kerelem);
+TJson personarMuvelet(const TKerelem& kerelem);
+TJson tercierMuvelet(const TKerelem& kerelem);
+TJson ingresszioMuvelet(const TKerelem& kerelem);
+TJson primerMuvelet(const TKerelem& kerelem);
+TJson solarHazMuvelet(const TKerelem& kerelem);
 
-TJson mundanMuvelet(const TJson& kerelem);
-TJson mundanKeresesMuvelet(const TJson& kerelem);
-TJson pontositasMuvelet(const TJson& kerelem);
+TJson mundanMuvelet(const TKerelem& kerelem);
+TJson mundanKeresesMuvelet(const TKerelem& kerelem);
+TJson pontositasMuvelet(const TKerelem& kerelem);

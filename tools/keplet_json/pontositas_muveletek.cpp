@@ -5,7 +5,7 @@
 namespace {
 
 /// A place by name asks for summer time at each moment, typed values stand.
-TMundanHely mundanHely(const TJson& kerelem, const TKeplet& k) {
+TMundanHely mundanHely(const TKerelem& kerelem, const TKeplet& k) {
     TMundanHely hely{k.idozona, k.szelesseg, k.hosszusag};
     if (mezo(kerelem, "hely").size() > 1) hely.nyariIdo = k.nyariIdo;
     return hely;
@@ -20,7 +20,7 @@ TJson hazValasz(const TMundanLanc& lanc, int haz) {
 
 }  // namespace
 
-TJson mundanMuvelet(const TJson& kerelem) {
+TJson mundanMuvelet(const TKerelem& kerelem) {
     const Allapot allapot = allapotKerelembol(kerelem);
     const TMundanErtekeles e = MundanErtekeles(allapot, mundanHely(kerelem, allapot.Keplet));
     TJson hazak = TJson::array();
@@ -31,7 +31,7 @@ TJson mundanMuvelet(const TJson& kerelem) {
             {"hazak", hazak}};
 }
 
-TJson mundanKeresesMuvelet(const TJson& kerelem) {
+TJson mundanKeresesMuvelet(const TKerelem& kerelem) {
     Allapot allapot = allapotKerelembol(kerelem);
     allapot.KeresesVolt = logikaiMezo(kerelem, "KeresesVolt");
     const std::int32_t irany = egeszMezo(kerelem, "irany", -1, 1);
@@ -42,7 +42,7 @@ TJson mundanKeresesMuvelet(const TJson& kerelem) {
             {"KeresesVolt", allapot.KeresesVolt}};
 }
 
-TJson pontositasMuvelet(const TJson& kerelem) {
+TJson pontositasMuvelet(const TKerelem& kerelem) {
     Allapot allapot = szuletesiAllapot(kerelem);
     allapot.PontositasHatotav = egeszMezo(kerelem, "hatotav");
     esemenyekMezo(kerelem, allapot.Esemenyek);

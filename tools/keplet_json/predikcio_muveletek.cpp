@@ -23,12 +23,12 @@ public:
     void PrimerFuttat() override {}
 };
 
-TPillanat datumMezo(const TJson& kerelem, const char* nev) {
+TPillanat datumMezo(const TKerelem& kerelem, const char* nev) {
     const auto [ev, ho, nap] = egeszTomb<3>(kerelem, nev);
     return {ev, ho, nap, 0, 0, 0};
 }
 
-TJson visszateresMuvelet(const TJson& kerelem, const TVisszateresFajta& fajta) {
+TJson visszateresMuvelet(const TKerelem& kerelem, const TVisszateresFajta& fajta) {
     Allapot allapot = szuletesiAllapot(kerelem);
     const TPillanat kezdo = VisszateresKezdo(allapot);
     VisszateresKereses(allapot, fajta, VisszateresCel(allapot, fajta));
@@ -58,15 +58,15 @@ TJson visszateresMuvelet(const TJson& kerelem, const TVisszateresFajta& fajta) {
 
 }  // namespace
 
-TJson revolucioMuvelet(const TJson& kerelem) {
+TJson revolucioMuvelet(const TKerelem& kerelem) {
     return visszateresMuvelet(kerelem, RevolucioFajta(egeszMezo(kerelem, "fajta", 1, revolucioFajtak)));
 }
 
-TJson personarMuvelet(const TJson& kerelem) {
+TJson personarMuvelet(const TKerelem& kerelem) {
     return visszateresMuvelet(kerelem, PersonarFajta(egeszMezo(kerelem, "fajta", 1, personarFajtak)));
 }
 
-TJson tercierMuvelet(const TJson& kerelem) {
+TJson tercierMuvelet(const TKerelem& kerelem) {
     Allapot allapot = allapotKerelembol(kerelem);
     const TTercier t = TercierKeres(allapot, allapot.Keplet.pillanat, datumMezo(kerelem, "esemeny"),
                                     allapot.Keplet.helyseg, valosMezo(kerelem, "orbis_nap"));
@@ -75,7 +75,7 @@ TJson tercierMuvelet(const TJson& kerelem) {
             {"verdikt", t.TercierSzoveg.empty() ? tercierVerdikt.nincs : tercierVerdikt.van}};
 }
 
-TJson ingresszioMuvelet(const TJson& kerelem) {
+TJson ingresszioMuvelet(const TKerelem& kerelem) {
     Allapot allapot = allapotKerelembol(kerelem);
     const std::string szoveg = IngresszioKeres(allapot, allapot.Keplet.pillanat,
                                                datumMezo(kerelem, "esemeny"), allapot.Keplet.helyseg);
@@ -83,11 +83,11 @@ TJson ingresszioMuvelet(const TJson& kerelem) {
             {"verdikt", szoveg.empty() ? ingresszioVerdikt.nincs : ingresszioVerdikt.van}};
 }
 
-TJson primerMuvelet(const TJson& kerelem) {
+TJson primerMuvelet(const TKerelem& kerelem) {
     return {{"sorok", PrimerFutas(szuletesiAllapot(kerelem), datumMezo(kerelem, "kezdo"))}};
 }
 
-TJson solarHazMuvelet(const TJson& kerelem) {
+TJson solarHazMuvelet(const TKerelem& kerelem) {
     const Allapot allapot = szuletesiAllapot(kerelem);
     TPillanat p = datumMezo(kerelem, "datum");
     return {{"haz", SolarHaz(allapot.Keplet.bolygo, DatumbolJulianszam(p.ev, p.ho, p.nap),

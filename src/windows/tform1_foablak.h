@@ -92,6 +92,8 @@ private:
     void FormCreate();
     void FormPaint(const QRegion& resz);
     void FormResize();
+    /// Window geometry, then the current view anew in a part of the surface.
+    void kepletRajzolas(const QRegion& resz);
 
     void menuEpites();
     void panelEpites();

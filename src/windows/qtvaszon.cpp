@@ -1,6 +1,5 @@
 #include "windows/qtvaszon.h"
 
-#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -69,12 +68,11 @@ constexpr double pixelKozep = 0.5;
 /// Widest line, in device pixels, whose round ends can't be told from square ones.
 constexpr double legszelesebbSzogletes = 8;
 
-/// The nearest box on whole device pixels, at least one each way; a box that is half a pixel off goes
-/// towards the top left.
-QRectF egeszPixelek(const QRectF& doboz, double arany) {
-    const auto kezdet = [arany](double hely) { return std::ceil(hely * arany - pixelKozep) / arany; };
-    const auto hossz = [arany](double mennyi) { return std::max(std::round(mennyi * arany), 1.0) / arany; };
-    return {kezdet(doboz.left()), kezdet(doboz.top()), hossz(doboz.width()), hossz(doboz.height())};
+/// A box moved to the nearest whole device pixel; one that is half a pixel off goes towards the top left.
+QRectF egeszPixelre(QRectF doboz, double arany) {
+    const auto egesz = [arany](double hely) { return std::ceil(hely * arany - pixelKozep) / arany; };
+    doboz.moveTo(egesz(doboz.left()), egesz(doboz.top()));
+    return doboz;
 }
 
 QPointF pixelKozepe(const QPoint& hely) {
@@ -126,7 +124,7 @@ void QtVaszon::LineTo(int x, int y) {
     hely_ = {x, y};
 }
 
-/// A box on whole device pixels; without antialiasing, which takes a coordinate's last bit for a grey edge.
+/// A box that begins on a whole device pixel; without antialiasing it ends on one too.
 void QtVaszon::kitoltes(const QRectF& doboz, const QColor& szin) {
     festo_.setRenderHint(QPainter::Antialiasing, false);
     festo_.fillRect(doboz, szin);
@@ -140,7 +138,7 @@ void QtVaszon::egyenesVonal(const QPoint& vege) {
     const double szelesseg = toll_.isCosmetic() ? 1 / arany : toll_.widthF();
     const double fel = szelesseg / 2;
     const QRectF helye = QRectF(pixelKozepe(hely_), pixelKozepe(vege)).normalized();
-    const QRectF sav = egeszPixelek(helye.adjusted(-fel, -fel, fel, fel), arany);
+    const QRectF sav = egeszPixelre(helye.adjusted(-fel, -fel, fel, fel), arany);
     if (szelesseg * arany > legszelesebbSzogletes)
         festo_.drawLine(pixelKozepe(hely_), pixelKozepe(vege));
     else if (toll_.style() == Qt::SolidLine)
@@ -154,7 +152,7 @@ void QtVaszon::TextOut(int x, int y, std::string_view szoveg) {
     const QString qsz = qszoveg(szoveg);
     const TJelSor sor = jelSor(betu_, qsz);
     const double szelesseg = sor.jelek.isEmpty() ? TextWidth(szoveg) : sor.szelesseg;
-    kitoltes(egeszPixelek({x * 1.0, y * 1.0, szelesseg, magassag_ * 1.0}, keparany()), Qt::white);
+    kitoltes(egeszPixelre({x * 1.0, y * 1.0, szelesseg, magassag_ * 1.0}, keparany()), Qt::white);
     const QPointF alapvonal(x, y + betu_.ascent());
     if (sor.jelek.isEmpty()) {
         festo_.setFont(tartalekBetu());

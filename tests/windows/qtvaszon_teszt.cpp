@@ -1,7 +1,10 @@
 // The canvas on QPainter, judged by the pixels that it leaves.
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <functional>
+#include <string_view>
 
 #include <QApplication>
 #include <QFontMetricsF>
@@ -9,6 +12,7 @@
 #include <QList>
 #include <QPainter>
 #include <QTest>
+#include <QTransform>
 
 #include "windows/betumappak.h"
 #include "windows/qtvaszon.h"
@@ -120,7 +124,7 @@ private slots:
         QTest::addColumn<int>("szelesseg");
         QTest::addColumn<double>("arany");
         QTest::addColumn<bool>("fuggoleges");
-        for (const double arany : {1.0, 1.25, 1.5, 2.0})
+        for (const double arany : {1.0, 1.25, 1.5, 1.75, 2.0})
             for (int szelesseg = 1; szelesseg <= 4; ++szelesseg)
                 for (const bool fuggoleges : {false, true})
                     QTest::addRow("%d x%.2f %s", szelesseg, arany, fuggoleges ? "fuggo" : "viz")
@@ -130,7 +134,8 @@ private slots:
         QFETCH(int, szelesseg);
         QFETCH(double, arany);
         QFETCH(bool, fuggoleges);
-        for (const int hely : {20, 21, 22, 23}) {
+        const int vastagsag = static_cast<int>(std::round(szelesseg * arany));
+        for (int hely = 14; hely < 46; ++hely) {
             QImage kep = rajz({60, 60}, arany, Qt::white, [&](QtVaszon& v) {
                 v.TollSzelesseg(szelesseg);
                 v.MoveTo(fuggoleges ? hely : 10, fuggoleges ? 10 : hely);
@@ -139,12 +144,47 @@ private slots:
             if (fuggoleges) kep = kep.transformed(QTransform(0, 1, 1, 0, 0, 0));
             QCOMPARE(szurkek(kep), 0);
             const QRect vonal = tinta(kep);
-            QVERIFY(std::abs(vonal.height() - szelesseg * arany) <= 0.5);
+            QCOMPARE(vonal.height(), vastagsag);
             QVERIFY(std::abs(vonal.y() + vonal.height() / 2.0 - (hely + 0.5) * arany) <= 0.75);
             // From pixel 10 to pixel 49, with the half width beyond that every end has.
             QVERIFY(std::abs(vonal.x() - (10.5 - szelesseg / 2.0) * arany) <= 0.5);
             QVERIFY(std::abs(vonal.x() + vonal.width() - (49.5 + szelesseg / 2.0) * arany) <= 1);
         }
+    }
+
+    void azEgyenesVonalUtanIsSimaAFerde() {
+        const auto ferde = [](QtVaszon& v) {
+            v.MoveTo(5, 30);
+            v.LineTo(50, 41);
+            v.Ellipse(10, 45, 40, 75);
+        };
+        const QImage magaban = rajz({60, 80}, 1, Qt::white, ferde);
+        const QImage utana = rajz({60, 80}, 1, Qt::white, [&](QtVaszon& v) {
+            v.MoveTo(5, 5);
+            v.LineTo(50, 5);
+            v.Betu("Ariel", 12);
+            v.TextOut(5, 8, "12");
+            ferde(v);
+        });
+        QVERIFY(szurkek(magaban) > 50);
+        QCOMPARE(utana.copy(0, 25, 60, 55), magaban.copy(0, 25, 60, 55));
+    }
+
+    void aSzaggatottHajszalSemSzurke() {
+        for (const int arany : {1, 2, 3})
+            for (const int szelesseg : {0, 1})
+                for (const TollStilus stilus : stilusok) {
+                    const QImage kep = rajz({60, 60}, arany, Qt::white, [&](QtVaszon& v) {
+                        v.TollSzelesseg(szelesseg);
+                        v.Stilus(stilus);
+                        v.MoveTo(5, 3);
+                        v.LineTo(50, 3);
+                        v.MoveTo(3, 50);
+                        v.LineTo(3, 5);
+                    });
+                    QVERIFY(!tinta(kep).isEmpty());
+                    QCOMPARE(szurkek(kep), 0);
+                }
     }
 
     void aParatlanSzelessegAPixelekKozepenAll() {

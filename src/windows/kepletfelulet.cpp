@@ -9,11 +9,48 @@ KepletFelulet::KepletFelulet(QWidget* parent) : QWidget(parent) {
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void KepletFelulet::rajzol(const std::function<void(QtVaszon&)>& rajzolas) {
-    if (kep_.isNull()) return;
-    QPainter festo(&kep_);
+namespace {
+
+void rajzolas(QPixmap& kep, const std::function<void(QtVaszon&)>& rajz) {
+    QPainter festo(&kep);
     QtVaszon vaszon(festo);
-    rajzolas(vaszon);
+    rajz(vaszon);
+}
+
+/// Copies the pixels that a region touches.
+/// @param arany  device pixels in a unit of the region
+void masolas(QPixmap& hova, QPixmap& honnan, const QRegion& resz, double arany) {
+    hova.setDevicePixelRatio(1);
+    honnan.setDevicePixelRatio(1);
+    QPainter festo(&hova);
+    for (const QRect& r : resz) {
+        const QRectF pixelek(r.x() * arany, r.y() * arany, r.width() * arany, r.height() * arany);
+        const QRect egesz = pixelek.toAlignedRect().intersected(hova.rect());
+        festo.drawPixmap(egesz, honnan, egesz);
+    }
+    festo.end();
+    hova.setDevicePixelRatio(arany);
+}
+
+}  // namespace
+
+void KepletFelulet::rajzol(const std::function<void(QtVaszon&)>& rajz) {
+    if (!kep_.isNull()) rajzolas(kep_, rajz);
+}
+
+void KepletFelulet::ujrarajzol(const QRegion& resz, const std::function<void(QtVaszon&)>& rajz) {
+    if (kep_.isNull()) return;
+    if (QRegion(rect()).subtracted(resz).subtracted(childrenRegion()).isEmpty()) {
+        torol();
+        rajzolas(kep_, rajz);
+        return;
+    }
+    // Drawn elsewhere and copied: what is drawn in a part only has its antialiased edges rounded differently.
+    QPixmap uj(kep_.size());
+    uj.setDevicePixelRatio(kep_.devicePixelRatio());
+    uj.fill(Qt::white);
+    rajzolas(uj, rajz);
+    masolas(kep_, uj, resz, kep_.devicePixelRatio());
 }
 
 void KepletFelulet::torol() {
@@ -21,12 +58,11 @@ void KepletFelulet::torol() {
 }
 
 void KepletFelulet::torol(const QRegion& resz) {
-    if (kep_.isNull()) return;
-    QPainter festo(&kep_);
-    for (const QRect& doboz : resz) festo.fillRect(doboz, Qt::white);
+    ujrarajzol(resz, [](QtVaszon&) {});
 }
 
 void KepletFelulet::megmutat() {
+    if (festes_) return;
     sajatMutatas_ = true;
     repaint();
     sajatMutatas_ = false;
@@ -38,19 +74,30 @@ void KepletFelulet::ervenytelenit() {
     update();
 }
 
+void KepletFelulet::ujKep() {
+    kep_ = QPixmap(size() * devicePixelRatioF());
+    kep_.setDevicePixelRatio(devicePixelRatioF());
+    torol();
+    emit meretValtozott();
+}
+
+void KepletFelulet::aranyKovetes() {
+    if (!kep_.isNull() && !qFuzzyCompare(kep_.devicePixelRatio(), devicePixelRatioF())) ujKep();
+}
+
 void KepletFelulet::paintEvent(QPaintEvent* esemeny) {
+    festes_ = true;
+    aranyKovetes();
     if (!sajatMutatas_) {
         ervenytelen_ = false;
         emit festesKeres(esemeny->region());
     }
+    festes_ = false;
     QPainter festo(this);
     festo.drawPixmap(0, 0, kep_);
 }
 
 void KepletFelulet::resizeEvent(QResizeEvent* esemeny) {
     QWidget::resizeEvent(esemeny);
-    kep_ = QPixmap(size() * devicePixelRatioF());
-    kep_.setDevicePixelRatio(devicePixelRatioF());
-    torol();
-    emit meretValtozott();
+    ujKep();
 }

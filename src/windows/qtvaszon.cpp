@@ -1,10 +1,12 @@
 #include "windows/qtvaszon.h"
 
+#include <cmath>
 #include <utility>
 
 #include <QFontMetrics>
 #include <QGlyphRun>
 #include <QHash>
+#include <QLineF>
 #include <QList>
 #include <QPaintDevice>
 
@@ -63,6 +65,28 @@ TJelSor jelSor(const QRawFont& betu, const QString& szoveg) {
 
 constexpr double pixelKozep = 0.5;
 
+/// Widest line, in device pixels, whose round ends can't be told from square ones.
+constexpr double legszelesebbSzogletes = 8;
+
+/// A box moved to the nearest whole device pixel; one that is half a pixel off goes towards the top left.
+QRectF egeszPixelre(QRectF doboz, double arany) {
+    const auto egesz = [arany](double hely) { return std::ceil(hely * arany - pixelKozep) / arany; };
+    doboz.moveTo(egesz(doboz.left()), egesz(doboz.top()));
+    return doboz;
+}
+
+QPointF pixelKozepe(const QPoint& hely) {
+    return QPointF(hely) + QPointF(pixelKozep, pixelKozep);
+}
+
+/// The middle line of a strip, in the direction of its drawing: a pattern begins where its line begins.
+QLineF kozepvonal(const QRectF& sav, const QPoint& irany) {
+    const QPointF kozep = sav.center();
+    const QLineF vonal = irany.y() != 0 ? QLineF(kozep.x(), sav.top(), kozep.x(), sav.bottom())
+                                        : QLineF(sav.left(), kozep.y(), sav.right(), kozep.y());
+    return irany.x() + irany.y() < 0 ? QLineF(vonal.p2(), vonal.p1()) : vonal;
+}
+
 }  // namespace
 
 QFont cellaMagassaguBetu(const QString& nev, int magassag, int dpi) {
@@ -80,20 +104,47 @@ QtVaszon::QtVaszon(QPainter& festo) : festo_(festo), toll_(Qt::black, 1) {
 }
 
 void QtVaszon::tollBeallitas() {
-    const bool vastag = toll_.style() == Qt::SolidLine && toll_.widthF() > 1;
+    const bool vastag = toll_.widthF() > 1;
+    toll_.setStyle(vastag ? Qt::SolidLine : stilus_);
     toll_.setCapStyle(vastag ? Qt::RoundCap : Qt::FlatCap);
     festo_.setPen(toll_);
 }
 
 void QtVaszon::Ellipse(int x1, int y1, int x2, int y2) {
-    const QRectF doboz(QPointF(x1 + pixelKozep, y1 + pixelKozep), QPointF(x2 + pixelKozep, y2 + pixelKozep));
-    festo_.drawEllipse(doboz.normalized());
+    festo_.drawEllipse(QRectF(pixelKozepe({x1, y1}), pixelKozepe({x2, y2})).normalized());
 }
 
 void QtVaszon::LineTo(int x, int y) {
-    const QPointF eltolas(pixelKozep, pixelKozep);
-    festo_.drawLine(QPointF(hely_) + eltolas, QPointF(x, y) + eltolas);
+    const bool fuggoleges = x == hely_.x();
+    const bool vizszintes = y == hely_.y();
+    if (fuggoleges != vizszintes)
+        egyenesVonal({x, y});
+    else
+        festo_.drawLine(pixelKozepe(hely_), pixelKozepe({x, y}));
     hely_ = {x, y};
+}
+
+/// A box that begins on a whole device pixel; without antialiasing it ends on one too.
+void QtVaszon::kitoltes(const QRectF& doboz, const QColor& szin) {
+    festo_.setRenderHint(QPainter::Antialiasing, false);
+    festo_.fillRect(doboz, szin);
+    festo_.setRenderHint(QPainter::Antialiasing);
+}
+
+/// A horizontal or vertical line covers whole device pixels: about the middle of its pixel a line of an
+/// even width would be grey along both edges.
+void QtVaszon::egyenesVonal(const QPoint& vege) {
+    const double arany = keparany();
+    const double szelesseg = toll_.isCosmetic() ? 1 / arany : toll_.widthF();
+    const double fel = szelesseg / 2;
+    const QRectF helye = QRectF(pixelKozepe(hely_), pixelKozepe(vege)).normalized();
+    const QRectF sav = egeszPixelre(helye.adjusted(-fel, -fel, fel, fel), arany);
+    if (szelesseg * arany > legszelesebbSzogletes)
+        festo_.drawLine(pixelKozepe(hely_), pixelKozepe(vege));
+    else if (toll_.style() == Qt::SolidLine)
+        kitoltes(sav, toll_.color());
+    else
+        festo_.drawLine(kozepvonal(sav, vege - hely_));
 }
 
 void QtVaszon::TextOut(int x, int y, std::string_view szoveg) {
@@ -101,7 +152,7 @@ void QtVaszon::TextOut(int x, int y, std::string_view szoveg) {
     const QString qsz = qszoveg(szoveg);
     const TJelSor sor = jelSor(betu_, qsz);
     const double szelesseg = sor.jelek.isEmpty() ? TextWidth(szoveg) : sor.szelesseg;
-    festo_.fillRect(QRectF(x, y, szelesseg, magassag_), Qt::white);
+    kitoltes(egeszPixelre({x * 1.0, y * 1.0, szelesseg, magassag_ * 1.0}, keparany()), Qt::white);
     const QPointF alapvonal(x, y + betu_.ascent());
     if (sor.jelek.isEmpty()) {
         festo_.setFont(tartalekBetu());
@@ -136,19 +187,19 @@ void QtVaszon::TollSzelesseg(int szelesseg) {
 void QtVaszon::Stilus(TollStilus stilus) {
     switch (stilus) {
         case TollStilus::folytonos:
-            toll_.setStyle(Qt::SolidLine);
+            stilus_ = Qt::SolidLine;
             break;
         case TollStilus::szaggatott:
-            toll_.setStyle(Qt::DashLine);
+            stilus_ = Qt::DashLine;
             break;
         case TollStilus::pontozott:
-            toll_.setStyle(Qt::DotLine);
+            stilus_ = Qt::DotLine;
             break;
         case TollStilus::pontVonal:
-            toll_.setStyle(Qt::DashDotLine);
+            stilus_ = Qt::DashDotLine;
             break;
         case TollStilus::pontPontVonal:
-            toll_.setStyle(Qt::DashDotDotLine);
+            stilus_ = Qt::DashDotDotLine;
             break;
     }
     tollBeallitas();

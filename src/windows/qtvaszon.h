@@ -9,7 +9,8 @@
 #include "drawing/vaszon.h"
 
 /// The canvas on a QPainter: black antialiased lines, white fillings, one pixel being one unit of the
-/// painter. A coordinate is the middle of its pixel.
+/// painter. A coordinate is the middle of its pixel; horizontal and vertical lines and the boxes of texts
+/// stand on whole device pixels. Pens wider than one pixel draw solid, the styles are for hairlines.
 class QtVaszon : public Vaszon {
 public:
     /// @param festo  active; it must outlive the canvas
@@ -27,12 +28,17 @@ public:
 
 private:
     void tollBeallitas();
+    void egyenesVonal(const QPoint& vege);
+    void kitoltes(const QRectF& doboz, const QColor& szin);
+    /// Device pixels in a unit of the painter.
+    double keparany() const { return festo_.device()->devicePixelRatioF(); }
     /// For texts with characters that the face lacks.
     QFont tartalekBetu() const;
 
     QPainter& festo_;
     QPoint hely_;
     QPen toll_;
+    Qt::PenStyle stilus_ = Qt::SolidLine;
     int magassag_ = 0;
     QString betuNev_;
     QRawFont betu_;

@@ -36,8 +36,15 @@ constexpr int tervezettSzelesseg = 995;
 constexpr int tervezettMagassag = 717;
 constexpr int panelSzelesseg = 49;
 constexpr int gombMagassag = 24;
-constexpr int panelSorMagassag = 28;
 constexpr int panelSorokTeteje = 6 * gombMagassag + 2;
+
+/// A row of the panel: its glyphs, and its position text so close beneath that the two read as one. The
+/// text begins inside the glyphs' cell, where that is empty; what is left of the row is its distance from
+/// the next.
+struct TPanelSor {
+    int magassag, jelMagassag, szovegTetej, szovegMagassag;
+};
+constexpr TPanelSor panelSor{28, 15, 13, 12};
 
 struct TMemoHely {
     int tetej, magassag;
@@ -81,8 +88,7 @@ void TForm1::gombEpites(int hely, const char* nev, const QString& felirat, void 
 
 void TForm1::panelSorEpites(int sor) {
     constexpr std::array<const char*, 6> csucsFeliratok{"I", "2", "3", "X", "11", "12"};
-    constexpr int jelMagassag = 15;
-    const int y = panelSorokTeteje + sor * panelSorMagassag;
+    const int y = panelSorokTeteje + sor * panelSor.magassag;
     const auto uj = [&](int n, const QRect& hely) {
         auto* felirat = new QLabel(panel1_);
         felirat->setObjectName(QStringLiteral("Label%1").arg(n));
@@ -92,9 +98,9 @@ void TForm1::panelSorEpites(int sor) {
         return felirat;
     };
     const int fel = panelSzelesseg / 2;
-    QLabel* nev = uj(3 * sor + 1, {0, y, fel, jelMagassag});
-    uj(3 * sor + 2, {fel, y, panelSzelesseg - fel, jelMagassag});
-    uj(3 * sor + 3, {0, y + jelMagassag, panelSzelesseg, panelSorMagassag - jelMagassag});
+    QLabel* nev = uj(3 * sor + 1, {0, y, fel, panelSor.jelMagassag});
+    uj(3 * sor + 2, {fel, y, panelSzelesseg - fel, panelSor.jelMagassag});
+    uj(3 * sor + 3, {0, y + panelSor.szovegTetej, panelSzelesseg, panelSor.szovegMagassag});
     nev->setText(sor < 10 ? QString(QChar(u'A' + sor))
                           : QString(csucsFeliratok[static_cast<std::size_t>(sor - 10)]));
 }
@@ -141,12 +147,13 @@ void TForm1::statuszEpites() {
     for (std::size_t i = 0; i < statusz_.size(); ++i) {
         auto* felirat = new QLabel(qszoveg(allapot_.Feliratok.statusz[i]), sav);
         felirat->setObjectName(QStringLiteral("StatusBar1Panel%1").arg(i));
-        const bool utolso = i + 1 == statusz_.size();
-        felirat->setMinimumWidth(utolso ? 0 : statuszSzelessegek[i]);
+        felirat->setMinimumWidth(1);
         felirat->setMaximumWidth(statuszSzelessegek[i]);
         felirat->setTextFormat(Qt::PlainText);
         felirat->setFrameStyle(QFrame::Panel | QFrame::Sunken);
-        sav->addWidget(felirat, utolso ? 1 : 0);
+        // The empty last panel has what the others leave; in a narrow window they shrink in proportion.
+        const bool utolso = i + 1 == statusz_.size();
+        sav->addWidget(felirat, utolso ? 1 : 1000 * statuszSzelessegek[i]);
         statusz_[i] = felirat;
     }
 }
@@ -156,34 +163,34 @@ void TForm1::FormCreate() {
         QMessageBox::critical(this, "Korvend", "A rendszer dátuma vagy ideje nem olvasható.");
 }
 
-void TForm1::RajzolKeplet() {
+void TForm1::kepletRajzolas(const QRegion& resz) {
     AblakGeometria(allapot_.Rajz, allapot_.Keplet.hazCsucs[1], felulet_->width(), felulet_->height());
-    felulet_->rajzol([this](QtVaszon& vaszon) { KepletRajz(vaszon, allapot_); });
+    felulet_->ujrarajzol(resz, [this](QtVaszon& vaszon) { KepletRajz(vaszon, allapot_); });
     oldalPanelMutatas();
+}
+
+void TForm1::RajzolKeplet() {
+    kepletRajzolas(felulet_->rect());
     felulet_->megmutat();
 }
 
 void TForm1::Ujrafest() {
-    felulet_->torol();
     FormPaint(felulet_->rect());
     felulet_->megmutat();
 }
 
 void TForm1::FormPaint(const QRegion& resz) {
     megjelent_ = true;
-    felulet_->torol(resz);
-    if (allapot_.TeljesTorles) return;
-    AblakGeometria(allapot_.Rajz, allapot_.Keplet.hazCsucs[1], felulet_->width(), felulet_->height());
-    felulet_->rajzol([this](QtVaszon& vaszon) { KepletRajz(vaszon, allapot_); });
-    oldalPanelMutatas();
+    if (allapot_.TeljesTorles)
+        felulet_->torol(resz);
+    else
+        kepletRajzolas(resz);
 }
 
 void TForm1::FormResize() {
     panel1_->setGeometry(0, 0, panelSzelesseg, felulet_->height());
     allapot_.TeljesTorles = false;
-    if (!megjelent_) return;  // the first paint request draws
-    felulet_->torol();
-    RajzolKeplet();
+    if (megjelent_) RajzolKeplet();  // otherwise the first paint request draws
 }
 
 namespace {
@@ -191,7 +198,7 @@ namespace {
 /// The largest text font whose widest position text still fits in the panel.
 QFont panelSzamBetu(int dpi) {
     const QString nev = qszoveg(szovegFont);
-    int magassag = 13;  // pixels
+    int magassag = panelSor.szovegMagassag;
     while (magassag > 8 &&
            QFontMetrics(cellaMagassaguBetu(nev, magassag, dpi)).horizontalAdvance("28°58'58''") >=
                panelSzelesseg)
@@ -210,7 +217,7 @@ void TForm1::oldalPanelMutatas() {
     }
     if (betutipus_ == szimbolum) return;
     betutipus_ = szimbolum;
-    const QFont jel = cellaMagassaguBetu(szimbolum, 15, logicalDpiY());
+    const QFont jel = cellaMagassaguBetu(szimbolum, panelSor.jelMagassag, logicalDpiY());
     const QFont szam = panelSzamBetu(logicalDpiY());
     for (std::size_t sor = 0; sor < panel.size(); ++sor) {
         label_[3 * sor]->setFont(sor < 10 ? jel : szam);

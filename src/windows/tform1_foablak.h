@@ -95,6 +95,8 @@ private:
     void FormCreate();
     void FormPaint(const QRegion& resz);
     void FormResize();
+    /// Window geometry, then the current view anew in a part of the surface.
+    void kepletRajzolas(const QRegion& resz);
 
     void menuEpites();
     void parancsEpites(QAction& pont, const char* nev, void (TForm1::*kezelo)(), const char* billentyu);

@@ -2,6 +2,8 @@
 
 epites="g++ cmake ninja-build qt6-base-dev qt6-multimedia-dev qt6-translations-l10n gstreamer1.0-plugins-base gstreamer1.0-plugins-good cmark-gfm nlohmann-json3-dev fonts-dejavu-core fonts-liberation"
 teszt="tzdata libgtest-dev libbenchmark-dev libnova-dev liberfa-dev"
+fuzz="clang libclang-rt-14-dev"
+csomagolas="dpkg-dev file librsvg2-bin lintian desktop-file-utils appstream binutils"
 
 # Installs those of the named packages that are missing.
 telepit() {

@@ -4,6 +4,7 @@
 
 #include "minta.h"
 #include "rectify/mundankereses.h"
+#include "rectify/mundankoveto.h"
 #include "rectify/pontositas.h"
 
 namespace {
@@ -23,7 +24,7 @@ void Verdikt(benchmark::State& allas) {
 }
 BENCHMARK(Verdikt)->Unit(benchmark::kMicrosecond);
 
-/// One day of 30-second steps, as the search makes them.
+/// One day of 30-second steps, each chart worked out by itself.
 void EgyNapKeresese(benchmark::State& allas) {
     const Allapot allapot = mintaKeplet();
     TMundanLanc lanc;
@@ -37,6 +38,19 @@ void EgyNapKeresese(benchmark::State& allas) {
     }
 }
 BENCHMARK(EgyNapKeresese)->Unit(benchmark::kMillisecond);
+
+/// The same day as the search walks it.
+void EgyNapKovetese(benchmark::State& allas) {
+    const Allapot allapot = mintaKeplet();
+    TMundanKoveto koveto(szeged, allapot.OrbisTabla);
+    for (auto _ : allas) {
+        int egyezo = 0;
+        for (int t = 0; t < 86400; t += 30)
+            egyezo += koveto.allapot(2442492, t / 3600, t / 60 % 60, t % 60) == '1';
+        benchmark::DoNotOptimize(egyezo);
+    }
+}
+BENCHMARK(EgyNapKovetese)->Unit(benchmark::kMillisecond);
 
 /// A press of "Keresés +" to the next change, with its first and second phase.
 void Kereses(benchmark::State& allas) {

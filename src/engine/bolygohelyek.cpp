@@ -6,15 +6,15 @@
 #include "tables/efemerida.h"
 #include "tables/szamtan.h"
 
+int KoztesLepes(std::int32_t x0, std::int32_t x1, char mozgas) {
+    const int d = x1 - x0;
+    if (mozgas == 'R') return d > 0 ? d - korIvmasodperc : d;
+    return d < 0 ? d + korIvmasodperc : d;
+}
+
 double KoztesHossz(std::int32_t x0, std::int32_t x1, double napresz, char mozgas) {
-    int d = x1 - x0;
-    if (mozgas == 'R') {
-        if (d > 0) d -= korIvmasodperc;
-        const double v = d * napresz + x0;
-        return v <= 0 ? v + korIvmasodperc : v;
-    }
-    if (d < 0) d += korIvmasodperc;
-    const double v = d * napresz + x0;
+    const double v = KoztesLepes(x0, x1, mozgas) * napresz + x0;
+    if (mozgas == 'R') return v <= 0 ? v + korIvmasodperc : v;
     return v >= korIvmasodperc ? v - korIvmasodperc : v;
 }
 

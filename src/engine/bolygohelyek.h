@@ -14,5 +14,8 @@
 /// @param[out] Mozgasok  'D' for Sun and Moon, the row's own letter for the others; 'S' moves like 'D'
 void BolygoHelyek(std::int32_t julianszam, double napresz, TBolygok& Bolygok, TMozgasok& Mozgasok);
 
+/// Way of a body from one row to the next in arcseconds, the way round that its motion letter tells.
+int KoztesLepes(std::int32_t x0, std::int32_t x1, char mozgas);
+
 /// Longitude in arcseconds between two rows for one body, by the rule of its motion letter.
 double KoztesHossz(std::int32_t x0, std::int32_t x1, double napresz, char mozgas);

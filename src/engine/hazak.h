@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 
 #include "engine/keszlet.h"
@@ -15,3 +16,22 @@
 ///       printed tables in this; a wrap would make them differ.
 void Hazak(std::int32_t armcOra, std::int32_t armcPerc, double armcMperc, THazcsucsok& Hazcsucsok,
            std::int32_t szelesseg);
+
+/// The two steps of `Hazak` for one who computes many cusps within the same degree of RAMC.
+
+/// Place of a sidereal time in the tables.
+struct THazHely {
+    int sor;    ///< whole degree of RAMC, 0..359
+    double dt;  ///< seconds past it
+};
+THazHely HazHely(std::int32_t armcOra, std::int32_t armcPerc, double armcMperc);
+
+/// What the tables give for a degree of RAMC and the next one, at a latitude.
+struct THazSor {
+    int mc, mcLepes;             ///< arcseconds
+    std::array<double, 5> a, b;  ///< houses 1, 2, 3, 11, 12, arcminutes
+};
+THazSor HazSor(int sor, std::int32_t szelesseg);
+
+/// Cusps so many seconds past the degree.
+void HazakSorban(const THazSor& sor, double dt, THazcsucsok& Hazcsucsok);

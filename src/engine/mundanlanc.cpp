@@ -11,13 +11,14 @@
 #include "tables/nyariido.h"
 #include "tables/szamtan.h"
 
-void MundanLanc(std::int32_t julianszam, std::int32_t ora, std::int32_t perc, std::int32_t mperc,
-                const TMundanHely& hely, const TOrbisTabla& OrbisTabla, TMundanLanc& lanc) {
-    const int nyariIdo = hely.nyariIdo ? *hely.nyariIdo : NyariIdoE(julianszam, ora, perc, mperc);
+void MundanHelyzetek(std::int32_t julianszam, std::int32_t ora, std::int32_t perc, std::int32_t mperc,
+                     const TMundanHely& hely, int nyariIdo, TMundanLanc& lanc) {
     const TCsillagIdo ido = CsillagIdo(julianszam, ora, perc, mperc, hely.hosszusag, nyariIdo, hely.idozona);
     Hazak(ido.armcOra, ido.armcPerc, ido.armcMperc, lanc.Hazcsucsok, hely.szelesseg);
     BolygoHelyek(ido.julianszam, ido.napresz, lanc.Bolygok, lanc.Mozgasok);
+}
 
+void MundanFenyszogek(const TOrbisTabla& OrbisTabla, TMundanLanc& lanc) {
     ElteresSzamitas(lanc.Bolygok, lanc.Munka);
     for (int i = 1; i <= 10; ++i) lanc.JegySzam[i] = egesz(lanc.Bolygok[i] / 30) + 1;
     Fenyszogek(OrbisTabla, lanc.Munka);
@@ -28,9 +29,19 @@ void MundanLanc(std::int32_t julianszam, std::int32_t ora, std::int32_t perc, st
     EgyuttallasLanc(lanc.EgyuttallasMatrix);
     lanc.AlsoFelsoMatrix = lanc.FenyszogRadix;
     AlsoFelso(lanc.Bolygok, lanc.AlsoFelsoMatrix);
+}
 
+void MundanBesorolas(TMundanLanc& lanc) {
     lanc.BolygoHazak.tolt(0);
     HazBesorolas(lanc.Bolygok, lanc.Hazcsucsok, lanc.BolygoHazak);
+}
+
+void MundanLanc(std::int32_t julianszam, std::int32_t ora, std::int32_t perc, std::int32_t mperc,
+                const TMundanHely& hely, const TOrbisTabla& OrbisTabla, TMundanLanc& lanc) {
+    const int nyariIdo = hely.nyariIdo ? *hely.nyariIdo : NyariIdoE(julianszam, ora, perc, mperc);
+    MundanHelyzetek(julianszam, ora, perc, mperc, hely, nyariIdo, lanc);
+    MundanFenyszogek(OrbisTabla, lanc);
+    MundanBesorolas(lanc);
     lanc.MundanEredmeny = MundanEllenorzes(lanc);
 }
 

@@ -38,6 +38,14 @@ struct TMundanLanc {
 void MundanLanc(std::int32_t julianszam, std::int32_t ora, std::int32_t perc, std::int32_t mperc,
                 const TMundanHely& hely, const TOrbisTabla& OrbisTabla, TMundanLanc& lanc);
 
+/// The pipeline's steps for one who runs them apart. Cusps and bodies of a moment:
+void MundanHelyzetek(std::int32_t julianszam, std::int32_t ora, std::int32_t perc, std::int32_t mperc,
+                     const TMundanHely& hely, int nyariIdo, TMundanLanc& lanc);
+/// signs and aspects, chains and sides, from the bodies alone:
+void MundanFenyszogek(const TOrbisTabla& OrbisTabla, TMundanLanc& lanc);
+/// the bodies' houses.
+void MundanBesorolas(TMundanLanc& lanc);
+
 /// Whether a square or an opposition stands in the cell and the other body lies below.
 constexpr bool kemenyFenyszog(const TMundanLanc& lanc, int i, int k) {
     const char jel = lanc.FenyszogRadix[i][k];

@@ -11,13 +11,12 @@ constexpr bool sarokHaz(int haz) {
     return haz % 3 == 1;
 }
 
-/// Boundary of a house: the cusp less 5 degrees for an angular house, less 3 for another.
+}  // namespace
+
 double hazHatar(double csucs, int haz) {
     const double engedmeny = sarokHaz(haz) ? 5 : 3;
     return csucs - engedmeny < 0 ? csucs + (360 - engedmeny) : csucs - engedmeny;
 }
-
-}  // namespace
 
 void HazBesorolas(const TBolygok& Bolygok, const THazcsucsok& Hazcsucsok, TBolygoHazak& BolygoHazak) {
     Tomb<double, 13> hatar;  // the thirteenth closes the circle

@@ -19,6 +19,9 @@ struct TUralkodok {
     Tomb<std::string, 12> DekadSzoveg;  ///< letters of the bodies in each decan house
 };
 
+/// Boundary of a house, degrees: the cusp less 5 degrees for an angular house, less 3 for another.
+double hazHatar(double csucs, int haz);
+
 /// House of each body. A body counts in a house from 5 degrees before the cusps 1, 4, 7, 10 and from 3
 /// degrees before the others on; exactly on that boundary it counts in the later house.
 /// @param[in,out] BolygoHazak  a body that fits no house keeps the number it came with; where two houses

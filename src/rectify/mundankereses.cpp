@@ -1,6 +1,7 @@
 #include "rectify/mundankereses.h"
 
 #include <cstdint>
+#include <cstdlib>
 #include <optional>
 #include <string>
 
@@ -8,6 +9,7 @@
 #include "chart/statuszsor.h"
 #include "commands/lepteto.h"
 #include "engine/fenyszogek.h"
+#include "rectify/mundankoveto.h"
 #include "tables/efemerida.h"
 #include "tables/pillanat.h"
 #include "tables/telepulesek.h"
@@ -49,37 +51,58 @@ void MundanNyitas(Allapot& allapot) {
     allapot.MundanAblakNyitva = true;
 }
 
-TMundanErtekeles MundanKereses(Allapot& allapot, const TMundanHely& hely, int irany) {
-    TKeplet& k = allapot.Keplet;
-    TPillanat p = k.pillanat;
-    std::int32_t nap = napSzama(p);
-    const auto lep = [&](int masodperc) {
+namespace {
+
+/// The moving moment of a search.
+struct TKeresoIdo {
+    TPillanat p;
+    std::int32_t nap;
+    int irany;
+
+    void lep(int masodperc) {
         nap += IdoLeptetes(p, LepesMezo::mperc, irany * masodperc);
         JulianszambolDatum(nap, p);
-    };
+    }
+    bool tablanKivul() const { return nap < elsoNap || nap > utolsoKeresettNap; }
+};
 
-    TMundanErtekeles e;
+}  // namespace
+
+TMundanErtekeles MundanKereses(Allapot& allapot, const TMundanHely& hely, int irany,
+                               const TKeresesKeret& keret) {
+    TKeplet& k = allapot.Keplet;
+    TKeresoIdo t{k.pillanat, napSzama(k.pillanat), irany};
+    const std::int32_t kezdoNap = t.nap;
+    std::int32_t jelentettNap = t.nap;
+    TMundanKoveto koveto(hely, allapot.OrbisTabla);
+    const auto verdikt = [&] { return koveto.allapot(t.nap, t.p.ora, t.p.perc, t.p.mperc); };
+
     int lepes = durvaLepes;
-    ertekeles(nap, p, hely, allapot.OrbisTabla, e);
-    const char kezdo = e.analogiak.AnalogiaAllapot;
+    const char kezdo = verdikt();
     bool vege = !allapot.KeresesVolt;
     allapot.KeresesVolt = true;
     while (!vege) {
-        lep(lepes);
-        ertekeles(nap, p, hely, allapot.OrbisTabla, e);
-        vege = nap < elsoNap || nap > utolsoKeresettNap;
-        if (vege || e.analogiak.AnalogiaAllapot == kezdo) continue;
+        t.lep(lepes);
+        const bool valtozott = verdikt() != kezdo;
+        vege = t.tablanKivul() || std::abs(t.nap - kezdoNap) > keret.legfeljebb;
+        if (!vege && t.nap != jelentettNap) {
+            jelentettNap = t.nap;
+            vege = keret.tovabb && !keret.tovabb(t.p);
+        }
+        if (vege || !valtozott) continue;
         if (lepes == 1) {
             vege = true;
         } else {
             lepes = 1;
-            lep(-visszaUgras);
+            t.lep(-visszaUgras);
         }
     }
-    k.pillanat = p;
-    k.julianszam = nap;
+    k.pillanat = t.p;
+    k.julianszam = t.nap;
     allapot.MundanFrissites = true;
     allapot.Feliratok.leptetoCim.clear();
+    TMundanErtekeles e;
+    ertekeles(t.nap, t.p, hely, allapot.OrbisTabla, e);
     return e;
 }
 

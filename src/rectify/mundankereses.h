@@ -1,5 +1,8 @@
 #pragma once
 
+#include <functional>
+#include <limits>
+
 #include "chart/allapot.h"
 #include "engine/mundanlanc.h"
 #include "rectify/analogiak.h"
@@ -22,12 +25,21 @@ TMundanErtekeles MundanErtekeles(const Allapot& allapot, const TMundanHely& hely
 /// Opening: the first house, the kept moment, the flag, the stepper's title.
 void MundanNyitas(Allapot& allapot);
 
+/// How far a search may go.
+struct TKeresesKeret {
+    int legfeljebb = std::numeric_limits<int>::max();  ///< days away from the start
+    /// Asked on each new day that the search comes to; false ends it there.
+    std::function<bool(const TPillanat&)> tovabb;
+};
+
 /// Moves the chart's moment to where the verdict changes: by 30 seconds until it does, then from the last
 /// moment before that by one second until it does again. The first search after the program's start ends
-/// where it began. A step that leaves the ephemeris ends the search too.
+/// where it began. A step that leaves the ephemeris or the search's own frame ends it too; the moment stays
+/// where that step put it.
 /// @param irany  1 forward, -1 backward
 /// @return the verdict there
-TMundanErtekeles MundanKereses(Allapot& allapot, const TMundanHely& hely, int irany);
+TMundanErtekeles MundanKereses(Allapot& allapot, const TMundanHely& hely, int irany,
+                               const TKeresesKeret& keret = {});
 
 /// Back to the moment of the opening.
 void MundanVissza(Allapot& allapot);

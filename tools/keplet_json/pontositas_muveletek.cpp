@@ -1,3 +1,5 @@
+#include <limits>
+
 #include "muveletek.h"
 #include "rectify/mundankereses.h"
 #include "rectify/pontositas.h"
@@ -36,7 +38,10 @@ TJson mundanKeresesMuvelet(const TKerelem& kerelem) {
     allapot.KeresesVolt = logikaiMezo(kerelem, "KeresesVolt");
     const std::int32_t irany = egeszMezo(kerelem, "irany", -1, 1);
     if (irany == 0) throw THiba("irany: 1 vagy -1");
-    const TMundanErtekeles e = MundanKereses(allapot, mundanHely(kerelem, allapot.Keplet), irany);
+    TKeresesKeret keret;
+    if (kerelem.contains("legfeljebb"))
+        keret.legfeljebb = egeszMezo(kerelem, "legfeljebb", 0, std::numeric_limits<std::int32_t>::max());
+    const TMundanErtekeles e = MundanKereses(allapot, mundanHely(kerelem, allapot.Keplet), irany, keret);
     return {{"pillanat", pillanatTomb(allapot.Keplet.pillanat)},
             {"AnalogiaAllapot", std::string(1, e.analogiak.AnalogiaAllapot)},
             {"KeresesVolt", allapot.KeresesVolt}};

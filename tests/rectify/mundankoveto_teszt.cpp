@@ -1,0 +1,170 @@
+// The walking verdict beside the plain one: each chart of the walk is worked out anew in the test.
+
+#include <random>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "engine/mundanlanc.h"
+#include "rectify/analogiak.h"
+#include "rectify/mundankereses.h"
+#include "rectify/mundankoveto.h"
+#include "tables/efemerida.h"
+#include "tables/pillanat.h"
+
+namespace {
+
+class TMundanKovetoTeszt : public testing::Test {
+protected:
+    int szam(int also, int felso) { return std::uniform_int_distribution<int>(also, felso)(veletlen); }
+
+    /// A place anywhere in the band, by its own or by typed summer time.
+    TMundanHely hely() {
+        TMundanHely h{szam(-12, 12), szam(42 * 3600, 60 * 3600), szam(-648000, 648000)};
+        if (szam(0, 2) == 0) h.nyariIdo = szam(0, 1);
+        return h;
+    }
+    /// Factory orbs, or ones that overlap.
+    TOrbisTabla orbisok() {
+        TOrbisTabla orbis = OrbisAlap;
+        if (szam(0, 2) == 0)
+            for (auto& sor : orbis)
+                for (double& o : sor) o = szam(0, 40) / 2.0;
+        return orbis;
+    }
+
+    std::mt19937 veletlen{20261121};
+};
+
+char sima(std::int64_t t, const TMundanHely& hely, const TOrbisTabla& orbis) {
+    static TMundanLanc lanc;
+    const auto m = static_cast<int>(t % 86400);
+    MundanLanc(static_cast<int>(t / 86400), m / 3600, m / 60 % 60, m % 60, hely, orbis, lanc);
+    return Analogiak(lanc).AnalogiaAllapot;
+}
+
+char koveto(TMundanKoveto& k, std::int64_t t) {
+    const auto m = static_cast<int>(t % 86400);
+    return k.allapot(static_cast<int>(t / 86400), m / 3600, m / 60 % 60, m % 60);
+}
+
+TEST_F(TMundanKovetoTeszt, MindenLepesenASimaItelet) {
+    constexpr int lepesek[]{30, 30, 30, 30, 1, -1, -30, -31, 86400, -7200, 0};
+    for (int seta = 0; seta < 150; ++seta) {
+        const TMundanHely h = hely();
+        const TOrbisTabla orbis = orbisok();
+        TMundanKoveto k(h, orbis);
+        const int ut = lepesek[szam(0, 7)];
+        std::int64_t t = std::int64_t{szam(elsoNap + 3, utolsoNap - 4)} * 86400 + szam(0, 86399);
+        for (int lepes = 0; lepes < 2500; ++lepes) {
+            ASSERT_EQ(koveto(k, t), sima(t, h, orbis)) << seta << ' ' << t;
+            t += szam(0, 40) == 0 ? lepesek[szam(0, 10)] : ut;
+        }
+    }
+}
+
+TEST_F(TMundanKovetoTeszt, ANyariIdoHatarainIs) {
+    const TMundanHely szeged{1, 166500, 72540};
+    TMundanKoveto k(szeged, OrbisAlap);
+    for (const TPillanat nap :
+         {TPillanat{1916, 4, 30, 0, 0, 0}, TPillanat{2000, 3, 26, 0, 0, 0}, TPillanat{2000, 10, 29, 0, 0, 0}})
+        for (int s = 0; s < 86400; s += 30) {
+            const std::int64_t t = std::int64_t{napSzama(nap)} * 86400 + s;
+            ASSERT_EQ(koveto(k, t), sima(t, szeged, OrbisAlap)) << t;
+        }
+}
+
+/// The search's rule read plainly, each moment by a chart of its own.
+struct TSimaKereses {
+    const TMundanHely& hely;
+    const TOrbisTabla& orbis;
+
+    std::int64_t operator()(std::int64_t t, int irany) const {
+        const char kezdo = sima(t, hely, orbis);
+        const auto kivul = [](std::int64_t hol) {
+            return hol / 86400 < elsoNap || hol / 86400 > utolsoNap - 1;
+        };
+        do t += 30 * irany;
+        while (!kivul(t) && sima(t, hely, orbis) == kezdo);
+        if (kivul(t)) return t;
+        t -= 30 * irany;
+        do t += irany;
+        while (!kivul(t) && sima(t, hely, orbis) == kezdo);
+        return t;
+    }
+};
+
+TEST_F(TMundanKovetoTeszt, KetezerKeresesUgyanottAllMeg) {
+    int tablaVegen = 0;
+    for (int n = 0; n < 2000; ++n) {
+        const TMundanHely h = hely();
+        Allapot a;
+        a.OrbisTabla = orbisok();
+        a.KeresesVolt = true;
+        const int irany = n % 2 == 0 ? 1 : -1;
+        // One in twenty begins a day before the end that it walks to.
+        const int szel = irany > 0 ? utolsoNap - 1 : elsoNap;
+        const int nap = n % 20 < 2 ? szel - irany * szam(0, 1) : szam(elsoNap + 400, utolsoNap - 400);
+        const std::int64_t t = std::int64_t{nap} * 86400 + szam(0, 86399);
+        JulianszambolDatum(nap, a.Keplet.pillanat);
+        a.Keplet.pillanat.ora = static_cast<int>(t % 86400 / 3600);
+        a.Keplet.pillanat.perc = static_cast<int>(t % 3600 / 60);
+        a.Keplet.pillanat.mperc = static_cast<int>(t % 60);
+        if (napSzama(a.Keplet.pillanat) != nap) continue;  // a date of 2079 is read as one of 2078
+        const TMundanErtekeles e = MundanKereses(a, h, irany);
+        const std::int64_t vege = TSimaKereses{h, a.OrbisTabla}(t, irany);
+        const TPillanat& p = a.Keplet.pillanat;
+        ASSERT_EQ(std::int64_t{a.Keplet.julianszam} * 86400 + p.ora * 3600 + p.perc * 60 + p.mperc, vege)
+            << n;
+        ASSERT_EQ(e.analogiak.AnalogiaAllapot, sima(vege, h, a.OrbisTabla));
+        tablaVegen += vege / 86400 < elsoNap || vege / 86400 >= utolsoNap;
+    }
+    EXPECT_GT(tablaVegen, 5);
+}
+
+/// The first day from 2000 on at whose noon the verdict stands for four days.
+int alloNap(const TMundanHely& hely) {
+    for (int nap = napSzama({2000, 1, 1, 0, 0, 0});; ++nap) {
+        const std::int64_t kezdet = std::int64_t{nap} * 86400 + 43200;
+        const char kezdo = sima(kezdet, hely, OrbisAlap);
+        std::int64_t t = kezdet;
+        while (t < kezdet + 4 * 86400 && sima(t, hely, OrbisAlap) == kezdo) t += 30;
+        if (t >= kezdet + 4 * 86400) return nap;
+    }
+}
+
+class TKeret : public TMundanKovetoTeszt {
+protected:
+    TKeret() {
+        a.KeresesVolt = true;
+        JulianszambolDatum(nap, a.Keplet.pillanat);
+        a.Keplet.pillanat.ora = 12;
+    }
+    const TMundanHely szeged{1, 166500, 72540};
+    const int nap = alloNap(szeged);
+    Allapot a;
+    TKeresesKeret keret;
+};
+
+TEST_F(TKeret, AFigyeloMindenUjNaponMegallithatja) {
+    std::vector<TPillanat> napok;
+    keret.tovabb = [&](const TPillanat& p) {
+        napok.push_back(p);
+        return napok.size() < 3;
+    };
+    MundanKereses(a, szeged, 1, keret);
+    EXPECT_EQ(napok.size(), 3U);
+    EXPECT_EQ(a.Keplet.julianszam, nap + 3);
+    EXPECT_EQ(a.Keplet.pillanat, napok.back());
+    EXPECT_EQ(a.Keplet.pillanat.ora, 0);
+    EXPECT_TRUE(a.MundanFrissites);
+}
+
+TEST_F(TKeret, LegfeljebbEnnyiNapig) {
+    keret.legfeljebb = 2;
+    MundanKereses(a, szeged, 1, keret);
+    EXPECT_EQ(a.Keplet.julianszam, nap + 3);  // the step that left the frame stands
+    EXPECT_EQ(a.Keplet.pillanat.ora, 0);
+}
+
+}  // namespace

@@ -1,9 +1,12 @@
 // The main window's menu.
 
 #include <array>
+#include <utility>
 
 #include <QMenuBar>
+#include <QShortcut>
 
+#include "predictive/visszateresek.h"
 #include "windows/tform1_foablak.h"
 
 namespace {
@@ -81,4 +84,9 @@ void TForm1::menuEpites() {
             if (kezelo == &TForm1::Kilepes1Click || JelszoKeres()) (this->*kezelo)();
         });
     }
+    // The derived chart steps through its list; no menu item tells of it.
+    for (const auto& [billentyu, lepes] : {std::pair(Qt::Key_PageDown, 1), std::pair(Qt::Key_PageUp, -1)})
+        connect(new QShortcut(billentyu, this), &QShortcut::activated, this, [this, lepes = lepes] {
+            if (allapot_.VisszaMod && JelszoKeres()) VisszateresSzomszed(allapot_, *this, lepes);
+        });
 }

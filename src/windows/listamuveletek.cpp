@@ -98,7 +98,7 @@ bool TListaMuveletek::eventFilter(QObject* targy, QEvent* esemeny) {
         for (QAction* uj : std::as_const(muveletek_)) uj->setEnabled(vanSor);
     }
     // A text field takes its copy key before any shortcut, and would copy the letters.
-    if (esemeny->type() == QEvent::KeyPress && qobject_cast<QPlainTextEdit*>(targy) != nullptr &&
+    if (esemeny->type() == QEvent::KeyPress && targy == &lista_ && !muveletek_[0]->shortcut().isEmpty() &&
         static_cast<QKeyEvent*>(esemeny)->matches(QKeySequence::Copy)) {
         masolas();
         return true;

@@ -197,8 +197,11 @@ void TForm13::megmutat(int leptetoMagassag) {
 }
 
 void TForm13::futtat() {
-    const QSignalBlocker blokk(spinEdit1_);
-    spinEdit1_->setValue(allapot_.PontositasHatotav);
+    // The same value would still write its text anew, under the user's typing too.
+    if (spinEdit1_->value() != allapot_.PontositasHatotav) {
+        const QSignalBlocker blokk(spinEdit1_);
+        spinEdit1_->setValue(allapot_.PontositasHatotav);
+    }
     const TPontositas lista = PontositasFutas(allapot_);
     memoSorok({{memo1_, lista.Memo1}, {memo2_, lista.Memo2}, {memo3_, lista.Memo3}});
     elrendezes();

@@ -1,8 +1,6 @@
 #include "windows/memosorok.h"
 
-#include <QAbstractTextDocumentLayout>
 #include <QScrollBar>
-#include <QTextBlock>
 
 #include "windows/qszoveg.h"
 
@@ -12,12 +10,6 @@ struct TGorgetes {
     QScrollBar* sav;
     int ertek;
 };
-
-/// The list measures its lines as it comes to show them; measured all at once, the bars know their range.
-void kimeres(const QTextDocument& lap) {
-    for (QTextBlock sor = lap.begin(); sor.isValid(); sor = sor.next())
-        lap.documentLayout()->blockBoundingRect(sor);
-}
 
 }  // namespace
 
@@ -30,9 +22,7 @@ void memoSorok(const QList<std::pair<QPlainTextEdit*, std::vector<std::string>>>
         QStringList lista;
         for (const std::string& sor : sorok) lista << qszoveg(sor);
         const QString uj = lista.join('\n');
-        if (memo->toPlainText() == uj) continue;
-        memo->setPlainText(uj);
-        kimeres(*memo->document());
+        if (memo->toPlainText() != uj) memo->setPlainText(uj);
     }
     for (const TGorgetes& gorgetes : gorgetesek) gorgetes.sav->setValue(gorgetes.ertek);
 }

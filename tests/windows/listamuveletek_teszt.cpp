@@ -161,10 +161,11 @@ private slots:
 
     void aVisszateresekListaja() {
         TFrissAblakok a;
+        TKimenet ki(a);
         a.oraIndul();
         szuletes(a);
         for (int kor = 0; kor < 2; ++kor) {
-            valasz([](QWidget& d) {
+            valasz([&ki](QWidget& d) {
                 auto* lista = vezerlo<QListWidget>(d, "ListBox1");
                 const auto kattintas = [&](int sor, Qt::KeyboardModifiers mod) {
                     QTest::mouseClick(lista->viewport(), Qt::LeftButton, mod,
@@ -183,6 +184,17 @@ private slots:
                 });
                 QCOMPARE(vagolap().split('\n').size(), lista->count());
                 QVERIFY(vagolap().startsWith("1975.07.21. 05:04:09 GMT\n1976."));
+                // Picked one by one, they come in the list's order.
+                kattintas(6, {});
+                kattintas(2, Qt::ControlModifier);
+                kattintas(4, Qt::ControlModifier);
+                QTest::keyClick(lista, Qt::Key_C, Qt::ControlModifier);
+                QCOMPARE(vagolap().split('\n'), QStringList({lista->item(2)->text(), lista->item(4)->text(),
+                                                             lista->item(6)->text()}));
+                // The list is the birth's, also over a derived chart.
+                ki.ide("szolar.txt");
+                helyiMenuPont(*lista->viewport(), "Mentés szövegként…");
+                QCOMPARE(ki.p.kerdesek.value(1), "Szolár – Minta Anna, 1975.07.21. 06-04-09.txt");
                 // One row is taken, whatever is selected.
                 kattintas(3, {});
                 kattintas(5, Qt::ShiftModifier);

@@ -294,12 +294,16 @@ private slots:
         esemenyesKeplet(a);
         pontositas(a);
         QCOMPARE(szoveg(a.form13, "Memo1").count('\n'), 2);
+        a.form13.resize(1400, 430);
         for (int kor = 0; kor < 2; ++kor) {
-            valasz([](QWidget& d) {
-                esemenyGepelese(d, "Innen", "3", "2001");
+            valasz([kor](QWidget& d) {
+                esemenyGepelese(d, kor == 0 ? "Innen" : "Innen egy még hosszabb szöveggel, mint a többi", "3",
+                                "2001");
                 kattint(d, "Button_Rendben2");
             });
             kattint(a.form13, "Button_Eletesemenyek1");
+            QApplication::processEvents();
+            QVERIFY(vagatlan(a.form13, "Memo1"));
             QCOMPARE(szoveg(a.form13, "Memo1").count("Innen"), 2 * kor + 1);
             QCOMPARE(szoveg(a.form13, "Memo3").count('\n'), 3 + 2 * kor);
             valasz([&](QWidget& d) {

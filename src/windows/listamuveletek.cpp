@@ -17,6 +17,7 @@
 
 #include "files/fajlmuvelet.h"
 #include "files/fajlnev.h"
+#include "predictive/olvashato.h"
 #include "tables/szotar.h"
 #include "windows/parbeszed.h"
 #include "windows/qszoveg.h"
@@ -64,6 +65,10 @@ TParbeszed& parbeszed(const QWidget& lista) {
 }
 
 }  // namespace
+
+QString listaCim(const QString& lista, const Allapot& allapot, const TPillanat& pillanat) {
+    return qszoveg(ListaCim(szoveg(lista), allapot.Szemely.nev, pillanat));
+}
 
 TListaMuveletek::TListaMuveletek(QWidget& lista, TForras forras, const QString& almenu)
     : QObject(&lista), lista_(lista), forras_(std::move(forras)) {

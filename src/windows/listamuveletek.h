@@ -9,11 +9,17 @@
 #include <QStringList>
 #include <QWidget>
 
+#include "chart/allapot.h"
+#include "tables/pillanat.h"
+
 /// What a list gives away as text.
 struct TListaSzoveg {
     QString cim;        ///< heading on paper and in a file; a file's proposed name comes of it
     QStringList sorok;  ///< one for each line of the list, readable without the symbol font
 };
+
+/// Heading of a list: what it is, the chart's person, the moment that the list belongs to.
+QString listaCim(const QString& lista, const Allapot& allapot, const TPillanat& pillanat);
 
 /// The context menu that every list of the program has: copy, save and print as readable text; and Ctrl+C. A
 /// copy is of the selected lines, or of all where nothing is selected or nothing can be; file and paper get

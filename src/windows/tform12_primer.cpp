@@ -100,7 +100,7 @@ void TForm12::futtat() {
 }
 
 TListaSzoveg TForm12::lista() const {
-    return {qszoveg(ListaCim(szoveg(windowTitle()), allapot_.Szemely.nev, allapot_.Keplet.pillanat)),
+    return {listaCim(windowTitle(), allapot_, allapot_.Keplet.pillanat),
             memoSorai(*memo1_, [](int, std::string_view sor) { return OlvashatoPrimer(sor); })};
 }
 

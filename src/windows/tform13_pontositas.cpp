@@ -108,8 +108,7 @@ void TForm13::listaMuvelet(QPlainTextEdit& memo, const char* cim,
                            std::string (*olvashato)(int szam, std::string_view sor)) {
     new TListaMuveletek(memo, [this, &memo, cim, olvashato] {
         const QString lista = windowTitle() + " 0," + spinEdit1_->text() + "°, " + cim;
-        return TListaSzoveg{qszoveg(ListaCim(szoveg(lista), allapot_.Szemely.nev, allapot_.Keplet.pillanat)),
-                            memoSorai(memo, olvashato)};
+        return TListaSzoveg{listaCim(lista, allapot_, allapot_.Keplet.pillanat), memoSorai(memo, olvashato)};
     });
 }
 

@@ -6,7 +6,6 @@
 #include <QSignalBlocker>
 
 #include "chart/allapot.h"
-#include "predictive/olvashato.h"
 #include "predictive/visszateresek.h"
 #include "tables/fokperc.h"
 #include "tables/pillanat.h"
@@ -15,6 +14,7 @@
 #include "windows/ablakelhelyezes.h"
 #include "windows/helysegmezo.h"
 #include "windows/idovalaszto.h"
+#include "windows/listamuveletek.h"
 #include "windows/qszoveg.h"
 #include "windows/vezerlok.h"
 
@@ -32,8 +32,6 @@ TForm14::TForm14(Allapot& allapot, FoAblak&, QWidget* fo)
     datumBekero1_->setObjectName("Datum_bekero1");
     listBox1_->setObjectName("ListBox1");
     listBox1_->setMinimumSize(220, 280);
-    listBox1_->setSelectionMode(QAbstractItemView::ExtendedSelection);  // to copy; one row is taken
-    new TListaMuveletek(*listBox1_, [this] { return lista(); });
 
     auto* egesz = new QGridLayout(this);
     egesz->addWidget(label1_, 0, 0);
@@ -42,6 +40,13 @@ TForm14::TForm14(Allapot& allapot, FoAblak&, QWidget* fo)
     connect(this, &QDialog::rejected, this, [this] { allapot_.Megsem14 = true; });
     connect(listBox1_, &QListWidget::currentRowChanged, this, &TForm14::ListBox1Click);
     connect(helyseg_, &QComboBox::editTextChanged, this, &TForm14::ComboBoxHelyseg1Change);
+
+    listBox1_->setSelectionMode(QAbstractItemView::ExtendedSelection);  // to copy; one row is taken
+    new TListaMuveletek(*listBox1_, [this] {
+        QStringList sorok;
+        for (int i = 0; i < listBox1_->count(); ++i) sorok << listBox1_->item(i)->text();
+        return TListaSzoveg{listaCim(windowTitle(), allapot_, allapot_.RadixPillanat), sorok};
+    });
 }
 
 QGridLayout* TForm14::mezok() {
@@ -100,12 +105,6 @@ void TForm14::kitoltes(const TVisszateresFajta& fajta, const TPillanat& kezdo) {
         edit_[i]->setText(QString::number(datum[i]));
     }
     koordinatak(allapot_.Keplet.hosszusag, allapot_.Keplet.szelesseg);
-}
-
-TListaSzoveg TForm14::lista() const {
-    QStringList sorok;
-    for (int i = 0; i < listBox1_->count(); ++i) sorok << listBox1_->item(i)->text();
-    return {qszoveg(ListaCim(szoveg(windowTitle()), allapot_.Szemely.nev, allapot_.RadixPillanat)), sorok};
 }
 
 void TForm14::megmutat(const std::vector<std::string>& sorok) {

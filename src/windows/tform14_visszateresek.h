@@ -13,7 +13,6 @@
 #include <QSpinBox>
 
 #include "predictive/visszateresek.h"
-#include "windows/listamuveletek.h"
 
 /// List of returns or Sun transits. Only the list's row and the place are read; the rest is display.
 class TForm14 : public QDialog {
@@ -39,7 +38,6 @@ private slots:
 
 private:
     QGridLayout* mezok();
-    TListaSzoveg lista() const;
     void koordinataMezok(QGridLayout& racs);
     void koordinatak(std::int32_t hosszusag, std::int32_t szelesseg);
 

@@ -96,7 +96,7 @@ void TForm3::elrendezes(int szovegMagassag) {
 }
 
 TListaSzoveg TForm3::lista() const {
-    return {qszoveg(ListaCim(szoveg(windowTitle()), allapot_.Szemely.nev, allapot_.SzuletesiPillanat)),
+    return {listaCim(windowTitle(), allapot_, allapot_.SzuletesiPillanat),
             {qszoveg(OlvashatoDatumos(datum(), szoveg(direkcio2_->text()), allapot_.TercierAblak))}};
 }
 

@@ -4,7 +4,6 @@
 
 #include "chart/allapot.h"
 #include "chart/foablak.h"
-#include "predictive/olvashato.h"
 #include "rectify/analogiaszoveg.h"
 #include "rectify/mundankereses.h"
 #include "tables/szotar.h"
@@ -64,7 +63,7 @@ TListaSzoveg TForm8::lista(bool mindenHaz) const {
     for (const std::string& sor :
          mindenHaz ? MindenAnalogiaOlvashato(e) : AnalogiaOlvashato(e, allapot_.AktivHaz))
         sorok << qszoveg(sor);
-    return {qszoveg(ListaCim(szoveg(windowTitle()), allapot_.Szemely.nev, allapot_.Keplet.pillanat)), sorok};
+    return {listaCim(windowTitle(), allapot_, allapot_.Keplet.pillanat), sorok};
 }
 
 void TForm8::allandoVezerlok() {

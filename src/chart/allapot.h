@@ -96,6 +96,16 @@ struct TVisszateresek {
     int szamlalo = 0;
 };
 
+/// The derived chart last made, with the list that it was chosen from: what a step to the list's next or
+/// former row needs, also when a later search has filled the table anew and was cancelled.
+struct TVisszateresKep {
+    TCim cim;  ///< of the kind
+    TVisszateresek lista;
+    int sor = 1;          ///< from 1
+    std::string helyseg;  ///< that the chart is cast for
+    TPillanat szuletes;   ///< the birth that the list belongs to
+};
+
 /// A row of the table from which the bodies are placed on a wheel.
 struct TRendezettSor {
     double rendHossz = 0;   ///< longitude after spreading, degrees; may fall a little below 0
@@ -178,6 +188,7 @@ struct Allapot {
 
     TEsemenyTar Esemenyek;
     TVisszateresek Visszateresek;
+    TVisszateresKep VisszateresKep;
     TOrbisTabla OrbisTabla = OrbisAlap;
 
     // Kept tables of the chart on screen and the aspect routines' work tables.

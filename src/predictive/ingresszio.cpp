@@ -18,7 +18,9 @@ double evSzoge(int napok) {
     return g > 180 ? 360 - g : g;
 }
 
-std::string parok(const TSzogMatrix& Elteresek, double szog) {
+}  // namespace
+
+std::string IngresszioParok(const TSzogMatrix& Elteresek, double szog) {
     const auto also = static_cast<double>(szog - IngresszioTures);
     const auto felso = static_cast<double>(IngresszioTures + szog);
     std::string ki;
@@ -28,8 +30,6 @@ std::string parok(const TSzogMatrix& Elteresek, double szog) {
                 ki += {' ', bolygoJel[i], 'M', bolygoJel[j]};
     return ki;
 }
-
-}  // namespace
 
 std::string IngresszioKeres(Allapot& allapot, const TPillanat& szuletes, const TPillanat& esemeny,
                             const std::string& helyseg) {
@@ -43,5 +43,5 @@ std::string IngresszioKeres(Allapot& allapot, const TPillanat& szuletes, const T
     TMozgasok mozgasok;
     BolygoHelyek(solarNap, solar.napresz, solarBolygok, mozgasok);
     ElteresSzamitas(solarBolygok, allapot.Munka);
-    return parok(allapot.Munka.Elteresek, evSzoge(esemenyNap - solarNap));
+    return IngresszioParok(allapot.Munka.Elteresek, evSzoge(esemenyNap - solarNap));
 }

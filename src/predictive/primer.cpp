@@ -85,7 +85,6 @@ int SolarHaz(const TBolygok& bolygok, std::int32_t julianszam, std::int32_t hoss
 namespace {
 
 constexpr int futasNapjai = 3661;
-constexpr std::size_t legtobbSor = 22;
 
 /// Points of one column that lie in the window, as letter pairs.
 std::string oszlopSzoveg(const TFenyszogPontok& pontok, const TOrbisAblak& hatar) {
@@ -124,7 +123,7 @@ std::vector<std::string> PrimerFutas(const Allapot& allapot, const TPillanat& ke
             if (szoveg.empty() || szoveg == utolso[oszlop]) continue;
             sorok.push_back(sorSzoveg(k, k.julianszam + d, oszlop, szoveg));
             utolso[oszlop] = std::move(szoveg);
-            if (sorok.size() == legtobbSor) return sorok;
+            if (sorok.size() == primerLegtobbSor) return sorok;
         }
     }
     return sorok;

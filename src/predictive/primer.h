@@ -62,5 +62,9 @@ int SolarHaz(const TBolygok& bolygok, std::int32_t julianszam, std::int32_t hoss
 /// Blanks before each column's text in a line of the list.
 inline constexpr std::array<std::size_t, iranyOszlopok> PrimerOszlopKoz{5, 20, 32, 46};
 
-/// The list from a start date on: ten years, at most 22 lines.
+/// Lines of a list at most; a list of so many may have been cut.
+inline constexpr std::size_t primerLegtobbSor = 22;
+
+/// The list from a start date on: ten years, but no day, and no column of a day, behind the last line that it
+/// may have.
 std::vector<std::string> PrimerFutas(const Allapot& allapot, const TPillanat& kezdo);

@@ -13,18 +13,16 @@
 #include "tables/szotar.h"
 #include "tables/tomb.h"
 
+bool TercierTalalat(double d, const TOrbisAblak& a) {
+    if (a.also >= a.felso) return (a.also <= d && d < 360) || (0 <= d && d <= a.felso);
+    return a.also <= d && d <= a.felso;
+}
+
 namespace {
 
 /// The opposite house of each.
 constexpr Tomb<std::string_view, 12> TercierHazSzemben{
     {"VII", "8", "9", "X", "11", "12", "I", "2", "3", "IV", "5", "6"}};
-
-/// Both ends count, also where the window spans 0: the tertiary search includes the lower end there, while
-/// `PontTalalat` of the primary directions leaves it out.
-bool benne(const TOrbisAblak& a, double d) {
-    if (a.also >= a.felso) return (a.also <= d && d < 360) || (0 <= d && d <= a.felso);
-    return a.also <= d && d <= a.felso;
-}
 
 /// The directed place: 360 is added once where the arc leads below 0; more is not reduced.
 double iranyitott(double hossz, double iv) {
@@ -51,11 +49,11 @@ TTalalatok talalatok(const TKeplet& k, double orb, double iv, int j) {
     for (int i = 1; i <= 10; ++i) {
         if (i == j) continue;
         const double szemben = lon[i] + 180 >= 360 ? lon[i] - 180 : lon[i] + 180;
-        if (benne(OrbisAblak(lon[i], orb), d)) {
+        if (TercierTalalat(d, OrbisAblak(lon[i], orb))) {
             t.jelek += 'M' + jegyesBolygo(lon, i);
             t.hazak.append("-").append(hazCimke(HazCimkeRovid, k.BolygoHazak[i]));
         }
-        if (benne(OrbisAblak(szemben, orb), d)) {
+        if (TercierTalalat(d, OrbisAblak(szemben, orb))) {
             t.jelek += 'W' + jegyesBolygo(lon, i);
             t.hazak.append("-").append(hazCimke(TercierHazSzemben, k.BolygoHazak[i]));
         }

@@ -3,10 +3,16 @@
 #include <string>
 
 #include "chart/allapot.h"
+#include "predictive/orbisablak.h"
 #include "tables/pillanat.h"
 
 /// Degrees that the bodies are turned back for each day of life.
 inline constexpr long double TercierKulcs = 0.013888706365503L;
+
+/// Whether a directed place lies in the window, both ends included. A window that spans 0 includes its lower
+/// end too, while `PontTalalat` of the primary directions leaves it out; what lies outside the circle meets
+/// no such window.
+bool TercierTalalat(double d, const TOrbisAblak& ablak);
 
 struct TTercier {
     std::string TercierSzoveg;     ///< the hits in letters of the symbol font, bodies joined by 'Q'

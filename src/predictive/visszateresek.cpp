@@ -125,22 +125,21 @@ void zonaIdo(TKeplet& k, const TPillanat& gmt) {
     JulianszambolDatum(k.julianszam, k.pillanat);
 }
 
-}  // namespace
-
-void VisszateresKeplet(Allapot& allapot, FoAblak& ablak, const TVisszateresFajta& fajta, int sor,
-                       const std::string& helyseg) {
+/// Casts the chart of `VisszateresKep` and shows it.
+void kepzettKeplet(Allapot& allapot, FoAblak& ablak) {
+    const TVisszateresKep& kep = allapot.VisszateresKep;
     TKeplet& k = allapot.Keplet;
     TFeliratok& f = allapot.Feliratok;
     f.mostGomb = "Vissza";
-    f.statusz[panelTipus] = fajta.cim.rovid;
+    f.statusz[panelTipus] = kep.cim.rovid;
     allapot.KepletTipus = TKepletTipus::radix;
     if (!allapot.VisszaMod) allapot.helysegMentett = k.helyseg;
-    k.helyseg = helyseg;
+    k.helyseg = kep.helyseg;
     allapot.VisszaMod = true;
 
     k.nyariIdo = 0;
     TelepulesKeres(k.helyseg, k.idozona, k.szelesseg, k.hosszusagJel, k.szelessegJel, k.hosszusag);
-    zonaIdo(k, allapot.Visszateresek.sorok[sor].pillanat);
+    zonaIdo(k, kep.lista.sorok[kep.sor].pillanat);
 
     CsillagIdo(k.pillanat.ora, k.pillanat.perc, k.pillanat.mperc, k.napresz, k.julianszam,
                alsoBitek(std::int64_t{k.hosszusag} + egyIvperc), k.armcMperc, k.armcPerc, k.armcOra,
@@ -155,4 +154,21 @@ void VisszateresKeplet(Allapot& allapot, FoAblak& ablak, const TVisszateresFajta
     k.mozgas = k.Mozgasok;
     FenyszogCiklus(allapot);
     KepletMutatas(allapot, ablak);
+}
+
+}  // namespace
+
+void VisszateresKeplet(Allapot& allapot, FoAblak& ablak, const TVisszateresFajta& fajta, int sor,
+                       const std::string& helyseg) {
+    allapot.VisszateresKep = {fajta.cim, allapot.Visszateresek, sor, helyseg, allapot.SzuletesiPillanat};
+    kepzettKeplet(allapot, ablak);
+}
+
+void VisszateresSzomszed(Allapot& allapot, FoAblak& ablak, int lepes) {
+    TVisszateresKep& kep = allapot.VisszateresKep;
+    const int sor = kep.sor + lepes;
+    if (!allapot.VisszaMod || sor < 1 || sor > kep.lista.szamlalo) return;
+    if (kep.szuletes != allapot.SzuletesiPillanat) return;
+    kep.sor = sor;
+    kepzettKeplet(allapot, ablak);
 }

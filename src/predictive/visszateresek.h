@@ -53,3 +53,9 @@ std::vector<std::string> VisszateresSorok(const Allapot& allapot, const TVisszat
 /// @param sor  from 1; with an empty list row 1 of the table as the last search left it
 void VisszateresKeplet(Allapot& allapot, FoAblak& ablak, const TVisszateresFajta& fajta, int sor,
                        const std::string& helyseg);
+
+/// Makes a neighbour of the derived chart's row the chart on screen: the same kind, the same place. Nothing
+/// happens beyond the ends of its list, where no derived chart is shown, or where another birth has been
+/// entered or opened since.
+/// @param lepes  1 the next row, -1 the one before
+void VisszateresSzomszed(Allapot& allapot, FoAblak& ablak, int lepes);

@@ -17,7 +17,9 @@ TSzuletes szuletes(const TForm2& form2) {
 TAblakok::TAblakok() {
     form1.ablakokBeallitasa(this);
     form5.parbeszedBeallitasa(form1.parbeszed());
-    form2.eletesemenyek =
-        form13.eletesemenyek = [this] { form10.megmutat([this] { return szuletes(form2); }); };
+    form2.eletesemenyek = form13.eletesemenyek = [this] {
+        form10.megmutat([this] { return szuletes(form2); });
+        if (form13.isVisible()) form13.futtat();
+    };
     form12.pontositas = [this] { form13.megmutat(form7.height()); };
 }

@@ -3,9 +3,11 @@
 #include <QPushButton>
 
 #include "chart/allapot.h"
+#include "predictive/olvashato.h"
 #include "predictive/primer.h"
 #include "tables/szotar.h"
 #include "windows/ablakelhelyezes.h"
+#include "windows/memosorok.h"
 #include "windows/qszoveg.h"
 #include "windows/qtvaszon.h"
 #include "windows/vezerlok.h"
@@ -16,6 +18,8 @@ constexpr QSize ablakMeret{560, 470};
 constexpr int alsoTav = 18;  ///< pixels above the main window's bottom
 constexpr int memoBal = 8;
 constexpr int fejTetej = 48;
+constexpr int memoTetej = fejTetej + 20;
+constexpr int memoAlja = memoTetej + 360;
 
 }  // namespace
 
@@ -23,7 +27,9 @@ TForm12::TForm12(Allapot& allapot, FoAblak&, QWidget* fo)
     : QDialog(fo, Qt::Dialog | Qt::WindowStaysOnTopHint),
       allapot_(allapot),
       fo_(fo),
-      memo1_(new QPlainTextEdit(this)) {
+      memo1_(new QPlainTextEdit(this)),
+      vege_(ujCimke(this, QStringLiteral("Legfeljebb %1 sor; a lista itt véget ér.").arg(primerLegtobbSor),
+                    {memoBal, memoAlja + 4})) {
     setObjectName("TForm12");
     setWindowTitle("Primer direkció");
     setFixedSize(ablakMeret);
@@ -55,7 +61,10 @@ TForm12::TForm12(Allapot& allapot, FoAblak&, QWidget* fo)
     memo1_->setObjectName("Memo1");
     memo1_->setReadOnly(true);
     memo1_->setLineWrapMode(QPlainTextEdit::NoWrap);
-    memo1_->setGeometry(memoBal, fejTetej + 20, ablakMeret.width() - 2 * memoBal, 360);
+    memo1_->setGeometry(memoBal, memoTetej, ablakMeret.width() - 2 * memoBal, memoAlja - memoTetej);
+    new TListaMuveletek(*memo1_, [this] { return lista(); });
+    vege_->setObjectName("LabelVege1");
+    vege_->hide();
 }
 
 /// Symbol font in the list, and each head over its column: the columns are indented by that font's blanks.
@@ -77,6 +86,7 @@ void TForm12::megmutat(int kezdoEv) {
     ho_->setValue(1);
     nap_->setValue(1);
     memo1_->clear();
+    vege_->hide();
     betukEsFejek();
     jobbraLent(*this, *fo_, alsoTav);
     show();
@@ -84,10 +94,14 @@ void TForm12::megmutat(int kezdoEv) {
 }
 
 void TForm12::futtat() {
-    QStringList sorok;
-    for (const std::string& sor : PrimerFutas(allapot_, {ev_->value(), ho_->value(), nap_->value(), 0, 0, 0}))
-        sorok << qszoveg(sor);
-    memo1_->setPlainText(sorok.join('\n'));
+    const auto sorok = PrimerFutas(allapot_, {ev_->value(), ho_->value(), nap_->value(), 0, 0, 0});
+    memoSorok({{memo1_, sorok}});
+    vege_->setVisible(sorok.size() == primerLegtobbSor);
+}
+
+TListaSzoveg TForm12::lista() const {
+    return {listaCim(windowTitle(), allapot_, allapot_.Keplet.pillanat),
+            memoSorai(*memo1_, [](int, std::string_view sor) { return OlvashatoPrimer(sor); })};
 }
 
 void TForm12::Button_Rendben1Click() {

@@ -10,6 +10,7 @@
 
 #include "chart/allapot.h"
 #include "chart/foablak.h"
+#include "windows/listamuveletek.h"
 
 /// List of primary directions. It stays open beside the main window and follows the chart while `PrimerFut`
 /// is set.
@@ -33,6 +34,7 @@ private slots:
 
 private:
     void betukEsFejek();
+    TListaSzoveg lista() const;
 
     Allapot& allapot_;
     QWidget* fo_;
@@ -42,4 +44,5 @@ private:
     QLabel* label8_;
     std::array<QLabel*, 4> fejek_{};
     QPlainTextEdit* memo1_;
+    QLabel* vege_;  ///< tells that the list may have been cut
 };

@@ -1,19 +1,21 @@
 #include "windows/tform13_pontositas.h"
 
 #include <algorithm>
-#include <array>
+#include <cmath>
 
 #include <QAbstractTextDocumentLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTextBlock>
 
 #include "chart/allapot.h"
+#include "predictive/olvashato.h"
 #include "rectify/pontositas.h"
 #include "tables/szotar.h"
+#include "tables/szoveg.h"
 #include "windows/ablakelhelyezes.h"
+#include "windows/memosorok.h"
 #include "windows/qszoveg.h"
 #include "windows/qtvaszon.h"
 #include "windows/vezerlok.h"
@@ -27,15 +29,19 @@ constexpr int leptetoTav = 30;      ///< pixels under the stepper
 constexpr int memokTeteje = 62;
 constexpr int memokAlja = 46;  ///< left for the buttons
 constexpr int szel = 8;
-constexpr int memo1Szelesseg = 132;
-constexpr int memo2Bal = szel + memo1Szelesseg + 4;
-constexpr int memo2Szelesseg = elsoSzelesseg - szel - memo2Bal;
+constexpr int koz = 4;  ///< between the first two lists
+constexpr int memo1Legkisebb = 132;
+constexpr int memo2Szelesseg = elsoSzelesseg - 2 * szel - memo1Legkisebb - koz;
+constexpr int memo3Legkisebb = 170;
 
-QString sorokbol(const std::vector<std::string>& sorok) {
-    QStringList lista;
-    for (const std::string& sor : sorok) lista << qszoveg(sor);
-    return lista.join('\n');
-}
+/// The reach in hundredths, as it reads behind the "0," of its caption.
+class THatotavMezo : public QSpinBox {
+public:
+    using QSpinBox::QSpinBox;
+
+private:
+    QString textFromValue(int ertek) const override { return qszoveg(ketJegy(ertek)); }
+};
 
 /// Height of a line as the list lays it out, pixels.
 double sorMagassag(const QPlainTextEdit& memo) {
@@ -49,7 +55,7 @@ TForm13::TForm13(Allapot& allapot, FoAblak&, QWidget* fo)
     : QDialog(fo, Qt::Dialog | Qt::WindowStaysOnTopHint),
       allapot_(allapot),
       fo_(fo),
-      spinEdit1_(new QSpinBox(this)),
+      spinEdit1_(new THatotavMezo(this)),
       memo1_(new QPlainTextEdit(this)),
       memo2_(new QPlainTextEdit(this)),
       memo3_(new QPlainTextEdit(this)) {
@@ -90,10 +96,20 @@ void TForm13::memokEpitese() {
     }
     constexpr std::array<const char*, 4> fejek{"dMc", "cMc", "dAsc", "cAsc"};
     for (std::size_t i = 0; i < fejek.size(); ++i) {
-        auto* fej = new QLabel(fejek[i], this);
-        fej->setObjectName(QStringLiteral("Label%1").arg(i + 2));
-        fej->move(memo2Bal + 24 + 46 * static_cast<int>(i), memokTeteje - 20);
+        fejek_[i] = new QLabel(fejek[i], this);
+        fejek_[i]->setObjectName(QStringLiteral("Label%1").arg(i + 2));
     }
+    listaMuvelet(*memo1_, "események", [](int, std::string_view sor) { return std::string(sor); });
+    listaMuvelet(*memo2_, "direkciók", OlvashatoTalalatok);
+    listaMuvelet(*memo3_, "születési idők", [](int, std::string_view sor) { return OlvashatoIdok(sor); });
+}
+
+void TForm13::listaMuvelet(QPlainTextEdit& memo, const char* cim,
+                           std::string (*olvashato)(int szam, std::string_view sor)) {
+    new TListaMuveletek(memo, [this, &memo, cim, olvashato] {
+        const QString lista = windowTitle() + " 0," + spinEdit1_->text() + "°, " + cim;
+        return TListaSzoveg{listaCim(lista, allapot_, allapot_.Keplet.pillanat), memoSorai(memo, olvashato)};
+    });
 }
 
 void TForm13::gombok() {
@@ -122,15 +138,39 @@ void TForm13::lathatatlanVezerlok() {
 
 void TForm13::resizeEvent(QResizeEvent* esemeny) {
     QDialog::resizeEvent(esemeny);
-    const int magassag = height() - memokTeteje - memokAlja;
-    memo1_->setGeometry(szel, memokTeteje, memo1Szelesseg, magassag);
-    memo2_->setGeometry(memo2Bal, memokTeteje, memo2Szelesseg, magassag);
-    const int memo3Szelesseg = std::max(width(), tervezettMeret.width()) - elsoSzelesseg - szel;
-    memo3_->setGeometry(elsoSzelesseg, memokTeteje, memo3Szelesseg, magassag);
+    elrendezes();
     int bal = szel;
     for (const char* nev : {"Button_Rendben1", "Button_Megsem1", "Button_Eletesemenyek1"}) {
         findChild<QPushButton*>(nev)->setGeometry(bal, height() - 37, 114, 28);
         bal += 119;
+    }
+}
+
+/// The first list takes as much of the window's width as its texts need, as long as the third one keeps its
+/// least width.
+int TForm13::memo1Szelesseg() const {
+    const QFontMetrics meretek(memo1_->font());
+    int szoveg = 0;
+    for (const QString& sor : memo1_->toPlainText().split('\n'))
+        szoveg = std::max(szoveg, meretek.horizontalAdvance(sor));
+    const int keret = 2 * memo1_->frameWidth() + memo1_->verticalScrollBar()->sizeHint().width() +
+                      2 * static_cast<int>(std::ceil(memo1_->document()->documentMargin()));
+    const int tobblet = width() - elsoSzelesseg - szel - memo3Legkisebb;
+    return std::clamp(szoveg + keret + 1, memo1Legkisebb, memo1Legkisebb + std::max(0, tobblet));
+}
+
+void TForm13::elrendezes() {
+    const int magassag = height() - memokTeteje - memokAlja;
+    const int elso = memo1Szelesseg();
+    const int memo2Bal = szel + elso + koz;
+    const int memo3Bal = memo2Bal + memo2Szelesseg + szel;
+    memo1_->setGeometry(szel, memokTeteje, elso, magassag);
+    memo2_->setGeometry(memo2Bal, memokTeteje, memo2Szelesseg, magassag);
+    memo3_->setGeometry(memo3Bal, memokTeteje, std::max(memo3Legkisebb, width() - memo3Bal - szel), magassag);
+    int fejBal = memo2Bal + 24;
+    for (QLabel* fej : fejek_) {
+        fej->move(fejBal, memokTeteje - 20);
+        fejBal += 46;
     }
 }
 
@@ -156,12 +196,14 @@ void TForm13::megmutat(int leptetoMagassag) {
 }
 
 void TForm13::futtat() {
-    const QSignalBlocker blokk(spinEdit1_);
-    spinEdit1_->setValue(allapot_.PontositasHatotav);
+    // The same value would still write its text anew, under the user's typing too.
+    if (spinEdit1_->value() != allapot_.PontositasHatotav) {
+        const QSignalBlocker blokk(spinEdit1_);
+        spinEdit1_->setValue(allapot_.PontositasHatotav);
+    }
     const TPontositas lista = PontositasFutas(allapot_);
-    memo1_->setPlainText(sorokbol(lista.Memo1));
-    memo2_->setPlainText(sorokbol(lista.Memo2));
-    memo3_->setPlainText(sorokbol(lista.Memo3));
+    memoSorok({{memo1_, lista.Memo1}, {memo2_, lista.Memo2}, {memo3_, lista.Memo3}});
+    elrendezes();
 }
 
 void TForm13::SpinEdit1Change() {

@@ -1,13 +1,16 @@
 #pragma once
 
+#include <array>
 #include <functional>
 
 #include <QDialog>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <QSpinBox>
 
 #include "chart/allapot.h"
 #include "chart/foablak.h"
+#include "windows/listamuveletek.h"
 
 /// Rectification by directions: events, hits and candidate times of birth side by side. It stays open beside
 /// the main window and follows the chart while `PontositasFut` is set.
@@ -37,6 +40,10 @@ private:
     void gombok();
     void lathatatlanVezerlok();
     void betuk();
+    void elrendezes();
+    int memo1Szelesseg() const;
+    void listaMuvelet(QPlainTextEdit& memo, const char* cim,
+                      std::string (*olvashato)(int szam, std::string_view sor));
     void resizeEvent(QResizeEvent* esemeny) override;
     void done(int eredmeny) override;
 
@@ -46,4 +53,5 @@ private:
     QPlainTextEdit* memo1_;
     QPlainTextEdit* memo2_;
     QPlainTextEdit* memo3_;
+    std::array<QLabel*, 4> fejek_{};  ///< over the hits
 };

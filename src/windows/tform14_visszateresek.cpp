@@ -14,6 +14,7 @@
 #include "windows/ablakelhelyezes.h"
 #include "windows/helysegmezo.h"
 #include "windows/idovalaszto.h"
+#include "windows/listamuveletek.h"
 #include "windows/qszoveg.h"
 #include "windows/vezerlok.h"
 
@@ -39,6 +40,13 @@ TForm14::TForm14(Allapot& allapot, FoAblak&, QWidget* fo)
     connect(this, &QDialog::rejected, this, [this] { allapot_.Megsem14 = true; });
     connect(listBox1_, &QListWidget::currentRowChanged, this, &TForm14::ListBox1Click);
     connect(helyseg_, &QComboBox::editTextChanged, this, &TForm14::ComboBoxHelyseg1Change);
+
+    listBox1_->setSelectionMode(QAbstractItemView::ExtendedSelection);  // to copy; one row is taken
+    new TListaMuveletek(*listBox1_, [this] {
+        QStringList sorok;
+        for (int i = 0; i < listBox1_->count(); ++i) sorok << listBox1_->item(i)->text();
+        return TListaSzoveg{listaCim(windowTitle(), allapot_, allapot_.RadixPillanat), sorok};
+    });
 }
 
 QGridLayout* TForm14::mezok() {

@@ -1,11 +1,14 @@
 // The main window's menu.
 
 #include <array>
+#include <utility>
 
 #include <QAction>
 #include <QKeySequence>
 #include <QMenuBar>
+#include <QShortcut>
 
+#include "predictive/visszateresek.h"
 #include "windows/tform1_foablak.h"
 
 namespace {
@@ -110,4 +113,9 @@ void TForm1::menuEpites() {
         addAction(pont);
         parancsEpites(*pont, b.nev, b.kezelo, b.billentyu);
     }
+    // The derived chart steps through its list; no menu item tells of it.
+    for (const auto& [billentyu, lepes] : {std::pair(Qt::Key_PageDown, 1), std::pair(Qt::Key_PageUp, -1)})
+        connect(new QShortcut(billentyu, this), &QShortcut::activated, this, [this, lepes = lepes] {
+            if (allapot_.VisszaMod && JelszoKeres()) VisszateresSzomszed(allapot_, *this, lepes);
+        });
 }

@@ -1,11 +1,13 @@
 #include "windows/tform3_tercier.h"
 
+#include <algorithm>
+
 #include <QLineEdit>
-#include <QPushButton>
 #include <QSignalBlocker>
 
 #include "chart/allapot.h"
 #include "commands/datumosdirekcio.h"
+#include "predictive/olvashato.h"
 #include "predictive/tercier.h"
 #include "windows/ablakelhelyezes.h"
 #include "windows/qszoveg.h"
@@ -18,7 +20,10 @@ constexpr int orbisTetej = 88;
 constexpr int orbisFeliratBal = 24;
 constexpr int orbisMezoBal = 152;
 constexpr int kivulre = 400;  ///< added to the left of the orb's controls, out of the window
-constexpr QSize ablakMeret{400, 230};
+constexpr int ablakSzelesseg = 400;
+constexpr int szovegSzelesseg = ablakSzelesseg - 2 * 24;
+constexpr int szovegTetej = 144;
+constexpr int ketSor = 40;        ///< height of the text where it has no more, pixels
 constexpr double alapOrbis = 45;  // days
 
 }  // namespace
@@ -27,7 +32,6 @@ TForm3::TForm3(Allapot& allapot, FoAblak&, QWidget* fo)
     : QDialog(fo, Qt::Dialog | Qt::WindowStaysOnTopHint), allapot_(allapot), fo_(fo) {
     setObjectName("TForm3");
     setWindowTitle("Tercier direkció");
-    setFixedSize(ablakMeret);
     ujCimke(this, "Esemény dátuma:", {24, 12})->setObjectName("Datum_bekero1");
     ev_ = mezo("SpinEditEv1", "Év:", 1900, 2068, 24);
     ho_ = mezo("SpinEditHo1", "Hó:", 0, 13, 150);
@@ -37,18 +41,16 @@ TForm3::TForm3(Allapot& allapot, FoAblak&, QWidget* fo)
     orbis_ = ujSzamMezo(this, "SpinEditOrbis1", 1, 99);
     direkcio1_ = new QLabel(this);
     direkcio1_->setObjectName("Tercier_Direkcio1");
-    direkcio1_->setGeometry(24, 120, ablakMeret.width() - 48, 22);
-    direkcio2_ = new QLabel(this);
+    direkcio1_->setGeometry(24, 120, szovegSzelesseg, 22);
+    direkcio2_ = new TJelSzoveg(this);
     direkcio2_->setObjectName("Tercier_Direkcio2");
-    direkcio2_->setGeometry(24, 144, ablakMeret.width() - 48, 40);
-    direkcio2_->setWordWrap(true);
-    direkcio2_->setTextFormat(Qt::PlainText);
+    new TListaMuveletek(*direkcio2_, [this] { return lista(); });
 
-    auto* rendben = ujGomb(this, "Button_Rendben1", "Rendben", {90, 192, 100, 28});
-    rendben->setDefault(true);
-    auto* megsem = ujGomb(this, "Button_Megsem1", "Mégsem", {210, 192, 100, 28});
-    connect(rendben, &QPushButton::clicked, this, &TForm3::Button_Rendben1Click);
-    connect(megsem, &QPushButton::clicked, this, &TForm3::Button_Megsem1Click);
+    rendben_ = ujGomb(this, "Button_Rendben1", "Rendben");
+    rendben_->setDefault(true);
+    megsem_ = ujGomb(this, "Button_Megsem1", "Mégsem");
+    connect(rendben_, &QPushButton::clicked, this, &TForm3::Button_Rendben1Click);
+    connect(megsem_, &QPushButton::clicked, this, &TForm3::Button_Megsem1Click);
     connect(this, &QDialog::rejected, this, [this] { allapot_.Megsem3 = true; });
     for (const QSpinBox* datum : {ev_, ho_, nap_})
         connect(datum, &QSpinBox::valueChanged, this, &TForm3::DatumChange);
@@ -72,6 +74,7 @@ void TForm3::megmutat() {
     orbisFelirat_->move(orbisFeliratBal + eltolas, orbisTetej);
     orbis_->move(orbisMezoBal + eltolas, orbisTetej);
     direkcio2_->setFont(cellaMagassaguBetu(qszoveg(allapot_.Rajz.szimbolumFont), 18, logicalDpiY()));
+    elrendezes(ketSor);
     datumMutatas(allapot_.TercierDatum);
     {
         const QSignalBlocker blokk(orbis_);
@@ -80,6 +83,21 @@ void TForm3::megmutat() {
     DatumChange();
     kozepre(*this, *fo_);
     exec();
+}
+
+/// The window has room for the whole text.
+void TForm3::elrendezes(int szovegMagassag) {
+    constexpr QSize gombMeret{100, 28};
+    direkcio2_->setGeometry(24, szovegTetej, szovegSzelesseg, szovegMagassag);
+    const int gombTetej = szovegTetej + szovegMagassag + 8;
+    rendben_->setGeometry({{90, gombTetej}, gombMeret});
+    megsem_->setGeometry({{210, gombTetej}, gombMeret});
+    setFixedSize(ablakSzelesseg, gombTetej + gombMeret.height() + 10);
+}
+
+TListaSzoveg TForm3::lista() const {
+    return {listaCim(windowTitle(), allapot_, allapot_.SzuletesiPillanat),
+            {qszoveg(OlvashatoDatumos(datum(), szoveg(direkcio2_->text()), allapot_.TercierAblak))}};
 }
 
 TPillanat TForm3::datum() const {
@@ -110,6 +128,8 @@ void TForm3::DatumChange() {
     datumMutatas(d);
     keres();
     direkcio2_->setText(qszoveg(eredmeny_));
+    // It only grows while it is open: the buttons shall not run from the mouse at each step of a date.
+    elrendezes(std::max(direkcio2_->height(), direkcio2_->heightForWidth(szovegSzelesseg)));
 }
 
 /// The text beneath stays until the date changes, so that it may disagree with the verdict: the user sees

@@ -4,11 +4,14 @@
 
 #include <QDialog>
 #include <QLabel>
+#include <QPushButton>
 #include <QSpinBox>
 
 #include "chart/allapot.h"
 #include "chart/foablak.h"
 #include "tables/pillanat.h"
+#include "windows/jelszoveg.h"
+#include "windows/listamuveletek.h"
 
 /// Date dialog of the tertiary directions and of the solar ingress; `TercierAblak` of the state tells which.
 class TForm3 : public QDialog {
@@ -33,6 +36,8 @@ private slots:
 private:
     QSpinBox* mezo(const char* nev, const char* felirat, int also, int felso, int x);
     void keres();
+    void elrendezes(int szovegMagassag);
+    TListaSzoveg lista() const;
     TPillanat datum() const;
     int orbis() const;
     void datumMutatas(const TPillanat& datum);
@@ -45,6 +50,8 @@ private:
     QLabel* orbisFelirat_;
     QSpinBox* orbis_;
     QLabel* direkcio1_;
-    QLabel* direkcio2_;
+    TJelSzoveg* direkcio2_;
+    QPushButton* rendben_;
+    QPushButton* megsem_;
     std::string eredmeny_;
 };

@@ -4,6 +4,7 @@
 
 #include "chart/allapot.h"
 #include "chart/foablak.h"
+#include "rectify/analogiaszoveg.h"
 #include "rectify/mundankereses.h"
 #include "tables/szotar.h"
 #include "windows/ablakelhelyezes.h"
@@ -51,6 +52,18 @@ TForm8::TForm8(Allapot& allapot, FoAblak& ablak, QWidget* fo)
     setWindowTitle("Mundánházas pontosítás");
     setFixedSize(ablakMeret);
     allandoVezerlok();
+    new TListaMuveletek(*this, [this] { return lista(false); });
+    new TListaMuveletek(
+        *this, [this] { return lista(true); }, "Minden ház");
+}
+
+TListaSzoveg TForm8::lista(bool mindenHaz) const {
+    const TMundanErtekeles e = MundanErtekeles(allapot_, MundanHely(allapot_.Keplet));
+    QStringList sorok;
+    for (const std::string& sor :
+         mindenHaz ? MindenAnalogiaOlvashato(e) : AnalogiaOlvashato(e, allapot_.AktivHaz))
+        sorok << qszoveg(sor);
+    return {listaCim(windowTitle(), allapot_, allapot_.Keplet.pillanat), sorok};
 }
 
 void TForm8::allandoVezerlok() {
@@ -167,9 +180,8 @@ void TForm8::BMundanClick(const QString& felirat) {
 /// Nothing is painted until the search has ended, so the labels are written once, at its end.
 void TForm8::kereses(int irany) {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const TMundanErtekeles e = MundanKereses(allapot_, MundanHely(allapot_.Keplet), irany);
+    mutat(MundanKereses(allapot_, MundanHely(allapot_.Keplet), irany));
     QGuiApplication::restoreOverrideCursor();
-    mutat(e);
     ablak_.Mutat();
 }
 

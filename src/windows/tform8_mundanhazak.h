@@ -12,6 +12,7 @@
 #include "chart/foablak.h"
 #include "rectify/analogiak.h"
 #include "rectify/mundankereses.h"
+#include "windows/listamuveletek.h"
 
 /// Rectification by mundane houses. It stays open beside the main window and follows the chart with every
 /// tick.
@@ -39,6 +40,7 @@ private:
     void cimkeRacs();
     void BMundanClick(const QString& felirat);
     void kereses(int irany);
+    TListaSzoveg lista(bool mindenHaz) const;
     void mutat(const TMundanErtekeles& ertekeles);
     void verdiktMutatasa(char AnalogiaAllapot);
     void done(int eredmeny) override;

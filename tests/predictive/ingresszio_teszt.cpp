@@ -44,4 +44,19 @@ TEST(Ingresszio, AParokTavolsagaANapokSzoge) {
     }
 }
 
+TEST(IngresszioParok, AHatarokonNincsTalalat) {
+    constexpr double szog = 30;
+    const auto also = static_cast<double>(szog - 180 / 365.0L);
+    const auto felso = static_cast<double>(szog + 180 / 365.0L);
+    TSzogMatrix tavolsagok;
+    for (auto& sor : tavolsagok) sor.tolt(90);
+    tavolsagok[1][2] = also;
+    tavolsagok[3][4] = felso;
+    EXPECT_EQ(IngresszioParok(tavolsagok, szog), "");
+    tavolsagok[1][2] = std::nextafter(also, felso);
+    EXPECT_EQ(IngresszioParok(tavolsagok, szog), " AMB");
+    tavolsagok[3][4] = std::nextafter(felso, also);
+    EXPECT_EQ(IngresszioParok(tavolsagok, szog), " AMB CMD");
+}
+
 }  // namespace

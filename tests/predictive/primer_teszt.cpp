@@ -175,6 +175,38 @@ TEST(Primer, HuszonkettedikSorUtanNincsTobb) {
     EXPECT_EQ(PrimerFutas(a, kezdo).size(), 22U);
 }
 
+/// A day on which the directed Midheaven and the converse one reach a point each; both begin on it.
+int ketOszlopNapja(Allapot& a, const Allapot& minta, int elso) {
+    for (int nap = elso; nap < elso + 100; ++nap) {
+        Allapot proba = egyPont(pontok(minta, nap)[dMC], 1, 16);
+        proba.Rajz.FenyszogPontok[2][16] = pontok(minta, nap)[cMC];
+        const auto sorok = PrimerFutas(proba, kezdo);
+        if (sorok.size() != 2 || sorok[0].substr(0, 11) != sorok[1].substr(0, 11)) continue;
+        a.Rajz.FenyszogPontok[1][16] = proba.Rajz.FenyszogPontok[1][16];
+        a.Rajz.FenyszogPontok[2][16] = proba.Rajz.FenyszogPontok[2][16];
+        return nap;
+    }
+    return 0;
+}
+
+TEST(Primer, AHuszonkettedikSorUtanANapTobbiOszlopaSem) {
+    const Allapot minta = szuletes();
+    Allapot a = egyPont(-100);
+    int n = 0;
+    for (int i = 3; i <= 9; ++i)
+        for (const int j : {1, 2, 4}) a.Rajz.FenyszogPontok[i][j] = pontok(minta, 50 * ++n)[dMC];
+    ASSERT_EQ(n, 21);
+    ASSERT_GT(ketOszlopNapja(a, minta, 1100), 0);
+    const auto sorok = PrimerFutas(a, kezdo);
+    ASSERT_EQ(sorok.size(), 22U);
+    EXPECT_TRUE(sorok[21].ends_with(std::string(5, ' ') + "AW")) << sorok[21];
+    // One line less, and the day's other column is there.
+    a.Rajz.FenyszogPontok[3][1] = -100;
+    const auto eggyelKevesebb = PrimerFutas(a, kezdo);
+    ASSERT_EQ(eggyelKevesebb.size(), 22U);
+    EXPECT_TRUE(eggyelKevesebb[21].ends_with(std::string(20, ' ') + "BW")) << eggyelKevesebb[21];
+}
+
 TEST(Primer, A3661NapUtanNincsKereses) {
     const Allapot minta = szuletes();
     EXPECT_EQ(PrimerFutas(egyPont(pontok(minta, 3660)[dMC]), kezdo).size(), 1U);

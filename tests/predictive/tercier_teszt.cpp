@@ -73,6 +73,49 @@ TEST(Tercier, ASzuletesElottiEsemenyIranyaElore) {
     EXPECT_GT(koronKivul, 100);
 }
 
+TEST(TercierTalalat, MindketVegeIsBenneVan) {
+    const TOrbisAblak sima{10, 12};
+    EXPECT_TRUE(TercierTalalat(10, sima));
+    EXPECT_TRUE(TercierTalalat(12, sima));
+    EXPECT_FALSE(TercierTalalat(std::nextafter(10, 0), sima));
+    EXPECT_FALSE(TercierTalalat(std::nextafter(12, 20), sima));
+    const TOrbisAblak atlepo = OrbisAblak(0.5, 1);
+    EXPECT_TRUE(TercierTalalat(359.5, atlepo));
+    EXPECT_TRUE(TercierTalalat(std::nextafter(360, 0), atlepo));
+    EXPECT_TRUE(TercierTalalat(0, atlepo));
+    EXPECT_TRUE(TercierTalalat(1.5, atlepo));
+    EXPECT_FALSE(TercierTalalat(std::nextafter(359.5, 0), atlepo));
+    EXPECT_FALSE(TercierTalalat(std::nextafter(1.5, 2), atlepo));
+    EXPECT_FALSE(TercierTalalat(180, atlepo));
+    // A directed place that has left the circle.
+    EXPECT_FALSE(TercierTalalat(360, atlepo));
+    EXPECT_FALSE(TercierTalalat(-0.1, atlepo));
+}
+
+TEST(Tercier, ANullaFokonAtnyuloAblak) {
+    // Born at the equinox, the Sun just before 0 degrees. The days are those of one turn: what an arc beyond
+    // it leaves below 0 meets nothing.
+    const TPillanat napejegyenloseg{1975, 3, 21, 6, 4, 9};
+    int elotte = 0;
+    int utana = 0;
+    for (int nap = 0; nap < 25900; nap += 5) {
+        Allapot a = szuletes(napejegyenloseg);
+        const TTercier t = TercierKeres(a, napejegyenloseg, napokkal(napejegyenloseg, nap), "Szeged", 99);
+        const TBolygok& lon = a.Keplet.Bolygok;
+        ASSERT_NEAR(lon[1], 359.96, 0.02);
+        EXPECT_EQ(t.TercierSzoveg, vartTercier(lon, nap, 99)) << nap;
+        for (int j = 2; j <= 10; ++j) {
+            const double d = std::fmod(lon[j] - 0.013888706365503 * nap + 360, 360);
+            const std::string talalat = {static_cast<char>('a' + static_cast<int>(lon[j] / 30)),
+                                         static_cast<char>('A' + j - 1), 'M', 'l', 'A'};
+            if (t.TercierSzoveg.find(talalat) == std::string::npos) continue;
+            ++(d > 180 ? elotte : utana);
+        }
+    }
+    EXPECT_GT(elotte, 20);
+    EXPECT_GT(utana, 20);
+}
+
 TEST(Tercier, AVerdiktekSzovegei) {
     EXPECT_STREQ(tercierVerdikt.van, "Van direkció!");
     EXPECT_STREQ(tercierVerdikt.nincs, "Nincs direkció!");

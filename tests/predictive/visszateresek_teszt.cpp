@@ -242,4 +242,116 @@ TEST(VisszateresKeplet, AzEjfelUtaniZonaIdoAKovetkezoNap) {
     EXPECT_EQ(a.Feliratok.statusz[panelTipus], "Asc pers");
 }
 
+/// A solar return of 2005 for Pécs on screen.
+Allapot szolarPecsre(TProbaAblak& ablak, int sor = 31) {
+    Allapot a = szuletes({1975, 7, 21, 6, 4, 9});
+    const TVisszateresFajta fajta = RevolucioFajta(1);
+    keres(a, fajta);
+    VisszateresKeplet(a, ablak, fajta, sor, "Pécs");
+    ablak.hivasok.clear();
+    return a;
+}
+
+void ugyanazAKepernyo(const Allapot& a, const Allapot& b) {
+    EXPECT_EQ(a.Keplet.pillanat, b.Keplet.pillanat);
+    EXPECT_EQ(a.Keplet.helyseg, b.Keplet.helyseg);
+    EXPECT_EQ(a.Keplet.nyariIdo, b.Keplet.nyariIdo);
+    EXPECT_EQ(a.Keplet.bolygo, b.Keplet.bolygo);
+    EXPECT_EQ(a.Keplet.hazCsucs, b.Keplet.hazCsucs);
+    EXPECT_EQ(a.Feliratok.statusz, b.Feliratok.statusz);
+    EXPECT_EQ(a.FenyszogRadix, b.FenyszogRadix);
+}
+
+TEST(VisszateresSzomszed, AKovetkezoEsAzElozoSor) {
+    TProbaAblak ablak;
+    Allapot a = szolarPecsre(ablak);
+    VisszateresSzomszed(a, ablak, 1);
+    EXPECT_EQ(a.Keplet.pillanat.ev, 2006);
+    ugyanazAKepernyo(a, szolarPecsre(ablak, 32));
+    EXPECT_EQ(a.Feliratok.statusz[panelTipus], "Szolár");
+    EXPECT_EQ(a.Feliratok.mostGomb, "Vissza");
+    VisszateresSzomszed(a, ablak, -1);
+    VisszateresSzomszed(a, ablak, -1);
+    ugyanazAKepernyo(a, szolarPecsre(ablak, 30));
+    // The way back leads to the birth as before.
+    EXPECT_TRUE(a.VisszaMod);
+    EXPECT_EQ(a.helysegMentett, "Szeged");
+    EXPECT_EQ(a.RadixPillanat, (TPillanat{1975, 7, 21, 6, 4, 9}));
+}
+
+TEST(VisszateresSzomszed, UjraRajzol) {
+    TProbaAblak ablak;
+    Allapot a = szolarPecsre(ablak);
+    VisszateresSzomszed(a, ablak, 1);
+    EXPECT_EQ(ablak.hivasok, (THivasok{"Ervenytelenit", "RajzolKeplet"}));
+}
+
+TEST(VisszateresSzomszed, AListaVegeinNemTortenikSemmi) {
+    for (const auto& [sor, lepes] : {std::pair(1, -1), std::pair(103, 1)}) {
+        TProbaAblak ablak;
+        Allapot a = szolarPecsre(ablak, sor);
+        const Allapot elobb = a;
+        VisszateresSzomszed(a, ablak, lepes);
+        ugyanazAKepernyo(a, elobb);
+        EXPECT_EQ(ablak.rajzok(), 0);
+        // The way in the other direction stays open.
+        VisszateresSzomszed(a, ablak, -lepes);
+        EXPECT_EQ(a.Keplet.pillanat.ev, elobb.Keplet.pillanat.ev - lepes);
+    }
+}
+
+TEST(VisszateresSzomszed, AMegszakitottMasikKeresesNemZavarja) {
+    TProbaAblak ablak;
+    Allapot a = szolarPecsre(ablak);
+    keres(a, RevolucioFajta(2));  // and cancelled
+    VisszateresSzomszed(a, ablak, 1);
+    ugyanazAKepernyo(a, szolarPecsre(ablak, 32));
+}
+
+TEST(VisszateresSzomszed, CsakAKepzettKepletnelEsAMagaSzuletesehez) {
+    TProbaAblak ablak;
+    Allapot a = szuletes({1975, 7, 21, 6, 4, 9});
+    keres(a, RevolucioFajta(1));
+    VisszateresSzomszed(a, ablak, 1);  // a list, but no derived chart yet
+    EXPECT_EQ(ablak.rajzok(), 0);
+    EXPECT_FALSE(a.VisszaMod);
+
+    a = szolarPecsre(ablak);
+    a.VisszaMod = false;  // back at the birth
+    VisszateresSzomszed(a, ablak, 1);
+    EXPECT_EQ(ablak.rajzok(), 0);
+
+    a = szolarPecsre(ablak);
+    a.SzuletesiPillanat.perc = 5;  // another person opened over the derived chart
+    VisszateresSzomszed(a, ablak, 1);
+    EXPECT_EQ(ablak.rajzok(), 0);
+    EXPECT_EQ(a.Keplet.pillanat.ev, 2005);
+}
+
+TEST(VisszateresSzomszed, AzUresListanakNincsSzomszedja) {
+    TProbaAblak ablak;
+    Allapot a = szolarPecsre(ablak);
+    const TVisszateresFajta fajta = PersonarFajta(3);
+    EXPECT_EQ(talalatok(a, fajta, 1e9), 0);
+    VisszateresKeplet(a, ablak, fajta, 1, "Pécs");
+    ablak.hivasok.clear();
+    VisszateresSzomszed(a, ablak, 1);
+    VisszateresSzomszed(a, ablak, -1);
+    EXPECT_EQ(ablak.rajzok(), 0);
+}
+
+TEST(VisszateresSzomszed, APersonarAMagaFajtajavalLep) {
+    TProbaAblak ablak;
+    Allapot a = szuletes({1975, 7, 21, 6, 4, 9});
+    const TVisszateresFajta fajta = PersonarFajta(3);
+    keres(a, fajta);
+    VisszateresKeplet(a, ablak, fajta, 12, "Szeged");
+    VisszateresSzomszed(a, ablak, 1);
+    EXPECT_EQ(a.Feliratok.statusz[panelTipus], "Hold pers");
+    EXPECT_EQ(a.Keplet.pillanat.ev, a.Visszateresek.sorok[13].pillanat.ev);
+    ablak.hivasok.clear();
+    VisszateresSzomszed(a, ablak, 1);  // thirteen rows
+    EXPECT_EQ(ablak.rajzok(), 0);
+}
+
 }  // namespace

@@ -1,4 +1,20 @@
-#include "ablakteszt.h"
+#include "listateszt.h"
+
+namespace {
+
+int sorokSzama(const QWidget& d) {
+    return static_cast<int>(sorok(d, "Memo1").size());
+}
+
+/// A list that does not fit its field, as a large font makes it.
+void nagyBetu(QPlainTextEdit& memo) {
+    QFont betu = memo.font();
+    betu.setPixelSize(30);
+    memo.setFont(betu);
+    QApplication::processEvents();
+}
+
+}  // namespace
 
 class TForm12Teszt : public QObject {
     Q_OBJECT
@@ -27,6 +43,110 @@ private slots:
         kattint(a.form12, "Button_Megsem1");
         QVERIFY(!a.allapot().PrimerFut);
         QVERIFY(!a.form12.isVisible());
+    }
+
+    void azAljaTizennyolcKeppontalAFoablakAljaFelett() {
+        for (const int magassag : {717, 400}) {
+            TFrissAblakok a;
+            a.oraIndul();
+            a.form1.resize(995, magassag);
+            a.form1.move(130, 110);
+            QApplication::processEvents();
+            QCOMPARE(a.form1.height(), magassag);
+            for (int kor = 0; kor < 2; ++kor) {
+                menu(a.form1, "Primer1");
+                QCOMPARE(a.form12.x() + a.form12.width(), 130 + 995);
+                // Its height counts as at most the main window's.
+                const int szamitott = std::min(a.form12.height(), magassag);
+                QCOMPARE(a.form12.y() + szamitott, 110 + magassag - 18);
+                a.form12.move(0, 0);
+                kattint(a.form12, "Button_Megsem1");
+            }
+        }
+    }
+
+    void aHuszonketSornalKiderulHogyVegeVan() {
+        TFrissAblakok a;
+        a.oraIndul();
+        szuletes(a);
+        menu(a.form1, "Primer1");
+        auto* vege = vezerlo<QLabel>(a.form12, "LabelVege1");
+        QVERIFY(!vege->isVisible());  // nothing has been run
+        int tele = 0;
+        int kevesebb = 0;
+        for (int ev = 1980; ev < 2068; ev += 4) {
+            gepel(a.form12, "SpinEditEv1", qPrintable(QString::number(ev)));
+            kattint(a.form12, "Button_Rendben1");
+            const bool huszonketto = sorokSzama(a.form12) == 22;
+            QCOMPARE(vege->isVisible(), huszonketto);
+            ++(huszonketto ? tele : kevesebb);
+        }
+        QVERIFY(tele > 0 && kevesebb > 0);
+        QCOMPARE(vege->text(), "Legfeljebb 22 sor; a lista itt véget ér.");
+        const auto* memo = vezerlo<QPlainTextEdit>(a.form12, "Memo1");
+        QVERIFY(vege->y() > memo->geometry().bottom());
+        QVERIFY(vege->geometry().right() < vezerlo<QPushButton>(a.form12, "Button_Pontositas1")->x());
+        QVERIFY(!memo->toPlainText().contains("Legfeljebb"));
+    }
+
+    void azUjNyitasNemMutatjaARegiVeget() {
+        TFrissAblakok a;
+        a.oraIndul();
+        szuletes(a);
+        auto* vege = vezerlo<QLabel>(a.form12, "LabelVege1");
+        for (int kor = 0; kor < 2; ++kor) {
+            menu(a.form1, "Primer1");
+            QVERIFY(!vege->isVisible());
+            gepel(a.form12, "SpinEditEv1", "2000");
+            kattint(a.form12, "Button_Rendben1");
+            QCOMPARE(sorokSzama(a.form12), 22);
+            QVERIFY(vege->isVisible());
+            kattint(a.form12, "Button_Megsem1");
+        }
+    }
+
+    void aLeptetesMeghagyjaAGorgetest() {
+        TFrissAblakok a;
+        a.oraIndul();
+        szuletes(a);
+        menu(a.form1, "Primer1");
+        auto* memo = vezerlo<QPlainTextEdit>(a.form12, "Memo1");
+        gepel(a.form12, "SpinEditEv1", "2000");
+        kattint(a.form12, "Button_Rendben1");
+        nagyBetu(*memo);
+        for (int kor = 0; kor < 2; ++kor) {
+            memo->verticalScrollBar()->setValue(5 + kor);
+            memo->horizontalScrollBar()->setValue(40 + kor);
+            QCOMPARE(memo->verticalScrollBar()->value(), 5 + kor);
+            QCOMPARE(memo->horizontalScrollBar()->value(), 40 + kor);
+            const QStringList elobb = sorok(a.form12, "Memo1");
+            kattint(a.form7, "Button9percp");
+            QTest::qWait(tobbOrajel);
+            QVERIFY(sorok(a.form12, "Memo1") != elobb);
+            QCOMPARE(memo->verticalScrollBar()->value(), 5 + kor);
+            QCOMPARE(memo->horizontalScrollBar()->value(), 40 + kor);
+        }
+    }
+
+    void azUgyanolyanListaAKijelolestIsMeghagyja() {
+        TFrissAblakok a;
+        a.oraIndul();
+        szuletes(a);
+        menu(a.form1, "Primer1");
+        auto* memo = vezerlo<QPlainTextEdit>(a.form12, "Memo1");
+        kattint(a.form12, "Button_Rendben1");
+        for (int kor = 0; kor < 2; ++kor) {
+            menu(a.form1, "Horizont1");  // takes the place from the table from here on
+            sorokKijelolese(*memo, 1 + kor, 3 + kor);
+            const QString kijelolt = memo->textCursor().selectedText();
+            QVERIFY(kijelolt.size() > 30);
+            menu(a.form1, "Horizont1");  // the same chart, its list run again
+            QTest::qWait(tobbOrajel);
+            QCOMPARE(memo->textCursor().selectedText(), kijelolt);
+            kattint(a.form7, "Button7orap");  // other lines
+            QTest::qWait(tobbOrajel);
+            QVERIFY(!memo->textCursor().hasSelection());
+        }
     }
 };
 

@@ -149,6 +149,81 @@ private slots:
         QVERIFY(!a.allapot().Megsem3);
     }
 
+    void aNemLetezoDatumRendesenTarolva() {
+        TFrissAblakok a;
+        a.oraIndul();
+        szuletes(a);
+        for (const char* parancs : {"Tercier1", "Szolaringresszio11"}) {
+            valasz([](QWidget& d) {
+                gepel(d, "SpinEditEv1", "1999");
+                gepel(d, "SpinEditHo1", "4");
+                gepel(d, "SpinEditNap1", "31");
+                kattint(d, "Button_Rendben1");
+            });
+            menu(a.form1, parancs);
+            QVERIFY((a.allapot().TercierDatum == TPillanat{1999, 5, 1, 0, 0, 0}));
+            valasz([](QWidget& d) {
+                QCOMPARE(ertek(d, "SpinEditHo1"), 5);
+                QCOMPARE(ertek(d, "SpinEditNap1"), 1);
+                kattint(d, "Button_Megsem1");
+            });
+            menu(a.form1, parancs);
+        }
+    }
+
+    /// The day of the solar return pairs each body with itself: ten pairs and more.
+    void aHosszuEredmenyEgeszenLatszik() {
+        TFrissAblakok a;
+        a.oraIndul();
+        szuletes(a);
+        for (int kor = 0; kor < 2; ++kor) {
+            valasz([](QWidget& d) {
+                gepel(d, "SpinEditEv1", "1999");
+                gepel(d, "SpinEditHo1", "7");
+                gepel(d, "SpinEditNap1", "1");
+                auto* jelek = vezerlo<QLabel>(d, "Tercier_Direkcio2");
+                auto* rendben = vezerlo<QPushButton>(d, "Button_Rendben1");
+                QVERIFY(jelek->text().size() < 20);
+                QCOMPARE(d.size(), QSize(400, 230));
+                for (const char* nap : {"20", "21", "22"}) {
+                    gepel(d, "SpinEditNap1", nap);
+                    if (jelek->text().size() >= 40) break;
+                }
+                QVERIFY(jelek->text().startsWith(" AMA"));
+                const QFontMetrics meretek(jelek->font());
+                QVERIFY(meretek.horizontalAdvance(jelek->text()) > jelek->width());
+                const int sorai =
+                    (jelek->heightForWidth(jelek->width()) + meretek.height() - 1) / meretek.height();
+                QVERIFY(sorai > 1);
+                QVERIFY(jelek->height() >= sorai * meretek.height());
+                // Nothing is written over the edge: the picture has ink in each of its lines and none at the
+                // right rim.
+                jelek->clearFocus();
+                const QImage kep = jelek->grab().toImage().convertToFormat(QImage::Format_Grayscale8);
+                const double arany = kep.devicePixelRatio();
+                const auto tinta = [&](const QRect& resz) {
+                    const QRect r(resz.topLeft() * arany, resz.size() * arany);
+                    for (int y = r.top(); y <= r.bottom(); ++y)
+                        for (int x = r.left(); x <= r.right(); ++x)
+                            if (qGray(kep.pixel(x, y)) < 128) return true;
+                    return false;
+                };
+                for (int n = 0; n < sorai; ++n)
+                    QVERIFY(tinta({0, n * meretek.height(), jelek->width(), meretek.height() - 1}));
+                QVERIFY(!tinta({jelek->width() - 1, 0, 1, jelek->height()}));
+                QVERIFY(rendben->y() > jelek->geometry().bottom());
+                QVERIFY(rendben->geometry().bottom() < d.height());
+                // The buttons stay where they are while the window is open.
+                const int y = rendben->y();
+                gepel(d, "SpinEditNap1", "1");
+                QVERIFY(jelek->text().size() < 20);
+                QCOMPARE(rendben->y(), y);
+                kattint(d, "Button_Rendben1");
+            });
+            menu(a.form1, "Szolaringresszio11");
+        }
+    }
+
     void aRendbenAFeluletreIrjaAzEredmenyt() {
         TFrissAblakok a;
         szuletes(a);

@@ -27,6 +27,21 @@ private slots:
         QTest::mouseRelease(gomb, Qt::LeftButton);
         QVERIFY(napSzama(a.allapot().Keplet.pillanat) >= elobb + 3);
     }
+
+    void aHelyeFelulKozepen() {
+        TFrissAblakok a;
+        a.oraIndul();
+        a.form1.move(130, 110);
+        QApplication::processEvents();
+        for (int kor = 0; kor < 2; ++kor) {
+            kattint(a.form1, "PanelButton4Leptet");
+            QVERIFY(a.form7.isVisible());
+            QCOMPARE(a.form7.x(), 130 + a.form1.width() / 2 - a.form7.width() / 2);
+            QCOMPARE(a.form7.y(), 110 + 30);
+            a.form7.move(0, 0);
+            a.form7.close();
+        }
+    }
 };
 
 QTEST_MAIN(TForm7Teszt)

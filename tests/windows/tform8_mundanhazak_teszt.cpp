@@ -9,6 +9,25 @@ QColor szin(const QWidget& d, const char* nev) {
     return vezerlo<QLabel>(d, nev)->palette().color(QPalette::WindowText);
 }
 
+/// Counts what the house buttons' fonts and the verdict's colour are changed under.
+class TKurzorFigyelo : public QObject {
+public:
+    explicit TKurzorFigyelo(QWidget& ablak) {
+        for (QWidget* v : ablak.findChildren<QWidget*>()) v->installEventFilter(this);
+    }
+    int homokoraval = 0;
+    int homokoraNelkul = 0;
+
+private:
+    bool eventFilter(QObject* targy, QEvent* esemeny) override {
+        if (esemeny->type() == QEvent::FontChange || esemeny->type() == QEvent::PaletteChange) {
+            const QCursor* kurzor = QGuiApplication::overrideCursor();
+            ++(kurzor != nullptr && kurzor->shape() == Qt::WaitCursor ? homokoraval : homokoraNelkul);
+        }
+        return QObject::eventFilter(targy, esemeny);
+    }
+};
+
 TMundanErtekeles ertekeles(TFrissAblakok& a) {
     return MundanErtekeles(a.allapot(), MundanHely(a.allapot().Keplet));
 }
@@ -156,6 +175,23 @@ private slots:
         QCOMPARE(a.allapot().Keplet.hazCsucs, csucsok);
         // Nothing of this counts as a change to be saved.
         QVERIFY(!a.allapot().Modositott);
+    }
+
+    /// The labels are still written under the hourglass.
+    void aKeresesAlattHomokora() {
+        TFrissAblakok a;
+        a.oraIndul();
+        szuletes(a);
+        menu(a.form1, "Mundnhzaspontosts1");
+        kattint(a.form8, "Button2Keresesp");  // the first press stays
+        for (const char* gomb : {"Button2Keresesp", "Button1Keresesm"}) {
+            TKurzorFigyelo figyelo(a.form8);
+            kattint(a.form8, gomb);
+            QVERIFY(figyelo.homokoraval > 0);
+            QCOMPARE(figyelo.homokoraNelkul, 0);
+            QVERIFY(QGuiApplication::overrideCursor() == nullptr);
+            QTest::qWait(tobbOrajel);
+        }
     }
 
     void azOrajelKovetiAKepletet() {

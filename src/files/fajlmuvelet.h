@@ -1,0 +1,15 @@
+#pragma once
+
+#include <fstream>
+#include <string>
+#include <string_view>
+
+/// Opens a file for reading bytes. Only a regular file, or a link to one, opens: a pipe would keep the
+/// program waiting for whoever writes into it, and a device may never end.
+std::ifstream OlvasasraNyit(const std::string& fajl);
+
+/// Writes a whole file: beside the old one, which it then replaces by a rename, so that after a failure (a
+/// full disk, a missing folder) the old file stands as it was and no fragment is left. A link stays a link.
+/// What is there but is no regular file, or is one that can't be written, is a failure.
+/// @return false on failure
+bool FajlIras(const std::string& fajl, std::string_view tartalom);

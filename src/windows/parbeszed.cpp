@@ -54,6 +54,7 @@ void gomb(QMessageBox& doboz, QMessageBox::StandardButton melyik, const QString&
 /// A message box lays itself out anew when it is shown, so that an empty row of that width has to hold it
 /// open.
 int mutat(QMessageBox& doboz) {
+    doboz.setTextFormat(Qt::PlainText);  // names of people and files stand in it
     if (auto* racs = qobject_cast<QGridLayout*>(doboz.layout()))
         racs->addItem(new QSpacerItem(cimSzelesseg(doboz.windowTitle()), 0), racs->rowCount(), 0, 1,
                       racs->columnCount());

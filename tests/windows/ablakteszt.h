@@ -60,12 +60,15 @@ inline int ertek(const QWidget& ablak, const char* mezo) {
     return vezerlo<QSpinBox>(ablak, mezo)->value();
 }
 
-/// Answers the modal dialog that the next command opens.
+/// Answers the modal dialog that the next command opens. A check that fails in the answer ends the dialog
+/// too.
 inline void valasz(std::function<void(QWidget&)> teendo) {
     QTimer::singleShot(0, [teendo = std::move(teendo)] {
         QWidget* dialogus = QApplication::activeModalWidget();
         if (dialogus == nullptr) qFatal("no dialog is open");
         teendo(*dialogus);
+        while (QTest::currentTestFailed() && QApplication::activeModalWidget() != nullptr)
+            QApplication::activeModalWidget()->hide();
     });
 }
 
@@ -77,6 +80,8 @@ struct TFrissAblakok : TAblakok {
         QApplication::processEvents();
     }
     QTimer* vezerloOra() { return form1.findChild<QTimer*>("Timer1"); }
+    /// Lets the timer run from here on, as it does for a user.
+    void oraIndul() { vezerloOra()->start(); }
     Allapot& allapot() { return form1.allapot(); }
     void orajelek(int szam) {
         for (int i = 0; i < szam; ++i) form1.Timer1Timer();
@@ -86,6 +91,9 @@ struct TFrissAblakok : TAblakok {
         return form1.findChild<KepletFelulet*>("Felulet")->grab().toImage();
     }
 };
+
+/// Time for a few ticks of a running timer, milliseconds.
+inline constexpr int tobbOrajel = 600;
 
 /// Share of black in a picture to the right of the panel, per ten thousand.
 inline int fekete(const QImage& kep) {

@@ -64,7 +64,7 @@ struct TNyomtatas {
         };
         p.beirt = "Születési képlet";
         a.form1.parbeszedBeallitasa(p);
-        a.vezerloOra()->start();
+        a.oraIndul();
         szuletes(a);
     }
     void nyomtat(const QString& fajl) {
@@ -211,7 +211,7 @@ private slots:
         szuletes(a);
         QVERIFY(a.allapot().Keplet.pillanat.ev == 1975);
         kattint(a.form1, "PanelButton2_Most");
-        a.vezerloOra()->start();
+        a.oraIndul();
         QTRY_VERIFY(a.allapot().Keplet.pillanat.ev != 1975);
         const TPillanat kepernyon = a.allapot().Keplet.pillanat;
         menu(a.form1, "Mentes1");
@@ -227,7 +227,7 @@ private slots:
         TFrissAblakok a;
         TProbaParbeszed p;
         a.form1.parbeszedBeallitasa(p);
-        a.vezerloOra()->start();
+        a.oraIndul();
         szuletes(a);
         p.fajl = mappa.filePath("a.kvh");
         menu(a.form1, "Mentes1");
@@ -281,7 +281,7 @@ private slots:
         TFrissAblakok a;
         TProbaParbeszed p;
         a.form1.parbeszedBeallitasa(p);
-        a.vezerloOra()->start();
+        a.oraIndul();
         szuletes(a);
         p.fajlok = {mappa.filePath("anna")};
         menu(a.form1, "Mentes1");
@@ -313,7 +313,7 @@ private slots:
         const TMunkaMappa munka(mappa.ut());
         mappa.irj("Korvend.txt", "Saj\xE1t c\xEDm\n");  // as an older editor writes it
         TFrissAblakok a;
-        a.vezerloOra()->start();
+        a.oraIndul();
         QTRY_VERIFY(a.form1.windowTitle().contains("Saját cím Saját cím"));
     }
 
@@ -478,7 +478,7 @@ private slots:
         TProbaParbeszed p;
         p.nyomtatas = [](QPrinter& nyomtato) { nyomtato.setOutputFormat(QPrinter::PdfFormat); };
         a.form1.parbeszedBeallitasa(p);
-        a.vezerloOra()->start();
+        a.oraIndul();
         menu(a.form1, "Mundan1");
         a.allapot().MostFut = true;
         menu(a.form1, "Nyomtat1");

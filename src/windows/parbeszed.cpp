@@ -61,7 +61,17 @@ int mutat(QMessageBox& doboz) {
     return doboz.exec();
 }
 
-/// @param modositas  of the input field, before it is shown
+/// @param alap  the button that the Enter key presses
+bool igennelFelel(QWidget* szulo, const QString& cim, const QString& kerdes,
+                  QMessageBox::StandardButton alap) {
+    QMessageBox doboz(QMessageBox::Question, cim, kerdes, QMessageBox::NoButton, szulo);
+    gomb(doboz, QMessageBox::Yes, "&Igen");
+    gomb(doboz, QMessageBox::No, "&Nem");
+    doboz.setDefaultButton(alap);
+    return mutat(doboz) == QMessageBox::Yes;
+}
+
+/// @param hossz  characters at most
 std::optional<QString> beviteliMezo(QWidget* szulo, const QString& cim, const QString& felirat,
                                     QLineEdit::EchoMode mod, int hossz) {
     QInputDialog dialogus(szulo);
@@ -97,21 +107,22 @@ QString TParbeszed::mentesHelye(QWidget* szulo, const QString& szuro, const QStr
 }
 
 QString TParbeszed::mentendo(QWidget* szulo, const QString& szuro, const QString& fajlnev) {
-    const QString kerdes = "Ez a fájl már létezik:\n%1\nFelülírja?";
     QString fajl = fajlnev;
     do {
         fajl = mentesHelye(szulo, szuro, fajl);
         if (fajl.isEmpty()) return {};
         fajl = qszoveg(Kiterjesztessel(szoveg(fajl), szoveg(szuroKiterjesztese(szuro))));
-    } while (QFileInfo::exists(fajl) && !igen(szulo, "Mentés", kerdes.arg(QDir::toNativeSeparators(fajl))));
+    } while (QFileInfo::exists(fajl) && !felulirhato(szulo, fajl));
     return mappajaba(fajl);
 }
 
 bool TParbeszed::igen(QWidget* szulo, const QString& cim, const QString& kerdes) {
-    QMessageBox doboz(QMessageBox::Question, cim, kerdes, QMessageBox::NoButton, szulo);
-    gomb(doboz, QMessageBox::Yes, "&Igen");
-    gomb(doboz, QMessageBox::No, "&Nem");
-    return mutat(doboz) == QMessageBox::Yes;
+    return igennelFelel(szulo, cim, kerdes, QMessageBox::Yes);
+}
+
+bool TParbeszed::felulirhato(QWidget* szulo, const QString& fajl) {
+    const QString kerdes = "Ez a fájl már létezik:\n%1\nFelülírja?";
+    return igennelFelel(szulo, "Mentés", kerdes.arg(QDir::toNativeSeparators(fajl)), QMessageBox::No);
 }
 
 void TParbeszed::uzenet(QWidget* szulo, const QString& szoveg) {

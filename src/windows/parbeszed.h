@@ -35,6 +35,8 @@ public:
     virtual bool vanNyomtato();
 
 protected:
+    /// Whether an existing file may be written over; Enter alone leaves it.
+    virtual bool felulirhato(QWidget* szulo, const QString& fajl);
     /// One opening of the save dialog. @return the path as typed, empty on cancel
     virtual QString mentesHelye(QWidget* szulo, const QString& szuro, const QString& fajlnev);
 };

@@ -30,14 +30,17 @@ private slots:
         for (int kor = 0; kor < 2; ++kor) {
             menu(a.form1, "Primer1");
             QVERIFY(a.form12.isVisible());
-            valasz([](QWidget& d) {
+            valasz([&a](QWidget& d) {
                 QCOMPARE(dynamic_cast<QMessageBox&>(d).text(), "Valóban ki akar lépni?");
                 QVERIFY(felul(d));
                 QVERIFY(kepernyon(d));
+                // A click on the list would else raise it over the question.
+                QVERIFY(!felul(a.form12));
                 QTest::keyClick(&d, Qt::Key_Escape);
             });
             menu(a.form1, "Kilepes1");
             QVERIFY(a.form1.isVisible());
+            QVERIFY(felul(a.form12));
             a.form12.close();
         }
     }
@@ -79,6 +82,37 @@ private slots:
             kattint(d, "Button_Megsem2");
         });
         kattint(a.form13, "Button_Eletesemenyek1");
+    }
+
+    void aDialogusDialogusaAnnakFolott() {
+        TFrissAblakok a;
+        szuletes(a);
+        for (const bool primer : {true, false}) {
+            if (primer) menu(a.form1, "Primer1");
+            valasz([&](QWidget& form2) {
+                valasz([&](QWidget& form10) {
+                    QCOMPARE(form10.objectName(), "TForm10");
+                    QCOMPARE(form10.windowHandle()->transientParent(), form2.windowHandle());
+                    QCOMPARE(felul(form10), primer);
+                    QVERIFY(!felul(form2));
+                    QTest::keyClick(&form10, Qt::Key_Escape);
+                });
+                kattint(form2, "Button_Eletesemenyek1");
+                QCOMPARE(felul(form2), primer);
+                kattint(form2, "Button_Megsem1");
+            });
+            menu(a.form1, "Szemely_adatok1");
+            QVERIFY(felul(a.form12));
+            if (!primer) continue;
+            kattint(a.form12, "Button_Pontositas1");
+            valasz([&](QWidget& form10) {
+                QCOMPARE(form10.windowHandle()->transientParent(), a.form1.windowHandle());
+                QTest::keyClick(&form10, Qt::Key_Escape);
+            });
+            kattint(a.form13, "Button_Eletesemenyek1");
+            a.form13.close();
+            a.form12.close();
+        }
     }
 
     void aKepernyoSzelenAlloAblakDialogusaIsEgeszbenLatszik() {

@@ -128,7 +128,7 @@ private slots:
                     });
                     QTest::keyClick(nevMezo(ujra), Qt::Key_Return);
                 });
-                QTest::keyClick(&kerdes, Qt::Key_Escape);
+                QTest::keyClick(&kerdes, Qt::Key_Return);  // the careful answer
             });
             fajlnevBeirasa(d, "anna");
         });

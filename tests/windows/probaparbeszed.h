@@ -49,6 +49,10 @@ public:
     QStringList uzenetek;
 
 protected:
+    bool felulirhato(QWidget*, const QString& letezo) override {
+        kerdesek << letezo;
+        return igenek.isEmpty() ? igenre : igenek.takeFirst();
+    }
     QString mentesHelye(QWidget*, const QString& szuro, const QString& fajlnev) override {
         kerdesek << szuro << fajlnev;
         return fajlok.isEmpty() ? fajl : fajlok.takeFirst();

@@ -10,6 +10,7 @@
 #include "commands/rendszerido.h"
 #include "drawing/betutipus.h"
 #include "files/cimfajl.h"
+#include "files/fajlmuvelet.h"
 #include "tables/pillanat.h"
 
 namespace {
@@ -20,8 +21,8 @@ bool fajlVan(const std::string& fajl) {
 }
 
 void cimekOlvasasa(Allapot& allapot) {
-    std::ifstream be(cimFajlNev);
-    if (be) CimFajlOlvas(be, allapot.FeliratSzovegek);
+    std::ifstream be = OlvasasraNyit(cimFajlNev);
+    if (be.is_open()) CimFajlOlvas(be, allapot.FeliratSzovegek);
 }
 
 void betutipusValasztas(Allapot& allapot, std::vector<std::string> mappak) {

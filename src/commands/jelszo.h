@@ -1,9 +1,14 @@
 #pragma once
 
+#include <string_view>
+
 #include "chart/allapot.h"
 
 inline constexpr int jelszoHossz = 15;       ///< characters at most
 inline constexpr int jelszoValtozasok = 30;  ///< changes of the field at which the program ends
+
+/// Whether what the user gave as a password means that they want none: nothing, or a single blank.
+bool NincsJelszo(std::string_view jelszo);
 
 enum class JelszoValasz { tovabb, jo, vege };
 

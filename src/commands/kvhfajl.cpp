@@ -9,6 +9,8 @@
 
 #include "chart/kepletciklus.h"
 #include "commands/szemelyiadatok.h"
+#include "files/fajlmuvelet.h"
+#include "files/fajlnev.h"
 #include "files/kvhrekord.h"
 #include "tables/fokperc.h"
 #include "tables/pillanat.h"
@@ -42,8 +44,9 @@ TKvhRekord esemenyRekord(const TEletesemeny& e, int index) {
             std::to_string(e.solarNap)};
 }
 
-void rekordIras(std::ostream& ki, const TKvhRekord& rekord) {
-    for (const std::uint8_t bajt : KvhKodolas(rekord)) ki.put(static_cast<char>(bajt));
+void hozzafuz(std::string& tartalom, const TKvhRekord& rekord) {
+    const TKvhBajtok bajtok = KvhKodolas(rekord);
+    tartalom.append(bajtok.begin(), bajtok.end());
 }
 
 std::optional<TKvhRekord> rekordOlvasas(std::istream& be) {
@@ -89,12 +92,15 @@ std::optional<TEletesemeny> esemenyAtvetel(const TKvhRekord& r) {
 }  // namespace
 
 TKvhHiba KepletMentes(const Allapot& allapot, const std::string& fajl) {
-    std::ofstream ki(fajl, std::ios::binary | std::ios::trunc);
-    rekordIras(ki, kepletRekord(allapot));
+    std::string tartalom;
+    hozzafuz(tartalom, kepletRekord(allapot));
     for (int i = 1; i <= allapot.Esemenyek.EsemenyDb; ++i)
-        rekordIras(ki, esemenyRekord(allapot.Esemenyek.esemenyek[i], i));
-    ki.close();
-    return ki ? TKvhHiba{} : irasiHiba;
+        hozzafuz(tartalom, esemenyRekord(allapot.Esemenyek.esemenyek[i], i));
+    return FajlIras(fajl, tartalom) ? TKvhHiba{} : irasiHiba;
+}
+
+std::string KvhFajlNev(const TSzemely& szemely) {
+    return FajlNev(szemely.nev) + ".kvh";
 }
 
 TKvhHiba KepletBeolvasas(Allapot& allapot, std::istream& be) {
@@ -116,7 +122,7 @@ TKvhHiba KepletBeolvasas(Allapot& allapot, std::istream& be) {
 
 TKvhHiba KepletMegnyitas(Allapot& allapot, FoAblak& ablak, const std::string& fajl,
                          const std::function<void()>& hangLink) {
-    std::ifstream be(fajl, std::ios::binary);
+    std::ifstream be = OlvasasraNyit(fajl);
     if (TKvhHiba hiba = KepletBeolvasas(allapot, be)) return hiba;
     hangLink();
     allapot.Keplet.pillanat = allapot.Szemely.beirt;

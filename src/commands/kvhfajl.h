@@ -13,15 +13,18 @@
 /// A failure's message to the user; nothing on success.
 using TKvhHiba = std::optional<std::string>;
 
-/// Writes the chart on screen with its events over the file. After a failure the file is as far as written.
+/// Writes the chart on screen with its events over the file. After a failure the old file stands as it was.
 TKvhHiba KepletMentes(const Allapot& allapot, const std::string& fajl);
+
+/// File name that saving proposes: the person's, as a plain file name.
+std::string KvhFajlNev(const TSzemely& szemely);
 
 /// Reads the file's fields into the state: the chart as typed data, the events into the store, whose slots
 /// above the count keep what they held. After a failure, which an event count outside 0..20 is too, what was
 /// read stays.
 TKvhHiba KepletBeolvasas(Allapot& allapot, std::istream& be);
 
-/// Reads a file, plays its sound, and shows its chart.
+/// Reads a file, plays its sound, and shows its chart. A pipe, a device or a folder is a read error.
 /// @param hangLink  called between reading and showing
 TKvhHiba KepletMegnyitas(Allapot& allapot, FoAblak& ablak, const std::string& fajl,
                          const std::function<void()>& hangLink);

@@ -1,12 +1,15 @@
 #include "commands/nyomtatas.h"
 
+#include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <string_view>
 
 #include "chart/statuszsor.h"
 #include "commands/nezet.h"
 #include "drawing/geometria.h"
 #include "drawing/kepletrajz.h"
+#include "files/fajlnev.h"
 #include "tables/pillanat.h"
 #include "tables/szamtan.h"
 #include "tables/szotar.h"
@@ -24,6 +27,21 @@ std::string FejlecSzoveg(const TKeplet& k, const std::string& megnevezes) {
 void NyomtatasNezete(Allapot& allapot, const std::string& megnevezes) {
     NezetBeallitas(allapot, TKepletTipus::radix);
     allapot.Feliratok.statusz[panelNev] = megnevezes;
+}
+
+std::string PdfFajlNev(const Allapot& allapot) {
+    const TPillanat& p = allapot.Keplet.pillanat;
+    const std::string datum = std::to_string(p.ev) + "-" + ketJegy(p.ho) + "-" + ketJegy(p.nap);
+    const std::string nev = FajlNev(allapot.Szemely.nev);
+    return (nev.empty() ? datum : nev + " " + datum) + ".pdf";
+}
+
+int NyomtatasiFelbontas(const std::vector<int>& tudott) {
+    constexpr int kivant = 300;
+    const auto legkozelebbi = std::min_element(tudott.begin(), tudott.end(), [](int a, int b) {
+        return std::abs(a - kivant) < std::abs(b - kivant);
+    });
+    return legkozelebbi == tudott.end() ? kivant : *legkozelebbi;
 }
 
 namespace {

@@ -1,5 +1,7 @@
 #include "windows/tform11_jelszo.h"
 
+#include <optional>
+
 #include <QCoreApplication>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
@@ -7,6 +9,7 @@
 #include "chart/allapot.h"
 #include "commands/jelszo.h"
 #include "windows/ablakelhelyezes.h"
+#include "windows/qszoveg.h"
 
 TForm11::TForm11(Allapot& allapot, FoAblak&, QWidget* fo)
     : QDialog(fo, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowStaysOnTopHint),
@@ -29,11 +32,35 @@ TForm11::TForm11(Allapot& allapot, FoAblak&, QWidget* fo)
 }
 
 bool TForm11::ujJelszo(const QString& jelszo) {
-    return tar_.ment(jelszo.left(jelszoHossz));
+    return tar_.ment(NincsJelszo(szoveg(jelszo)) ? QString() : jelszo.left(jelszoHossz));
 }
 
-bool TForm11::JelszoKeres() {
-    if (allapot_.JelszoRendben) return true;
+bool TForm11::ujJelszoKeres(TParbeszed& parbeszed) {
+    const QString cim = "Korvend";
+    std::optional<QString> elso;
+    std::optional<QString> masodik;
+    for (;;) {
+        elso = parbeszed.titok(nullptr, cim,
+                               "Jelszó megadása:\nKis betűket használjon.\n"
+                               "Ha nem akar jelszót használni, hagyja üresen.",
+                               jelszoHossz);
+        if (!elso) return false;
+        masodik = parbeszed.titok(nullptr, cim, "Jelszó megadása még egyszer:", jelszoHossz);
+        if (!masodik) return false;
+        if (elso == masodik) break;
+        parbeszed.uzenet(nullptr, "A két jelszó nem egyezik.");
+    }
+    const bool kesz = ujJelszo(*elso);
+    if (!kesz) parbeszed.uzenet(nullptr, "A jelszó nem menthető.");
+    return kesz;
+}
+
+bool TForm11::jelszoCsere(TParbeszed& parbeszed) {
+    if (!allapot_.JelszoRendben) kerdez();
+    return allapot_.JelszoRendben && ujJelszoKeres(parbeszed);
+}
+
+void TForm11::kerdez() {
     {
         const QSignalBlocker blokk(edit1_);
         edit1_->clear();
@@ -41,6 +68,12 @@ bool TForm11::JelszoKeres() {
     adjustSize();
     kozepre(*this, *fo_);
     exec();
+}
+
+bool TForm11::JelszoKeres() {
+    if (allapot_.JelszoRendben) return true;
+    if (isVisible()) return false;
+    kerdez();
     if (!allapot_.JelszoRendben) programVege();
     return allapot_.JelszoRendben;
 }

@@ -287,7 +287,12 @@ void TForm1::Memo1Change() {
 }
 
 bool TForm1::eventFilter(QObject* targy, QEvent* esemeny) {
-    if (targy == felulet_ && esemeny->type() == QEvent::MouseButtonPress) FormMouseDown();
+    if (esemeny->type() == QEvent::MouseButtonPress) {
+        // A press on the panel stops here. On the surface below it would ask for the password, and the click
+        // would end in the prompt.
+        if (targy == panel1_) return true;
+        if (targy == felulet_) FormMouseDown();
+    }
     if (esemeny->type() == QEvent::MouseButtonRelease) {
         if (targy == panel1_) Panel1Click();
         if (targy == memo1_->viewport()) Memo1Change();

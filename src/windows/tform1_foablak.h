@@ -112,6 +112,10 @@ private:
     bool JelszoKeres();
     void closeEvent(QCloseEvent* esemeny) override;
     void nyomtatas();
+    void papirraNyomtatas(const QString& nev);
+    void pdfNyomtatas(const QString& nev);
+    bool lapFestes(QPagedPaintDevice& lap, const QString& nev);
+    bool nyomtatoBeallitas();
     /// Made at the first use: asking the system for its printers takes longer than the whole start.
     QPrinter& nyomtato();
     void szemelyiAblak(bool ujKeplet);
@@ -122,6 +126,7 @@ private:
     TParbeszed alapParbeszed_;
     TParbeszed* parbeszed_ = &alapParbeszed_;
     std::unique_ptr<QPrinter> nyomtato_;
+    bool nyomtatoBeallitva_ = false;  ///< the printer set-up has been accepted in this run
     TAblakok* ablakok_ = nullptr;
     KepletFelulet* felulet_;
     QFrame* panel1_;

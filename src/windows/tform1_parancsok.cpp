@@ -1,7 +1,9 @@
 // The main window's commands: each opens what it needs and hands over to the core.
 
+#include <QBuffer>
 #include <QCloseEvent>
 #include <QPainter>
+#include <QPdfWriter>
 #include <QPrinter>
 
 #include "chart/allapot.h"
@@ -14,6 +16,7 @@
 #include "commands/orbisok.h"
 #include "commands/rendszerido.h"
 #include "commands/szemelyiadatok.h"
+#include "files/fajlmuvelet.h"
 #include "predictive/visszateresek.h"
 #include "tables/pillanat.h"
 #include "windows/ablakelhelyezes.h"
@@ -86,7 +89,7 @@ const QString kvhSzuro = QStringLiteral("Kvh files (*.kvh)");
 
 void TForm1::Mentes1Click() {
     allapot_.Modositott = false;
-    const QString fajl = parbeszed_->mentendo(this, kvhSzuro, qszoveg(allapot_.Szemely.nev) + ".kvh");
+    const QString fajl = parbeszed_->mentendo(this, kvhSzuro, qszoveg(KvhFajlNev(allapot_.Szemely)));
     if (fajl.isEmpty()) return;
     if (const auto hiba = KepletMentes(allapot_, szoveg(fajl))) parbeszed_->uzenet(this, qszoveg(*hiba));
 }
@@ -174,7 +177,7 @@ void TForm1::Nyomtato_beallitas1Click() {
     allapot_.MostFut = false;
     allapot_.Feliratok.mostGomb = "Most";
     Mutat();
-    parbeszed_->nyomtatoBeallitas(this, nyomtato());
+    nyomtatoBeallitas();
 }
 
 QPrinter& TForm1::nyomtato() {
@@ -182,21 +185,54 @@ QPrinter& TForm1::nyomtato() {
     return *nyomtato_;
 }
 
-void TForm1::nyomtatas() {
-    const bool fajlba = !nyomtato().outputFileName().isEmpty();
-    if (!fajlba && !parbeszed_->vanNyomtato() && !parbeszed_->nyomtatoBeallitas(this, nyomtato())) return;
-    const QString nev = parbeszed_->bekeres(this, "Nyomtatás", "Kérek egy megnevezést:");
-    if (nev.isEmpty()) return;
+bool TForm1::nyomtatoBeallitas() {
+    const bool elfogadva = parbeszed_->nyomtatoBeallitas(this, nyomtato());
+    nyomtatoBeallitva_ = nyomtatoBeallitva_ || elfogadva;
+    return elfogadva;
+}
+
+bool TForm1::lapFestes(QPagedPaintDevice& lap, const QString& nev) {
     NyomtatasNezete(allapot_, szoveg(nev));
     Mutat();
-    const QSize lap = nyomtato().pageRect(QPrinter::DevicePixel).size().toSize();
     QPainter festo;
-    if (!festo.begin(&nyomtato())) {
-        parbeszed_->uzenet(this, "A nyomtatás nem indítható el.");
-        return;
-    }
+    if (!festo.begin(&lap)) return false;
     QtVaszon vaszon(festo);
     LapRajz(vaszon, allapot_, FejlecSzoveg(allapot_.Keplet, szoveg(nev)), lap.width(), lap.height());
+    return festo.end();
+}
+
+void TForm1::papirraNyomtatas(const QString& nev) {
+    const QList<int> tudott = nyomtato().supportedResolutions();
+    nyomtato().setResolution(NyomtatasiFelbontas({tudott.begin(), tudott.end()}));
+    nyomtato().setDocName(nev);
+    if (!lapFestes(nyomtato(), nev) || nyomtato().printerState() == QPrinter::Error)
+        parbeszed_->uzenet(this, "A nyomtatás nem sikerült.");
+}
+
+/// The page is painted into memory first: so the file is written in one piece, and whatever keeps it from
+/// being written is known.
+void TForm1::pdfNyomtatas(const QString& nev) {
+    const QString fajl = parbeszed_->mentendo(this, "PDF (*.pdf)", qszoveg(PdfFajlNev(allapot_)));
+    if (fajl.isEmpty()) return;
+    QBuffer tar;
+    tar.open(QIODevice::WriteOnly);
+    QPdfWriter pdf(&tar);
+    pdf.setPageLayout(nyomtato().pageLayout());
+    pdf.setResolution(NyomtatasiFelbontas({}));
+    pdf.setTitle(nev);
+    pdf.setCreator("Korvend");
+    if (!lapFestes(pdf, nev) || !FajlIras(szoveg(fajl), tar.data().toStdString()))
+        parbeszed_->uzenet(this, "A nyomtatás nem sikerült, a fájl nem írható:\n" + fajl);
+}
+
+void TForm1::nyomtatas() {
+    if (!nyomtatoBeallitva_ && !parbeszed_->vanNyomtato() && !nyomtatoBeallitas()) return;
+    const QString nev = parbeszed_->bekeres(this, "Nyomtatás", "Kérek egy megnevezést:");
+    if (nev.isEmpty()) return;
+    if (nyomtato().outputFormat() == QPrinter::PdfFormat)
+        pdfNyomtatas(nev);
+    else
+        papirraNyomtatas(nev);
 }
 
 void TForm1::Nyomtat1Click() {

@@ -1,9 +1,12 @@
 #include "windows/tform5_hanglejatszo.h"
 
+#include <utility>
+
 #include <QAudioOutput>
 #include <QDir>
 #include <QFileInfo>
 #include <QHBoxLayout>
+#include <QHideEvent>
 #include <QUrl>
 
 #include "chart/allapot.h"
@@ -60,6 +63,7 @@ void TForm5::HangLink() {
     if (!VanHang(allapot_.Szemely) || fajl.empty()) return;
     lejatszo().stop();
     lejatszo().setSource(QUrl());
+    hibaJelezve_ = false;
     lejatszo().setSource(QUrl::fromLocalFile(qszoveg(fajl)));
     lejatszo().play();
     felulKozepre(*this, *fo_);
@@ -68,7 +72,14 @@ void TForm5::HangLink() {
     allapot_.HangAktiv = true;
 }
 
+void TForm5::hideEvent(QHideEvent* esemeny) {
+    QDialog::hideEvent(esemeny);
+    // A spontaneous event is a minimized window, which plays on.
+    if (lejatszo_ != nullptr && !esemeny->spontaneous()) lejatszo_->stop();
+}
+
 void TForm5::hiba(int kod, const QString& szoveg) {
-    if (parbeszed_ != nullptr)
-        parbeszed_->uzenet(this, QStringLiteral("Hibakód: %1\r\n%2").arg(kod).arg(szoveg));
+    // One broken file makes the player report several errors in a row.
+    if (parbeszed_ == nullptr || std::exchange(hibaJelezve_, true)) return;
+    parbeszed_->uzenet(this, QStringLiteral("Hibakód: %1\r\n%2").arg(kod).arg(szoveg));
 }

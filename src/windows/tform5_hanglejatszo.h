@@ -27,9 +27,12 @@ private:
     /// The player; made at the first sound, since most charts have none and it loads the media system.
     QMediaPlayer& lejatszo();
     void hiba(int kod, const QString& szoveg);
+    /// However the window is closed, the sound ends with it.
+    void hideEvent(QHideEvent* esemeny) override;
 
     Allapot& allapot_;
     QWidget* fo_;
     TParbeszed* parbeszed_ = nullptr;
     QMediaPlayer* lejatszo_ = nullptr;
+    bool hibaJelezve_ = false;  ///< of the file that is open
 };

@@ -26,4 +26,17 @@ TEST(Hang, AKeresesSorrendje) {
     EXPECT_EQ(HangFajlKeres("Korvend/N", mappak, van), std::string());
 }
 
+TEST(Hang, AJelAzElsoKarakter) {
+    TSzemely sz;
+    EXPECT_FALSE(VanHang(sz));
+    for (const char* jel : {"H", "Hang"}) {
+        sz.hangJel = jel;
+        EXPECT_TRUE(VanHang(sz));
+    }
+    for (const char* jel : {"h", " H", "XH"}) {
+        sz.hangJel = jel;
+        EXPECT_FALSE(VanHang(sz));
+    }
+}
+
 }  // namespace

@@ -4,8 +4,10 @@
 
 #include "chart/statuszsor.h"
 #include "commands/indulas.h"
+#include "ideiglenesmappa.h"
 #include "indultprogram.h"
 #include "probaablak.h"
+#include "rendszerhatar.h"
 
 namespace {
 
@@ -45,6 +47,33 @@ TEST(Indulas, BetutipusNelkulAPotNev) {
     TProbaAblak ablak;
     Indulas(a, ablak, {"/nincs ilyen mappa/"});
     EXPECT_EQ(a.Rajz.szimbolumFont, "AstroMidget Bold");
+}
+
+TEST(Indulas, ACimFajlAzAktualisMappabolValo) {
+    const TIdeiglenesMappa itt;
+    const TIdeiglenesMappa mashol;
+    itt.irj("Korvend.txt", "első cím\nm\xE1sodik\n");
+    TProbaAblak ablak;
+    for (const TIdeiglenesMappa* mappa : {&itt, &mashol}) {
+        const TMunkaMappa munka(mappa->ut());
+        Allapot a;
+        ASSERT_TRUE(Indulas(a, ablak, {}));
+        const bool van = mappa == &itt;
+        EXPECT_EQ(a.FeliratSzovegek[1].substr(0, 11), van ? "első cím " : "");
+        EXPECT_EQ(a.FeliratSzovegek[2].substr(0, 9), van ? "második " : "");
+        EXPECT_EQ(a.FeliratSzovegek[3], "");
+    }
+}
+
+TEST(Indulas, ACsovezetekNemCimFajl) {
+    const TIdeiglenesMappa mappa;
+    const TMunkaMappa munka(mappa.ut());
+    const TCsovezetek cso(mappa.fajl("Korvend.txt"));
+    ASSERT_TRUE(cso.van());
+    Allapot a;
+    TProbaAblak ablak;
+    ASSERT_TRUE(Indulas(a, ablak, {}));
+    for (const std::string& cim : a.FeliratSzovegek) EXPECT_EQ(cim, "");
 }
 
 }  // namespace

@@ -10,7 +10,9 @@
 #include "chart/statuszsor.h"
 #include "commands/kvhfajl.h"
 #include "files/kvhrekord.h"
+#include "ideiglenesmappa.h"
 #include "probaablak.h"
+#include "rendszerhatar.h"
 
 namespace {
 
@@ -18,21 +20,11 @@ namespace fs = std::filesystem;
 
 class TKvh : public testing::Test {
 protected:
-    TKvh() : mappa(fs::temp_directory_path() / ("korvend-kvh-" + std::to_string(std::random_device{}()))) {
-        fs::create_directories(mappa);
-    }
-    ~TKvh() override { fs::remove_all(mappa); }
+    std::string fajl(const char* nev = "a.kvh") const { return mappa.fajl(nev); }
+    void irj(const std::string& tartalom) const { mappa.irj("a.kvh", tartalom); }
+    std::string olvasd() const { return mappa.olvasd("a.kvh"); }
 
-    std::string fajl(const char* nev = "a.kvh") const { return (mappa / nev).string(); }
-    void irj(const std::string& tartalom) const { std::ofstream(fajl(), std::ios::binary) << tartalom; }
-    std::string olvasd() const {
-        std::ifstream be(fajl(), std::ios::binary);
-        std::ostringstream ki;
-        ki << be.rdbuf();
-        return ki.str();
-    }
-
-    fs::path mappa;
+    TIdeiglenesMappa mappa;
 };
 
 Allapot minta(int esemenyek = 0) {
@@ -195,12 +187,68 @@ TEST_F(TKvh, HibaUtanAMarOlvasottMarad) {
 }
 
 TEST_F(TKvh, MappaEsHianyzoFajl) {
-    hibasOlvasas(mappa.string());
+    hibasOlvasas(mappa.ut().string());
     hibasOlvasas(fajl("nincs.kvh"));
 }
 
+TEST_F(TKvh, ACsovezetekEsAzEszkozOlvasasiHiba) {
+    const TCsovezetek cso(fajl("cso.kvh"));
+    ASSERT_TRUE(cso.van());
+    hibasOlvasas(fajl("cso.kvh"));
+    hibasOlvasas("/dev/zero");  // as long as it is read, it gives valid records
+    hibasOlvasas("/dev/null");
+}
+
+TEST_F(TKvh, AHivatkozasonAtIsOlvas) {
+    ASSERT_FALSE(KepletMentes(minta(), fajl()));
+    fs::create_symlink(fajl(), fajl("b.kvh"));
+    Allapot a;
+    TProbaAblak ablak;
+    EXPECT_FALSE(KepletMegnyitas(a, ablak, fajl("b.kvh"), [] {}));
+    EXPECT_EQ(a.Szemely.nev, "Őrző Árpád");
+}
+
+TEST_F(TKvh, AMegnyitasElsoNezetetAd) {
+    ASSERT_FALSE(KepletMentes(minta(), fajl()));
+    for (const TKepletTipus nezet : {TKepletTipus::mundan, TKepletTipus::dekad}) {
+        Allapot a;
+        a.KepletTipus = nezet;
+        a.Feliratok.valtGomb = "Radix";
+        a.Feliratok.statusz[panelTipus] = "Dekád";
+        TProbaAblak ablak;
+        ASSERT_FALSE(KepletMegnyitas(a, ablak, fajl(), [] {}));
+        EXPECT_EQ(a.KepletTipus, TKepletTipus::radix);
+        EXPECT_EQ(a.Feliratok.valtGomb, "Mundán");
+        EXPECT_EQ(a.Feliratok.statusz[panelTipus], "Radix");
+    }
+}
+
+TEST_F(TKvh, ASikertelenMentesARegitHagyja) {
+    ASSERT_FALSE(KepletMentes(minta(1), fajl()));
+    const std::string regi = olvasd();
+    {
+        const TTeliLemez teli(1000);
+        const TKvhHiba hiba = KepletMentes(minta(20), fajl());
+        ASSERT_TRUE(hiba);
+        EXPECT_EQ(*hiba, "File írási hiba!");
+    }
+    EXPECT_EQ(olvasd(), regi);
+    EXPECT_EQ(mappa.tartalma(), std::vector<std::string>{"a.kvh"});
+}
+
+TEST_F(TKvh, AJavasoltNevMindigSimaFajlnev) {
+    TSzemely sz;
+    EXPECT_EQ(KvhFajlNev(sz), ".kvh");
+    sz.nev = "Őrző Árpád";
+    EXPECT_EQ(KvhFajlNev(sz), "Őrző Árpád.kvh");
+    sz.nev = "Kiss/Nagy";
+    EXPECT_EQ(KvhFajlNev(sz), "Kiss-Nagy.kvh");
+    sz.nev = "../../x";
+    EXPECT_EQ(KvhFajlNev(sz), "---..-x.kvh");
+}
+
 TEST_F(TKvh, AzIrasHibai) {
-    for (const std::string& hova : {std::string("/dev/full"), mappa.string(), fajl("nincs/a.kvh")}) {
+    for (const std::string& hova : {std::string("/dev/full"), mappa.ut().string(), fajl("nincs/a.kvh")}) {
         const TKvhHiba hiba = KepletMentes(minta(3), hova);
         ASSERT_TRUE(hiba) << hova;
         EXPECT_EQ(*hiba, "File írási hiba!");

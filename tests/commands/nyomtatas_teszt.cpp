@@ -53,4 +53,26 @@ TEST(Nyomtatas, AFekvoLapKozepe) {
     EXPECT_EQ(a.Rajz.kerekSugar, 1860);
 }
 
+TEST(Nyomtatas, APdfNeveASzemelyNeveEsAKepletDatuma) {
+    Allapot a;
+    a.Keplet.pillanat = {1975, 3, 21, 6, 4, 9};
+    a.Szemely.nev = "Minta Anna";
+    EXPECT_EQ(PdfFajlNev(a), "Minta Anna 1975-03-21.pdf");
+    a.Szemely.nev = "Kiss/Nagy";
+    EXPECT_EQ(PdfFajlNev(a), "Kiss-Nagy 1975-03-21.pdf");
+    a.Szemely.nev = "../../x";
+    EXPECT_EQ(PdfFajlNev(a), "---..-x 1975-03-21.pdf");
+    a.Szemely.nev = "";
+    a.Keplet.pillanat = {2068, 11, 2, 0, 0, 0};
+    EXPECT_EQ(PdfFajlNev(a), "2068-11-02.pdf");
+}
+
+TEST(Nyomtatas, AFelbontas300VagyALegkozelebbi) {
+    EXPECT_EQ(NyomtatasiFelbontas({}), 300);
+    EXPECT_EQ(NyomtatasiFelbontas({72, 300, 1200}), 300);
+    EXPECT_EQ(NyomtatasiFelbontas({600, 1200}), 600);
+    EXPECT_EQ(NyomtatasiFelbontas({203}), 203);
+    EXPECT_EQ(NyomtatasiFelbontas({72, 360, 180}), 360);
+}
+
 }  // namespace

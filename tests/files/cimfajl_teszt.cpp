@@ -45,4 +45,22 @@ TEST(CimFajl, AzUresSorNalMegallEsHatnalTobbetNemOlvas) {
     EXPECT_EQ(c[6].substr(0, 2), "f ");
 }
 
+TEST(CimFajl, ANemUtf8SorKodlap1250) {
+    // "Őrző sor", once in code page 1250 and once in UTF-8, in the same file.
+    const TCimek c = cimek("\xD5rz\xF5 sor\nŐrző sor\n");
+    EXPECT_EQ(elsoKarakterek(c[1], 17), "Őrző sor Őrző sor");
+    EXPECT_EQ(c[1], c[2]);
+    // 9 characters with the blank: 22 + 1 = 23 times.
+    EXPECT_EQ(karakterSzam(c[1]), 207);
+}
+
+TEST(CimFajl, EgyRosszBajtAzEgeszSortKodlappaTeszi) {
+    EXPECT_EQ(cimek("\xC5\x91 \xF5\n")[1].substr(0, 9), "Ĺ‘ ő ");
+}
+
+TEST(CimFajl, ABajtsorrendJelNemResze) {
+    EXPECT_EQ(cimek("\xEF\xBB\xBFűr\n")[1].substr(0, 4), "űr ");
+    EXPECT_EQ(cimek("\xEF\xBB\xBF\n")[1], "");
+}
+
 }  // namespace

@@ -1,6 +1,8 @@
 // The store of the password.
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QStandardPaths>
 #include <QTest>
 
@@ -40,12 +42,54 @@ private slots:
     }
 
     void ketUgyanolyanJelszoTaraKulonbozik() {
-        const auto tartalom = [] {
+        const auto ujTar = [] {
             TJelszoTar(tarFajl()).ment("titok");
-            QFile be(tarFajl());
-            return be.open(QIODevice::ReadOnly) ? be.readAll() : QByteArray();
+            return tartalom();
         };
-        QVERIFY(tartalom() != tartalom());
+        QVERIFY(ujTar() != ujTar());
+    }
+
+    void aJelszoNelkuliTarSzava() {
+        // Other tools write this word too, so that the first run does not ask.
+        QVERIFY(TJelszoTar(tarFajl()).ment(""));
+        QCOMPARE(tartalom(), QByteArray("nincs\n"));
+        for (const char* szo : {"nincs\n", "nincs"}) {
+            irj(szo);
+            QCOMPARE(TJelszoTar(tarFajl()).allas(), TJelszoTar::Allas::nincsJelszo);
+        }
+    }
+
+    void masSzoOlvashatatlan() {
+        for (const char* szo : {"", "\n", "van", "nincs x", "nincsen", "Nincs"}) {
+            irj(szo);
+            const TJelszoTar tar(tarFajl());
+            QCOMPARE(tar.allas(), TJelszoTar::Allas::olvashatatlan);
+            QVERIFY(!tar.egyezik(""));
+        }
+    }
+
+    void azUjJelszoARegitValtja() {
+        TJelszoTar tar(tarFajl());
+        QVERIFY(tar.ment("titok"));
+        QVERIFY(tar.ment("uj"));
+        for (const TJelszoTar& t : {tar, TJelszoTar(tarFajl())}) {
+            QVERIFY(t.egyezik("uj"));
+            QVERIFY(!t.egyezik("titok"));
+        }
+        QVERIFY(tar.ment(""));
+        QCOMPARE(TJelszoTar(tarFajl()).allas(), TJelszoTar::Allas::nincsJelszo);
+    }
+
+private:
+    static QByteArray tartalom() {
+        QFile be(tarFajl());
+        return be.open(QIODevice::ReadOnly) ? be.readAll() : QByteArray();
+    }
+    static void irj(const QByteArray& tartalom) {
+        QVERIFY(QDir().mkpath(QFileInfo(tarFajl()).absolutePath()));
+        QFile ki(tarFajl());
+        QVERIFY(ki.open(QIODevice::WriteOnly));
+        ki.write(tartalom);
     }
 };
 

@@ -115,6 +115,93 @@ private slots:
         }
     }
 
+    void aPaneltLenyomvaMegNemKerdezAzElsoKattintasMarHelyetValt() {
+        TJelszoTar(tarFajl()).ment("ab");
+        TFrissAblakok a;
+        a.oraIndul();
+        auto* panel1 = vezerlo<QFrame>(a.form1, "Panel1");
+        auto* memo = vezerlo<QPlainTextEdit>(a.form1, "Memo1");
+        int kerdesek = 0;
+        const auto jelszotAd = [&kerdesek] {
+            auto* kerdes = QApplication::activeModalWidget();
+            if (kerdes == nullptr) return;
+            ++kerdesek;
+            QTest::keyClicks(vezerlo<QLineEdit>(*kerdes, "Edit1"), "ab");
+        };
+        for (QWidget* hova :
+             {static_cast<QWidget*>(panel1), static_cast<QWidget*>(vezerlo<QLabel>(a.form1, "Label3"))}) {
+            a.allapot().JelszoRendben = false;
+            kerdesek = 0;
+            const int elobb = memo->geometry().top();
+            QTimer::singleShot(0, &a.form1, jelszotAd);
+            QTest::mousePress(hova, Qt::LeftButton);
+            QApplication::processEvents();
+            QCOMPARE(kerdesek, 0);  // a prompt at the press would swallow the release
+            QTimer::singleShot(0, &a.form1, jelszotAd);
+            QTest::mouseRelease(hova, Qt::LeftButton);
+            QCOMPARE(kerdesek, 1);
+            QVERIFY(a.allapot().JelszoRendben);
+            QCOMPARE(memo->geometry().top(), elobb == 600 ? 144 : 600);
+        }
+        QTest::mouseClick(panel1, Qt::LeftButton, {}, QPoint(24, 590));  // given: not asked again
+        QCOMPARE(memo->geometry().top(), 144);
+        QCOMPARE(kerdesek, 1);
+    }
+
+    void aKerdesAlattUjKerdesNincsEsAProgramElMarad() {
+        TJelszoTar(tarFajl()).ment("ab");
+        for (int kor = 0; kor < 2; ++kor) {
+            TFrissAblakok a;
+            int vege = 0;
+            a.form11.programVege = [&vege] { ++vege; };
+            a.oraIndul();
+            QVERIFY(a.allapot().MostFut);
+            auto* memo = vezerlo<QPlainTextEdit>(a.form1, "Memo1");
+            valasz([&](QWidget& d) {
+                QCOMPARE(d.objectName(), "TForm11");
+                // The running clock empties the note: a change that asks for the password again.
+                QTRY_COMPARE(memo->toPlainText(), "");
+                QCOMPARE(vege, 0);
+                QVERIFY(d.isVisible());
+                QVERIFY(!a.form11.JelszoKeres());
+                QCOMPARE(vege, 0);
+                if (kor == 0)
+                    QTest::keyClicks(vezerlo<QLineEdit>(d, "Edit1"), "ab");
+                else
+                    QTest::keyClick(&d, Qt::Key_Escape);
+            });
+            QTest::keyClicks(memo, "j");
+            QCOMPARE(vege, kor);
+            QCOMPARE(a.allapot().JelszoRendben, kor == 0);
+        }
+    }
+
+    void azElsoJelszoKetszerKerve() {
+        TFrissAblakok a;
+        TProbaParbeszed p;
+        p.titkok = {"titok", "titkok", "titok", "titok"};
+        QVERIFY(a.form11.ujJelszoKeres(p));
+        const QString elso =
+            "Jelszó megadása:\nKis betűket használjon.\nHa nem akar jelszót használni, hagyja üresen.";
+        const QString masodik = "Jelszó megadása még egyszer:";
+        QCOMPARE(p.kerdesek, QStringList({"Korvend", elso, "15", "Korvend", masodik, "15", "Korvend", elso,
+                                          "15", "Korvend", masodik, "15"}));
+        QCOMPARE(p.uzenetek, QStringList({"A két jelszó nem egyezik."}));
+        QVERIFY(TJelszoTar(tarFajl()).egyezik("titok"));
+    }
+
+    void azEgySzokozOlyanMintAzUres() {
+        for (const char* nincs : {"", " "}) {
+            QFile::remove(tarFajl());
+            TFrissAblakok a;
+            QVERIFY(a.form11.ujJelszo(nincs));
+            QCOMPARE(TJelszoTar(tarFajl()).allas(), TJelszoTar::Allas::nincsJelszo);
+        }
+        TFrissAblakok a;
+        QVERIFY(a.form11.ujJelszo("  "));  // two blanks are a password
+        QVERIFY(TJelszoTar(tarFajl()).egyezik("  "));
+    }
+
     void aKilepesNemKerdez() {
         TJelszoTar(tarFajl()).ment("ab");
         TFrissAblakok a;

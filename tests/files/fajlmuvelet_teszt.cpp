@@ -1,0 +1,101 @@
+// Opening and writing of whole files.
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "files/fajlmuvelet.h"
+#include "ideiglenesmappa.h"
+#include "rendszerhatar.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using TNevek = std::vector<std::string>;
+
+TEST(OlvasasraNyit, ARendesFajlEsAHozzaVezetoHivatkozasNyilik) {
+    const TIdeiglenesMappa m;
+    m.irj("a", "tartalom");
+    fs::create_symlink(m.fajl("a"), m.fajl("b"));
+    for (const char* nev : {"a", "b"}) {
+        std::ifstream be = OlvasasraNyit(m.fajl(nev));
+        std::string szo;
+        EXPECT_TRUE(be >> szo);
+        EXPECT_EQ(szo, "tartalom");
+    }
+}
+
+TEST(OlvasasraNyit, AmiNemRendesFajlAzNemNyilik) {
+    const TIdeiglenesMappa m;
+    const TCsovezetek cso(m.fajl("cso"));
+    ASSERT_TRUE(cso.van());
+    fs::create_symlink(m.fajl("cso"), m.fajl("hivatkozas"));
+    fs::create_symlink(m.fajl("nincs"), m.fajl("semmibe"));
+    for (const std::string& fajl : {m.fajl("cso"), m.fajl("hivatkozas"), m.fajl("semmibe"), m.fajl("nincs"),
+                                    m.ut().string(), std::string("/dev/zero"), std::string()})
+        EXPECT_FALSE(OlvasasraNyit(fajl).is_open()) << fajl;
+}
+
+TEST(FajlIras, UjFajlEsFelulirasUtanMasNemMarad) {
+    const TIdeiglenesMappa m;
+    EXPECT_TRUE(FajlIras(m.fajl("a"), std::string("egy\0ketto", 9)));
+    EXPECT_EQ(m.olvasd("a"), std::string("egy\0ketto", 9));
+    EXPECT_TRUE(FajlIras(m.fajl("a"), "x"));
+    EXPECT_EQ(m.olvasd("a"), "x");
+    EXPECT_EQ(m.tartalma(), TNevek{"a"});
+}
+
+TEST(FajlIras, AFelulirtFajlJogaiMegmaradnak) {
+    const TIdeiglenesMappa m;
+    m.irj("a", "regi");
+    constexpr auto jogok = fs::perms::owner_read | fs::perms::owner_write | fs::perms::others_exec;
+    fs::permissions(m.fajl("a"), jogok);
+    EXPECT_TRUE(FajlIras(m.fajl("a"), "uj"));
+    EXPECT_EQ(fs::status(m.fajl("a")).permissions(), jogok);
+}
+
+TEST(FajlIras, AHivatkozasHivatkozasMarad) {
+    const TIdeiglenesMappa m;
+    m.irj("a", "regi");
+    fs::create_symlink("a", m.fajl("b"));
+    EXPECT_TRUE(FajlIras(m.fajl("b"), "uj"));
+    EXPECT_TRUE(fs::is_symlink(m.fajl("b")));
+    EXPECT_EQ(m.olvasd("a"), "uj");
+}
+
+TEST(FajlIras, AzAktualisMappabaIsIr) {
+    const TIdeiglenesMappa m;
+    const TMunkaMappa itt(m.ut());
+    EXPECT_TRUE(FajlIras("a", "x"));
+    EXPECT_EQ(m.tartalma(), TNevek{"a"});
+}
+
+TEST(FajlIras, ATeliLemezARegitHagyjaEsToredeketNem) {
+    const TIdeiglenesMappa m;
+    m.irj("a", "regi");
+    {
+        const TTeliLemez teli(1000);
+        EXPECT_FALSE(FajlIras(m.fajl("a"), std::string(100000, 'x')));
+        EXPECT_FALSE(FajlIras(m.fajl("b"), std::string(1001, 'x')));
+        EXPECT_TRUE(FajlIras(m.fajl("c"), std::string(1000, 'x')));
+    }
+    EXPECT_EQ(m.olvasd("a"), "regi");
+    EXPECT_FALSE(fs::exists(m.fajl("b")));
+    EXPECT_EQ(m.tartalma().size(), 2U);
+}
+
+TEST(FajlIras, ARosszHelySikertelen) {
+    const TIdeiglenesMappa m;
+    const TCsovezetek cso(m.fajl("cso"));
+    ASSERT_TRUE(cso.van());
+    for (const std::string& fajl : {m.fajl("nincs/a"), m.ut().string(), m.fajl("cso"),
+                                    std::string("/dev/full"), std::string("/dev/null"), std::string()})
+        EXPECT_FALSE(FajlIras(fajl, "x")) << fajl;
+    EXPECT_TRUE(fs::is_fifo(m.fajl("cso")));
+    EXPECT_TRUE(fs::is_character_file("/dev/null"));
+    EXPECT_EQ(m.tartalma(), TNevek{"cso"});
+}
+
+}  // namespace

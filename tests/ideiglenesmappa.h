@@ -1,0 +1,55 @@
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <string>
+#include <vector>
+
+/// A folder of a test's own, gone with it.
+class TIdeiglenesMappa {
+public:
+    TIdeiglenesMappa()
+        : mappa_(std::filesystem::temp_directory_path() /
+                 ("korvend-teszt-" + std::to_string(std::random_device{}()))) {
+        std::filesystem::create_directories(mappa_);
+    }
+    ~TIdeiglenesMappa() { std::filesystem::remove_all(mappa_); }
+    TIdeiglenesMappa(const TIdeiglenesMappa&) = delete;
+    TIdeiglenesMappa& operator=(const TIdeiglenesMappa&) = delete;
+
+    const std::filesystem::path& ut() const { return mappa_; }
+    std::string fajl(const std::string& nev) const { return (mappa_ / nev).string(); }
+    void irj(const std::string& nev, const std::string& tartalom) const {
+        std::ofstream(fajl(nev), std::ios::binary) << tartalom;
+    }
+    std::string olvasd(const std::string& nev) const {
+        std::ifstream be(fajl(nev), std::ios::binary);
+        return {std::istreambuf_iterator<char>(be), {}};
+    }
+    /// All that lies in the folder, hidden files too.
+    std::vector<std::string> tartalma() const {
+        std::vector<std::string> nevek;
+        for (const auto& elem : std::filesystem::directory_iterator(mappa_))
+            nevek.push_back(elem.path().filename().string());
+        return nevek;
+    }
+
+private:
+    std::filesystem::path mappa_;
+};
+
+/// The current directory for a while.
+class TMunkaMappa {
+public:
+    explicit TMunkaMappa(const std::filesystem::path& mappa) : regi_(std::filesystem::current_path()) {
+        std::filesystem::current_path(mappa);
+    }
+    ~TMunkaMappa() { std::filesystem::current_path(regi_); }
+    TMunkaMappa(const TMunkaMappa&) = delete;
+    TMunkaMappa& operator=(const TMunkaMappa&) = delete;
+
+private:
+    std::filesystem::path regi_;
+};

@@ -49,7 +49,7 @@ TForm13::TForm13(Allapot& allapot, FoAblak&, QWidget* fo)
     : QDialog(fo, Qt::Dialog | Qt::WindowStaysOnTopHint),
       allapot_(allapot),
       fo_(fo),
-      spinEdit1_(new QSpinBox(this)),
+      spinEdit1_(ujSzamMezo(this, "SpinEdit1", 1, 99)),
       memo1_(new QPlainTextEdit(this)),
       memo2_(new QPlainTextEdit(this)),
       memo3_(new QPlainTextEdit(this)) {
@@ -68,8 +68,6 @@ void TForm13::hatotavSor() {
     label1->setObjectName("Label1");
     label1->move(szel, 14);
     label1->adjustSize();
-    spinEdit1_->setObjectName("SpinEdit1");
-    spinEdit1_->setRange(1, 99);
     spinEdit1_->setValue(allapot_.PontositasHatotav);
     spinEdit1_->setGeometry(label1->geometry().right() + 2, 9, 56, 26);
     connect(spinEdit1_, &QSpinBox::valueChanged, this, &TForm13::SpinEdit1Change);

@@ -1,5 +1,6 @@
 #include "rectify/mundankereses.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -9,6 +10,7 @@
 #include "commands/lepteto.h"
 #include "engine/fenyszogek.h"
 #include "tables/efemerida.h"
+#include "tables/helyhatarok.h"
 #include "tables/pillanat.h"
 #include "tables/telepulesek.h"
 
@@ -17,11 +19,27 @@ namespace {
 constexpr int durvaLepes = 30;   ///< seconds
 constexpr int visszaUgras = 31;  ///< from the change back, so that one step of 1 gives the last coarse moment
 constexpr int utolsoKeresettNap = utolsoNap - 1;  ///< a chart reads the row of the next day too
+constexpr int kivulKeresettNapok = 30;
 
 void ertekeles(std::int32_t nap, const TPillanat& p, const TMundanHely& hely, const TOrbisTabla& orbis,
                TMundanErtekeles& e) {
     MundanLanc(nap, p.ora, p.perc, p.mperc, hely, orbis, e.lanc);
     e.analogiak = Analogiak(e.lanc);
+}
+
+/// First and last day of a search. Within the tables a verdict changes in hours or days and the search may
+/// run to the table's end; figures from a zone, a summer time or coordinates outside them may never change
+/// it.
+struct THatar {
+    std::int32_t elso, utolso;
+};
+
+THatar keresesHatara(const TMundanHely& hely, std::int32_t nap) {
+    const bool kivul =
+        !HelyenKivul(hely.idozona, hely.nyariIdo.value_or(0), hely.hosszusag, hely.szelesseg).empty();
+    if (!kivul) return {elsoNap, utolsoKeresettNap};
+    return {std::max(elsoNap, nap - kivulKeresettNapok),
+            std::min(utolsoKeresettNap, nap + kivulKeresettNapok)};
 }
 
 }  // namespace
@@ -58,6 +76,7 @@ TMundanErtekeles MundanKereses(Allapot& allapot, const TMundanHely& hely, int ir
         JulianszambolDatum(nap, p);
     };
 
+    const THatar hatar = keresesHatara(hely, nap);
     TMundanErtekeles e;
     int lepes = durvaLepes;
     ertekeles(nap, p, hely, allapot.OrbisTabla, e);
@@ -67,7 +86,7 @@ TMundanErtekeles MundanKereses(Allapot& allapot, const TMundanHely& hely, int ir
     while (!vege) {
         lep(lepes);
         ertekeles(nap, p, hely, allapot.OrbisTabla, e);
-        vege = nap < elsoNap || nap > utolsoKeresettNap;
+        vege = nap < hatar.elso || nap > hatar.utolso;
         if (vege || e.analogiak.AnalogiaAllapot == kezdo) continue;
         if (lepes == 1) {
             vege = true;

@@ -239,7 +239,7 @@ bool TForm10::valtozott() const {
 
 /// The Escape key and the window's own button; "Mégsem" is an answer already and does not ask.
 void TForm10::reject() {
-    if (valtozott() &&
+    if (parbeszed_ != nullptr && valtozott() &&
         !parbeszed_->igen(this, "Életesemények", "A változtatások elvesznek. Valóban bezárja az ablakot?"))
         return;
     Button_Megsem2Click();

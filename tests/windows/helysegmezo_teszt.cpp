@@ -130,6 +130,17 @@ private slots:
         QCOMPARE(d.rendbenek, 0);
     }
 
+    void atabulatorANyitottListarolIsTovabbmegy() {
+        TProbaDialogus d;
+        beut("szeged");
+        QVERIFY(!d.felkinalt().isEmpty());
+        leut(Qt::Key_Tab);
+        QVERIFY(d.felkinalt().isEmpty());
+        QVERIFY(!d.mezo.hasFocus());
+        QCOMPARE(d.mezo.currentText(), "szeged");  // only Enter takes a name
+        QVERIFY(d.jelolt());
+    }
+
     void azEnterTobbTalalatKozulNemValaszt() {
         TProbaDialogus d;
         beut("komlo");

@@ -102,8 +102,24 @@ void HelysegValtozas(Allapot& allapot, TSzemelyiAdatok& mezok) {
     mezok.nyariIdo = k.nyariIdo;
 }
 
+namespace {
+
+TIdoTipus idoTipus(int index) {
+    return static_cast<TIdoTipus>(std::clamp(index, 0, 2));
+}
+
+}  // namespace
+
+std::string NyariIdoElteres(const TSzemelyiAdatok& mezok, int index) {
+    if (idoTipus(index) != TIdoTipus::ZN)
+        return mezok.nyariIdo == 0 ? "" : "Helyi vagy greenwichi időhöz nem tartozik nyári időszámítás.";
+    const int tablaban = NyariIdoE(mezok.ido);
+    if (mezok.nyariIdo == tablaban) return "";
+    return "Eltér a nyári időszámítás táblájától: ekkor ott " + std::to_string(tablaban) + " áll.";
+}
+
 void IdoTipusValasztas(Allapot& allapot, int index) {
-    allapot.Szemely.idoTipus = static_cast<TIdoTipus>(std::clamp(index, 0, 2));
+    allapot.Szemely.idoTipus = idoTipus(index);
     allapot.Szemely.valasztottIdoTipus = allapot.Szemely.idoTipus;
     allapot.Szemely.idoTipusIndex = index;
 }

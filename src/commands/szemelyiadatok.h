@@ -40,6 +40,11 @@ TSzemelyiAdatok SzemelyMezok(const Allapot& allapot);
 /// the place that is being typed.
 void HelysegValtozas(Allapot& allapot, TSzemelyiAdatok& mezok);
 
+/// A Hungarian sentence where the summer time of the fields is not the one that belongs to their date and
+/// time, empty where it is: under a zone clock the table's, under the other clocks 0.
+/// @param index  the radio group's; -1, no selection, counts as "ZN"
+std::string NyariIdoElteres(const TSzemelyiAdatok& mezok, int index);
+
 /// The time kind of a radio index; -1, no selection, counts as "ZN". It stands against the ticks of the
 /// running clock, which write "ZN", until the dialog closes.
 void IdoTipusValasztas(Allapot& allapot, int index);

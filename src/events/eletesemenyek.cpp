@@ -64,6 +64,24 @@ int EsemenyHelyNyariIdo(TIdoTipus idoTipus, const TPillanat& pillanat) {
     return idoTipus == TIdoTipus::ZN ? NyariIdoE(pillanat) : 0;
 }
 
+TEletesemeny EsemenyKezdoMezok(const TEsemenyTar& tar, const TEletesemeny& szuletes) {
+    const TEletesemeny& ido = tar.EsemenyDb > 0 ? tar.esemenyek[tar.EsemenyDb] : szuletes;
+    TEletesemeny e = ido.helyseg.empty() ? szuletes : ido;
+    e.pillanat = ido.pillanat;
+    e.esemeny.clear();
+    e.analogia.clear();
+    e.solarNap = 0;
+    e.nyariIdo = NyariIdoE(e.pillanat);
+    return e;
+}
+
+bool EsemenyListaAzonos(const TEsemenyTar& egyik, const TEsemenyTar& masik) {
+    if (egyik.EsemenyDb != masik.EsemenyDb) return false;
+    for (int i = 1; i <= egyik.EsemenyDb; ++i)
+        if (!(egyik.esemenyek[i] == masik.esemenyek[i])) return false;
+    return true;
+}
+
 bool EsemenyFelvetel(TEsemenyTar& tar, int& kijelolt, const TEletesemeny& esemeny) {
     if (tar.EsemenyDb >= esemenyHelyek || esemeny.esemeny.empty()) return false;
     tar.esemenyek[kijelolt != 0 ? kijelolt : ++tar.EsemenyDb] = esemeny;

@@ -17,6 +17,16 @@ TPillanat EsemenyGmt(const TEletesemeny& esemeny);
 /// clock, else 0. A change of the date or time asks the table whatever the clock, as users know it.
 int EsemenyHelyNyariIdo(TIdoTipus idoTipus, const TPillanat& pillanat);
 
+/// What the editor's fields start with at its opening: date, time and place of the last listed event, or of
+/// the birth where none is listed, the place also where that event names none; summer time by the table for
+/// that date and time. Texts, analogies and the Sun's house are empty, so that a fresh opening adds nothing
+/// by itself.
+/// @param szuletes  moment and place of the birth
+TEletesemeny EsemenyKezdoMezok(const TEsemenyTar& tar, const TEletesemeny& szuletes);
+
+/// Whether two stores list the same events; what lies above the count does not matter.
+bool EsemenyListaAzonos(const TEsemenyTar& egyik, const TEsemenyTar& masik);
+
 /// What a natal Sun is worked out from.
 struct TSzuletes {
     TPillanat pillanat;

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 
 #include "chart/kepletciklus.h"
 #include "chart/kepletmutatas.h"
@@ -113,6 +114,28 @@ std::vector<std::string> VisszateresSorok(const Allapot& allapot, const TVisszat
                         (fajta.mozgasJel && v.mozgas != 'D' ? " R" : ""));
     }
     return sorok;
+}
+
+namespace {
+
+std::int64_t masodpercben(const TPillanat& p) {
+    return std::int64_t{napSzama(p)} * 86400 + std::int64_t{p.ora} * 3600 + std::int64_t{p.perc} * 60 +
+           p.mperc;
+}
+
+}  // namespace
+
+int LegkozelebbiSor(const TVisszateresek& visszateresek, const TPillanat& pillanat) {
+    const std::int64_t cel = masodpercben(pillanat);
+    int legjobb = 0;
+    std::int64_t legkozelebb = 0;
+    for (int i = 1; i <= visszateresek.szamlalo; ++i) {
+        const std::int64_t tav = std::abs(masodpercben(visszateresek.sorok[i].pillanat) - cel);
+        if (legjobb != 0 && tav >= legkozelebb) continue;
+        legjobb = i;
+        legkozelebb = tav;
+    }
+    return legjobb;
 }
 
 namespace {

@@ -48,6 +48,10 @@ void VisszateresKereses(Allapot& allapot, const TVisszateresFajta& fajta, double
 /// Texts of the list, as in "1975.03.21. 06:04:09 GMT", with " R" behind it for a retrograde crossing.
 std::vector<std::string> VisszateresSorok(const Allapot& allapot, const TVisszateresFajta& fajta);
 
+/// The row of the table, from 1, whose moment is nearest to a given one, whether before or after it; of two
+/// as near the earlier row. 0 for an empty table.
+int LegkozelebbiSor(const TVisszateresek& visszateresek, const TPillanat& pillanat);
+
 /// Makes a row of the table the chart on screen, cast for a place one arcminute east and one north of the
 /// stated one, without summer time. Users compare these charts with their older ones, which carry the minute.
 /// @param sor  from 1; with an empty list row 1 of the table as the last search left it

@@ -11,6 +11,7 @@
 #include "engine/fenyszogek.h"
 #include "rectify/mundankoveto.h"
 #include "tables/efemerida.h"
+#include "tables/helyhatarok.h"
 #include "tables/pillanat.h"
 #include "tables/telepulesek.h"
 
@@ -19,6 +20,7 @@ namespace {
 constexpr int durvaLepes = 30;   ///< seconds
 constexpr int visszaUgras = 31;  ///< from the change back, so that one step of 1 gives the last coarse moment
 constexpr int utolsoKeresettNap = utolsoNap - 1;  ///< a chart reads the row of the next day too
+constexpr int kivulKeresettNapok = 30;
 
 void ertekeles(std::int32_t nap, const TPillanat& p, const TMundanHely& hely, const TOrbisTabla& orbis,
                TMundanErtekeles& e) {
@@ -35,6 +37,13 @@ TMundanHely MundanHely(const TKeplet& k) {
     TMundanHely hely{k.idozona, k.szelesseg, k.hosszusag};
     if (!tablabol) hely.nyariIdo = k.nyariIdo;
     return hely;
+}
+
+TKeresesKeret MundanKeret(const TMundanHely& hely) {
+    TKeresesKeret keret;
+    if (!HelyenKivul(hely.idozona, hely.nyariIdo.value_or(0), hely.hosszusag, hely.szelesseg).empty())
+        keret.legfeljebb = kivulKeresettNapok;
+    return keret;
 }
 
 TMundanErtekeles MundanErtekeles(const Allapot& allapot, const TMundanHely& hely) {

@@ -32,6 +32,11 @@ struct TKeresesKeret {
     std::function<bool(const TPillanat&)> tovabb;
 };
 
+/// The frame of the window's searches. Within the tables a verdict changes in hours or days and a search may
+/// run to the table's end; figures from a zone, a summer time or coordinates outside them may never change
+/// it, so that it ends after a month there.
+TKeresesKeret MundanKeret(const TMundanHely& hely);
+
 /// Moves the chart's moment to where the verdict changes: by 30 seconds until it does, then from the last
 /// moment before that by one second until it does again. The first search after the program's start ends
 /// where it began. A step that leaves the ephemeris or the search's own frame ends it too; the moment stays

@@ -12,14 +12,31 @@ TSzuletes szuletes(const TForm2& form2) {
     return {m.ido, m.nyariIdo, m.idozona, ivmasodpercre(m.hosszFok, m.hosszPerc)};
 }
 
+/// Moment and place of a birth, as the event editor starts from them.
+TEletesemeny kezdoHely(const TSzemelyiAdatok& m) {
+    TEletesemeny e;
+    e.pillanat = m.ido;
+    e.helyseg = m.helyseg;
+    e.idozona = m.idozona;
+    e.hosszFok = m.hosszFok;
+    e.hosszPerc = m.hosszPerc;
+    e.szelFok = m.szelFok;
+    e.szelPerc = m.szelPerc;
+    return e;
+}
+
 }  // namespace
 
 TAblakok::TAblakok() {
     form1.ablakokBeallitasa(this);
     form5.parbeszedBeallitasa(form1.parbeszed());
-    form2.eletesemenyek = form13.eletesemenyek = [this] {
-        form10.megmutat([this] { return szuletes(form2); });
+    form10.parbeszedBeallitasa(form1.parbeszed());
+    const auto eletesemenyek = [this](const TSzemelyiAdatok& szemely) {
+        form10.megmutat([this] { return szuletes(form2); }, kezdoHely(szemely));
         if (form13.isVisible()) form13.futtat();
     };
+    // Over the open personal data the birth is what its fields say, over the rectification the chart's.
+    form2.eletesemenyek = [this, eletesemenyek] { eletesemenyek(form2.mezok()); };
+    form13.eletesemenyek = [this, eletesemenyek] { eletesemenyek(SzemelyMezok(form1.allapot())); };
     form12.pontositas = [this] { form13.megmutat(form7.height()); };
 }

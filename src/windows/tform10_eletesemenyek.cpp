@@ -99,8 +99,10 @@ void TForm10::mezokEpitese() {
     const int y = mezokTeteje;
     ujCimke(this, "Életesemény:", {7, y + feliratLejjebb});
     esemeny_ = ujSzovegMezo(this, "Edit_Eletesemenyek1", {90, y, 230, mezoMagassag});
+    hosszKorlat(*esemeny_, rovidSzovegHossz);
     ujCimke(this, "Házanalógiák:", {335, y + feliratLejjebb});
     analogia_ = ujSzovegMezo(this, "Edit_Hazanalogiak1", {420, y, 260, mezoMagassag});
+    hosszKorlat(*analogia_, hosszuSzovegHossz);
 
     szamMezok(idoMezok, y + mezoSorKoz);
 
@@ -127,19 +129,29 @@ void TForm10::gombok() {
     gomb("Button_Megsem2", "Mégsem", {566, y, 100, 26}, &TForm10::Button_Megsem2Click);
 }
 
-void TForm10::megmutat(std::function<TSzuletes()> szuletes) {
+void TForm10::megmutat(std::function<TSzuletes()> szuletes, const TEletesemeny& kezdoHely) {
     szuletes_ = std::move(szuletes);
     masodik_ = allapot_.Esemenyek;
-    kijelolt_ = 0;
-    {
-        const QSignalBlocker blokk(helyseg_);
-        if (helyseg_->count() == 0) helysegekHozzaadasa(*helyseg_);
-        helyseg_->setEditText(qszoveg(allapot_.Keplet.helyseg));
-    }
-    ComboBoxHelyseg1Change();
+    kijeloles(0);
+    mezokMutatasa(EsemenyKezdoMezok(allapot_.Esemenyek, kezdoHely));
+    solarNap_->clear();
     listaMutatasa();
+    esemeny_->setFocus();
     kozepre(*this, *fo_);
     exec();
+}
+
+/// Selects a row, 0 for none, and shows it so.
+void TForm10::kijeloles(int sor) {
+    kijelolt_ = sor;
+    for (std::size_t i = 0; i < sorok_.size(); ++i) {
+        const bool kijelolt = static_cast<int>(i) + 1 == sor;
+        for (QLabel* felirat : sorok_[i]) {
+            felirat->setAutoFillBackground(kijelolt);
+            felirat->setBackgroundRole(kijelolt ? QPalette::Highlight : QPalette::NoRole);
+            felirat->setForegroundRole(kijelolt ? QPalette::HighlightedText : QPalette::NoRole);
+        }
+    }
 }
 
 void TForm10::listaMutatasa() {
@@ -168,7 +180,7 @@ TEletesemeny TForm10::mezok() const {
 void TForm10::mezokMutatasa(const TEletesemeny& e) {
     esemeny_->setText(qszoveg(e.esemeny));
     analogia_->setText(qszoveg(e.analogia));
-    helyseg_->setEditText(qszoveg(e.helyseg));
+    helyseg_->helysegBeallitasa(qszoveg(e.helyseg));
     ev_->setValue(e.pillanat.ev);
     ho_->setValue(e.pillanat.ho);
     nap_->setValue(e.pillanat.nap);
@@ -190,10 +202,20 @@ void TForm10::Button_Rendben1Click() {
     if (!EsemenyFelvetel(allapot_.Esemenyek, kijelolt_, e)) return;
     solarNap_->setText(qszoveg(HazCimke(e.solarNap)));
     listaMutatasa();
+    kijeloles(kijelolt_);
+    szovegekUritese();
+}
+
+/// Date and place stay: the next event is often of the same time or town.
+void TForm10::szovegekUritese() {
+    esemeny_->setText({});
+    analogia_->setText({});
+    esemeny_->setFocus();
 }
 
 void TForm10::Button_Torol1Click() {
     EsemenyTorles(allapot_.Esemenyek, kijelolt_);
+    kijeloles(kijelolt_);
     listaMutatasa();
 }
 
@@ -206,6 +228,21 @@ void TForm10::Button_Megsem2Click() {
     for (auto& sor : sorok_)
         for (QLabel* felirat : sor) felirat->clear();
     QDialog::reject();
+}
+
+/// Whether leaving would lose something: the list is another than at the opening, or a text was typed that
+/// is not in it yet.
+bool TForm10::valtozott() const {
+    return !EsemenyListaAzonos(allapot_.Esemenyek, masodik_) || esemeny_->isModified() ||
+           analogia_->isModified();
+}
+
+/// The Escape key and the window's own button; "Mégsem" is an answer already and does not ask.
+void TForm10::reject() {
+    if (parbeszed_ != nullptr && valtozott() &&
+        !parbeszed_->igen(this, "Életesemények", "A változtatások elvesznek. Valóban bezárja az ablakot?"))
+        return;
+    Button_Megsem2Click();
 }
 
 void TForm10::ComboBoxHelyseg1Change() {
@@ -229,7 +266,7 @@ void TForm10::SpinEditEv1Change() {
 void TForm10::LEletesClick(const QString& felirat) {
     const int sor = EsemenyKijeloles(allapot_.Esemenyek, szoveg(felirat));
     if (sor == 0) return;
-    kijelolt_ = sor;
+    kijeloles(sor);
     mezokMutatasa(allapot_.Esemenyek.esemenyek[sor]);
 }
 

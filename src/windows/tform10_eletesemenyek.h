@@ -4,7 +4,6 @@
 #include <functional>
 #include <span>
 
-#include <QComboBox>
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -15,6 +14,8 @@
 #include "chart/foablak.h"
 #include "events/eletesemenyek.h"
 #include "tables/pillanat.h"
+#include "windows/helysegmezo.h"
+#include "windows/parbeszed.h"
 
 /// Life events: the list of up to twenty, and the fields of the one that is typed or selected.
 class TForm10 : public QDialog {
@@ -23,10 +24,13 @@ class TForm10 : public QDialog {
 public:
     TForm10(Allapot& allapot, FoAblak& ablak, QWidget* fo);
 
+    void parbeszedBeallitasa(TParbeszed& parbeszed) { parbeszed_ = &parbeszed; }
+
     /// Fills the list from the store, keeps a second set for "Mégsem", shows the dialog and waits for its
-    /// end.
-    /// @param szuletes  gives the birth data as they stand in the personal-data dialog
-    void megmutat(std::function<TSzuletes()> szuletes);
+    /// end. Nothing is left of a former use.
+    /// @param szuletes   gives the birth data as they stand in the personal-data dialog
+    /// @param kezdoHely  moment and place that the fields start with where no event is listed
+    void megmutat(std::function<TSzuletes()> szuletes, const TEletesemeny& kezdoHely);
 
 private slots:
     void Button_Rendben1Click();
@@ -57,10 +61,14 @@ private:
     void mezokMutatasa(const TEletesemeny& e);
     TEletesemeny mezok() const;
     bool eventFilter(QObject* targy, QEvent* esemeny) override;
-    void reject() override { Button_Megsem2Click(); }
+    void kijeloles(int sor);
+    void szovegekUritese();
+    bool valtozott() const;
+    void reject() override;
 
     Allapot& allapot_;
     QWidget* fo_;
+    TParbeszed* parbeszed_ = nullptr;
     TEsemenyTar masodik_;  ///< the events at the opening
     int kijelolt_ = 0;     ///< 1..20, 0 for none
     std::function<TSzuletes()> szuletes_;
@@ -69,7 +77,7 @@ private:
     QLineEdit *esemeny_ = nullptr, *analogia_ = nullptr;
     QSpinBox *ev_ = nullptr, *ho_ = nullptr, *nap_ = nullptr, *ora_ = nullptr, *perc_ = nullptr,
              *mperc_ = nullptr;
-    QComboBox* helyseg_ = nullptr;
+    HelysegMezo* helyseg_ = nullptr;
     QSpinBox *idozona_ = nullptr, *nyariIdo_ = nullptr;
     QSpinBox *hosszFok_ = nullptr, *hosszPerc_ = nullptr, *szelFok_ = nullptr, *szelPerc_ = nullptr;
     QLabel* solarNap_ = nullptr;

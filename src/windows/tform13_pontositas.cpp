@@ -18,6 +18,7 @@
 #include "windows/memosorok.h"
 #include "windows/qszoveg.h"
 #include "windows/qtvaszon.h"
+#include "windows/szammezo.h"
 #include "windows/vezerlok.h"
 
 namespace {
@@ -35,9 +36,9 @@ constexpr int memo2Szelesseg = elsoSzelesseg - 2 * szel - memo1Legkisebb - koz;
 constexpr int memo3Legkisebb = 170;
 
 /// The reach in hundredths, as it reads behind the "0," of its caption.
-class THatotavMezo : public QSpinBox {
+class THatotavMezo : public SzamMezo {
 public:
-    using QSpinBox::QSpinBox;
+    using SzamMezo::SzamMezo;
 
 private:
     QString textFromValue(int ertek) const override { return qszoveg(ketJegy(ertek)); }

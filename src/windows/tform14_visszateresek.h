@@ -4,7 +4,6 @@
 #include <string>
 #include <vector>
 
-#include <QComboBox>
 #include <QDialog>
 #include <QGridLayout>
 #include <QLabel>
@@ -12,9 +11,13 @@
 #include <QListWidget>
 #include <QSpinBox>
 
+#include "chart/allapot.h"
+#include "chart/foablak.h"
 #include "predictive/visszateresek.h"
+#include "windows/helysegmezo.h"
 
-/// List of returns or Sun transits. Only the list's row and the place are read; the rest is display.
+/// List of returns or Sun transits. Only the list's row and the place are read; the rest is display, to be
+/// read and copied but not changed.
 class TForm14 : public QDialog {
     Q_OBJECT
 
@@ -37,18 +40,21 @@ private slots:
     void ComboBoxHelyseg1Change();
 
 private:
+    void listaEpitese();
+    void maiNaphoz();
     QGridLayout* mezok();
     void koordinataMezok(QGridLayout& racs);
     void koordinatak(std::int32_t hosszusag, std::int32_t szelesseg);
 
     Allapot& allapot_;
+    FoAblak& ablak_;
     QWidget* fo_;
     QLabel* label1_;
     QLabel* datumBekero1_;
     std::array<QSpinBox*, 3> datum_{};
     std::array<QLineEdit*, 3> edit_{};
     std::array<QSpinBox*, 4> koordinata_{};
-    QComboBox* helyseg_;
+    HelysegMezo* helyseg_;
     QListWidget* listBox1_;
     int sor_ = 1;
 };

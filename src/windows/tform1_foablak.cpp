@@ -12,11 +12,13 @@
 #include <QStatusBar>
 #include <QTime>
 
+#include "chart/statuszsor.h"
 #include "commands/indulas.h"
 #include "commands/orajel.h"
 #include "drawing/geometria.h"
 #include "drawing/kepletrajz.h"
 #include "engine/keszlet.h"
+#include "tables/helyhatarok.h"
 #include "tables/szotar.h"
 #include "windows/ablakok.h"
 #include "windows/betumappak.h"
@@ -232,6 +234,9 @@ void TForm1::Mutat() {
         if (const QString uj = qszoveg(ertek); mezo->text() != uj) mezo->setText(uj);
     };
     for (std::size_t i = 0; i < statusz_.size(); ++i) frissit(statusz_[i], f.statusz[i]);
+    const TKeplet& k = allapot_.Keplet;
+    statusz_[panelKoordinata]->setToolTip(
+        qszoveg(HelyenKivul(k.idozona, k.nyariIdo, k.hosszusag, k.szelesseg)));
     frissit(mostGomb_, f.mostGomb);
     frissit(valtGomb_, f.valtGomb);
     setWindowTitle(qszoveg(f.cim));

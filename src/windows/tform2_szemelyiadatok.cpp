@@ -9,9 +9,11 @@
 #include <QSignalBlocker>
 
 #include "chart/allapot.h"
+#include "tables/helyhatarok.h"
 #include "tables/pillanat.h"
 #include "windows/helysegmezo.h"
 #include "windows/idovalaszto.h"
+#include "windows/mezojeloles.h"
 #include "windows/qszoveg.h"
 #include "windows/vezerlok.h"
 
@@ -55,23 +57,28 @@ void koordinataSor(QGridLayout& racs, int sor, const char* felirat, QWidget* fok
 
 void TForm2::mezokEpitese() {
     editNev1_ = ujSzovegMezo(this, "EditNev1");
+    hosszKorlat(*editNev1_, rovidSzovegHossz);
     spinEditEv1_ = ujSzamMezo(this, "SpinEditEv1", 1900, 2068);
     spinEditHo1_ = ujSzamMezo(this, "SpinEditHo1", 1, 12);
     spinEditNap1_ = ujSzamMezo(this, "SpinEditNap1", 1, 31);
     spinEditOra1_ = ujSzamMezo(this, "SpinEditOra1", 0, 23);
     spinEditPerc1_ = ujSzamMezo(this, "SpinEditPerc1", 0, 59);
     spinEditMperc1_ = ujSzamMezo(this, "SpinEditMperc1", 0, 59);
-    comboBoxHelyseg1_ = ujHelysegMezo(this, "ComboBoxHelyseg1");
-    spinEditIdozona1_ = ujSzamMezo(this, "SpinEditIdozona1", -12, 12);
+    comboBoxHelyseg1_ = ujHelysegMezo(this, "ComboBoxHelyseg1", 0);
+    spinEditIdozona1_ = ujSzamMezo(this, "SpinEditIdozona1", -legnagyobbIdozona, legnagyobbIdozona);
     spinEditNyariidosz1_ = ujSzamMezo(this, "SpinEditNyariidosz1", 0, 1);
-    spinEditHosszFok1_ = ujSzamMezo(this, "SpinEditHosszFok1", -180, 180);
+    spinEditHosszFok1_ = ujSzamMezo(this, "SpinEditHosszFok1", -legnagyobbFok, legnagyobbFok);
     spinEditHosszPerc1_ = ujSzamMezo(this, "SpinEditHosszPerc1", 0, 59);
-    spinEditSzelFok1_ = ujSzamMezo(this, "SpinEditSzelFok1", -180, 180);
+    spinEditSzelFok1_ = ujSzamMezo(this, "SpinEditSzelFok1", -legnagyobbFok, legnagyobbFok);
     spinEditSzelPerc1_ = ujSzamMezo(this, "SpinEditSzelPerc1", 0, 59);
     memo_Jegyzet1_ = new QPlainTextEdit(this);
     memo_Jegyzet1_->setObjectName("Memo_Jegyzet1");
     memo_Jegyzet1_->setTabChangesFocus(true);
+    hosszKorlat(*memo_Jegyzet1_, hosszuSzovegHossz);
     connect(comboBoxHelyseg1_, &QComboBox::editTextChanged, this, &TForm2::ComboBoxHelyseg1Change);
+    for (const QSpinBox* mezo : {spinEditEv1_, spinEditHo1_, spinEditNap1_, spinEditOra1_, spinEditPerc1_,
+                                 spinEditMperc1_, spinEditNyariidosz1_})
+        connect(mezo, &QSpinBox::valueChanged, this, &TForm2::nyariIdoJeloles);
 }
 
 QGroupBox* TForm2::idoValaszto() {
@@ -88,13 +95,13 @@ QHBoxLayout* TForm2::gombSor() {
     auto* rendben = ujGomb(this, "Button_Rendben1", "Rendben");
     rendben->setDefault(true);
     auto* megsem = ujGomb(this, "Button_Megsem1", "Mégsem");
-    auto* esemenyek = ujGomb(this, "Button_Eletesemenyek1", "Életesemények");
+    eletesemenyekGomb_ = ujGomb(this, "Button_Eletesemenyek1", "Életesemények");
     connect(rendben, &QPushButton::clicked, this, &TForm2::Button_Rendben1Click);
     connect(megsem, &QPushButton::clicked, this, &TForm2::Button_Megsem1Click);
-    connect(esemenyek, &QPushButton::clicked, this, &TForm2::Button_Eletesemenyek1Click);
+    connect(eletesemenyekGomb_, &QPushButton::clicked, this, &TForm2::Button_Eletesemenyek1Click);
     connect(this, &QDialog::rejected, this, [this] { allapot_.Megsem2 = true; });
     auto* sor = new QHBoxLayout;
-    sor->addWidget(esemenyek);
+    sor->addWidget(eletesemenyekGomb_);
     sor->addStretch();
     sor->addWidget(rendben);
     sor->addWidget(megsem);
@@ -127,9 +134,10 @@ void TForm2::epites() {
 
 void TForm2::kitoltes(bool ujKeplet) {
     const QSignalBlocker blokk(comboBoxHelyseg1_);
-    helysegekHozzaadasa(*comboBoxHelyseg1_);
+    comboBoxHelyseg1_->listaNovelese();
     mutat(ujKeplet ? UjKepletMezok(allapot_) : SzemelyMezok(allapot_));
     idoTipusMutatas(ujKeplet ? -1 : allapot_.Szemely.idoTipusIndex);
+    esemenySzamMutatas();
     editNev1_->setFocus();
     editNev1_->selectAll();
 }
@@ -139,6 +147,18 @@ void TForm2::idoTipusMutatas(int index) {
     for (QAbstractButton* radio : idovalaszto_->buttons())
         radio->setChecked(idovalaszto_->id(radio) == index);
     idovalaszto_->setExclusive(true);
+    nyariIdoJeloles();
+}
+
+void TForm2::nyariIdoJeloles() {
+    mezoJeloles(*spinEditNyariidosz1_, qszoveg(NyariIdoElteres(mezok(), idovalaszto_->checkedId())));
+}
+
+/// A new chart keeps the last one's events, so that their number is told before they are taken over.
+void TForm2::esemenySzamMutatas() {
+    eletesemenyekGomb_->setToolTip(
+        QStringLiteral("Felvett életesemények száma: %1. Új képlet megtartja őket.")
+            .arg(allapot_.Esemenyek.EsemenyDb));
 }
 
 void TForm2::mutat(const TSzemelyiAdatok& mezok) {
@@ -149,7 +169,7 @@ void TForm2::mutat(const TSzemelyiAdatok& mezok) {
     spinEditOra1_->setValue(mezok.ido.ora);
     spinEditPerc1_->setValue(mezok.ido.perc);
     spinEditMperc1_->setValue(mezok.ido.mperc);
-    comboBoxHelyseg1_->setEditText(qszoveg(mezok.helyseg));
+    comboBoxHelyseg1_->helysegBeallitasa(qszoveg(mezok.helyseg));
     spinEditIdozona1_->setValue(mezok.idozona);
     spinEditNyariidosz1_->setValue(mezok.nyariIdo);
     spinEditHosszFok1_->setValue(mezok.hosszFok);
@@ -191,6 +211,7 @@ void TForm2::ComboBoxHelyseg1Change() {
 
 void TForm2::RadioGroupIdovalaszto1Click(int index) {
     IdoTipusValasztas(allapot_, index);
+    nyariIdoJeloles();
 }
 
 void TForm2::Button_Rendben1Click() {
@@ -204,4 +225,5 @@ void TForm2::Button_Megsem1Click() {
 
 void TForm2::Button_Eletesemenyek1Click() {
     if (eletesemenyek) eletesemenyek();
+    esemenySzamMutatas();
 }

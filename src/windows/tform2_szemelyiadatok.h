@@ -4,15 +4,16 @@
 
 #include <QBoxLayout>
 #include <QButtonGroup>
-#include <QComboBox>
 #include <QDialog>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QSpinBox>
 
 #include "chart/foablak.h"
 #include "commands/szemelyiadatok.h"
+#include "windows/helysegmezo.h"
 
 /// Personal data: the one dialog where a chart is typed in.
 class TForm2 : public QDialog {
@@ -45,15 +46,18 @@ private:
     QHBoxLayout* gombSor();
     void mutat(const TSzemelyiAdatok& mezok);
     void idoTipusMutatas(int index);
+    void nyariIdoJeloles();
+    void esemenySzamMutatas();
 
     Allapot& allapot_;
     QLineEdit* editNev1_ = nullptr;
     QSpinBox *spinEditEv1_ = nullptr, *spinEditHo1_ = nullptr, *spinEditNap1_ = nullptr;
     QSpinBox *spinEditOra1_ = nullptr, *spinEditPerc1_ = nullptr, *spinEditMperc1_ = nullptr;
-    QComboBox* comboBoxHelyseg1_ = nullptr;
+    HelysegMezo* comboBoxHelyseg1_ = nullptr;
     QSpinBox *spinEditIdozona1_ = nullptr, *spinEditNyariidosz1_ = nullptr;
     QSpinBox *spinEditHosszFok1_ = nullptr, *spinEditHosszPerc1_ = nullptr;
     QSpinBox *spinEditSzelFok1_ = nullptr, *spinEditSzelPerc1_ = nullptr;
     QButtonGroup* idovalaszto_ = nullptr;
+    QPushButton* eletesemenyekGomb_ = nullptr;
     QPlainTextEdit* memo_Jegyzet1_ = nullptr;
 };

@@ -1,11 +1,12 @@
 #include "windows/tform4_szolarrev.h"
 
+#include "windows/vezerlok.h"
+
 TForm4::TForm4(Allapot&, FoAblak&, QWidget* fo) : QDialog(fo) {
     setObjectName("TForm4");
     setWindowTitle("Szolárrev");
     for (const char* nev : {"SpinEditHosszPerc1", "SpinEditSzelPerc1"}) {
-        auto* mezo = new QSpinBox(this);
-        mezo->setObjectName(nev);
+        auto* mezo = ujSzamMezo(this, nev, 0, 99);
         mezo->setValue(1);
     }
 }

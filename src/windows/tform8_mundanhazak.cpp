@@ -1,13 +1,12 @@
 #include "windows/tform8_mundanhazak.h"
 
-#include <QGuiApplication>
-
 #include "chart/allapot.h"
 #include "chart/foablak.h"
 #include "rectify/analogiaszoveg.h"
 #include "rectify/mundankereses.h"
 #include "tables/szotar.h"
 #include "windows/ablakelhelyezes.h"
+#include "windows/keresesfigyelo.h"
 #include "windows/qszoveg.h"
 #include "windows/vezerlok.h"
 
@@ -177,11 +176,13 @@ void TForm8::BMundanClick(const QString& felirat) {
     frissit();
 }
 
-/// Nothing is painted until the search has ended, so the labels are written once, at its end.
+/// Escape ends a search at the moment that it has reached.
 void TForm8::kereses(int irany) {
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    mutat(MundanKereses(allapot_, MundanHely(allapot_.Keplet), irany));
-    QGuiApplication::restoreOverrideCursor();
+    const TMundanHely hely = MundanHely(allapot_.Keplet);
+    TKeresesFigyelo figyelo(*this);
+    TKeresesKeret keret = MundanKeret(hely);
+    keret.tovabb = [&figyelo](const TPillanat& p) { return figyelo.tovabb(p); };
+    mutat(MundanKereses(allapot_, hely, irany, keret));
     ablak_.Mutat();
 }
 

@@ -15,6 +15,7 @@ TForm9::TForm9(Allapot& allapot, FoAblak&, QWidget* fo)
     comboBox1_->setObjectName("ComboBox1");
     comboBox1_->setEditable(true);
     comboBox1_->setMinimumContentsLength(20);
+    gorgoCsakFokusszal(*comboBox1_);
     auto* rendben = ujGomb(this, "Button_Rendben1", "Rendben");
     rendben->setDefault(true);
     auto* megsem = ujGomb(this, "Button_Megsem1", "Mégsem");

@@ -1,5 +1,14 @@
 #include "windows/vezerlok.h"
 
+#include <algorithm>
+#include <memory>
+
+#include <QEvent>
+#include <QTextCursor>
+#include <QTextDocument>
+
+#include "windows/szammezo.h"
+
 namespace {
 
 template <typename TVezerlo>
@@ -8,6 +17,20 @@ TVezerlo* elnevez(TVezerlo* vezerlo, const QString& nev, const QRect& hely) {
     if (hely.isValid()) vezerlo->setGeometry(hely);
     return vezerlo;
 }
+
+class TGorgoSzuro : public QObject {
+public:
+    explicit TGorgoSzuro(QWidget& mezo) : QObject(&mezo), mezo_(mezo) { mezo.installEventFilter(this); }
+
+private:
+    bool eventFilter(QObject* targy, QEvent* esemeny) override {
+        if (esemeny->type() != QEvent::Wheel || mezo_.hasFocus()) return QObject::eventFilter(targy, esemeny);
+        esemeny->ignore();
+        return true;
+    }
+
+    QWidget& mezo_;
+};
 
 }  // namespace
 
@@ -18,7 +41,7 @@ QPushButton* ujGomb(QWidget* szulo, const QString& nev, const QString& felirat, 
 }
 
 QSpinBox* ujSzamMezo(QWidget* szulo, const QString& nev, int also, int felso, const QRect& hely) {
-    auto* mezo = elnevez(new QSpinBox(szulo), nev, hely);
+    auto* mezo = elnevez(new SzamMezo(szulo), nev, hely);
     mezo->setRange(also, felso);
     return mezo;
 }
@@ -31,4 +54,47 @@ QLabel* ujCimke(QWidget* szulo, const QString& felirat, const QPoint& hely) {
     auto* cimke = new QLabel(felirat, szulo);
     cimke->move(hely);
     return cimke;
+}
+
+void gorgoCsakFokusszal(QWidget& mezo) {
+    mezo.setFocusPolicy(Qt::StrongFocus);
+    new TGorgoSzuro(mezo);
+}
+
+QString hosszSugo(int hossz) {
+    return QStringLiteral("Legfeljebb %1 karakter").arg(hossz);
+}
+
+void hosszKorlat(QLineEdit& mezo, int hossz) {
+    mezo.setMaxLength(hossz);
+    mezo.setToolTip(hosszSugo(hossz));
+}
+
+namespace {
+
+/// Takes the characters over the limit out, those before a place.
+void levag(QTextDocument& lap, int hossz, int vege) {
+    const int tobblet = lap.characterCount() - 1 - hossz;
+    if (tobblet <= 0) return;
+    QTextCursor kivagott(&lap);
+    const int eleje = std::max(0, vege - tobblet);
+    // A character of two units goes whole.
+    const bool fel = eleje > 0 && lap.characterAt(eleje).isLowSurrogate();
+    kivagott.joinPreviousEditBlock();
+    kivagott.setPosition(fel ? eleje - 1 : eleje);
+    kivagott.setPosition(vege, QTextCursor::KeepAnchor);
+    kivagott.removeSelectedText();
+    kivagott.endEditBlock();
+}
+
+}  // namespace
+
+void hosszKorlat(QPlainTextEdit& mezo, int hossz) {
+    mezo.setToolTip(hosszSugo(hossz));
+    QTextDocument* lap = mezo.document();
+    const auto vege = std::make_shared<int>(0);  // where the last insertion ends
+    QObject::connect(lap, &QTextDocument::contentsChange, &mezo,
+                     [vege](int hely, int, int uj) { *vege = hely + uj; });
+    QObject::connect(&mezo, &QPlainTextEdit::textChanged, &mezo,
+                     [lap, hossz, vege] { levag(*lap, hossz, std::min(*vege, lap->characterCount() - 1)); });
 }

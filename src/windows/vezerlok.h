@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QString>
@@ -19,3 +20,20 @@ QLineEdit* ujSzovegMezo(QWidget* szulo, const QString& nev, const QRect& hely = 
 
 /// A caption.
 QLabel* ujCimke(QWidget* szulo, const QString& felirat, const QPoint& hely);
+
+/// Lets the wheel change a field only while it has the focus; else the turn goes on to the window. A wheel
+/// turned over a dialog would change whatever field happens to lie under the pointer.
+void gorgoCsakFokusszal(QWidget& mezo);
+
+/// Characters that a chart file holds of a name, a place or an event's text, and of a note or analogies.
+inline constexpr int rovidSzovegHossz = 32;
+inline constexpr int hosszuSzovegHossz = 255;
+
+/// The tooltip of a field of limited length.
+QString hosszSugo(int hossz);
+
+/// Limits a field to so many characters and says so in its tooltip.
+void hosszKorlat(QLineEdit& mezo, int hossz);
+/// The same for a text of lines. What does not fit is cut from the end of what was just typed or pasted, so
+/// that the text around the cursor and the cursor stay.
+void hosszKorlat(QPlainTextEdit& mezo, int hossz);

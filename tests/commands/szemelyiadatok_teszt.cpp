@@ -136,4 +136,42 @@ TEST(SzemelyiAdatok, AzUjKepletMezoiAHelySajatErtekei) {
     EXPECT_EQ(a.Szemely.idoTipus, TIdoTipus::ZN);
 }
 
+constexpr int nincsValasztas = -1, zona = 0, helyi = 1, greenwichi = 2;
+
+TSzemelyiAdatok nyaron(int nyariIdo) {
+    TSzemelyiAdatok m;
+    m.ido = {1985, 7, 1, 12, 0, 0};
+    m.nyariIdo = nyariIdo;
+    return m;
+}
+
+TEST(NyariIdoElteres, ZonaIdobenATablaSzamit) {
+    for (const int index : {nincsValasztas, zona}) {
+        EXPECT_EQ(NyariIdoElteres(nyaron(1), index), "");
+        EXPECT_EQ(NyariIdoElteres(nyaron(0), index),
+                  "Eltér a nyári időszámítás táblájától: ekkor ott 1 áll.");
+        TSzemelyiAdatok telen = nyaron(1);
+        telen.ido.ho = 1;
+        EXPECT_EQ(NyariIdoElteres(telen, index), "Eltér a nyári időszámítás táblájától: ekkor ott 0 áll.");
+        telen.nyariIdo = 0;
+        EXPECT_EQ(NyariIdoElteres(telen, index), "");
+    }
+}
+
+TEST(NyariIdoElteres, AzOraIsSzamit) {
+    TSzemelyiAdatok m = nyaron(0);
+    m.ido = {2000, 10, 29, 2, 59, 59};
+    EXPECT_NE(NyariIdoElteres(m, zona), "");
+    m.ido = {2000, 10, 29, 3, 0, 0};
+    EXPECT_EQ(NyariIdoElteres(m, zona), "");
+}
+
+TEST(NyariIdoElteres, MasOrahozNemTartozikNyariIdo) {
+    for (const int index : {helyi, greenwichi}) {
+        EXPECT_EQ(NyariIdoElteres(nyaron(0), index), "");
+        EXPECT_EQ(NyariIdoElteres(nyaron(1), index),
+                  "Helyi vagy greenwichi időhöz nem tartozik nyári időszámítás.");
+    }
+}
+
 }  // namespace

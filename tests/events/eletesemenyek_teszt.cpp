@@ -43,6 +43,80 @@ TEST(Esemenyek, FelvetelCsereTorles) {
     EXPECT_EQ(tar.EsemenyDb, 1);
 }
 
+TEST(EsemenyKezdoMezok, EsemenyNelkulASzuletesIdejeEsHelye) {
+    TEsemenyTar tar;
+    tar.esemenyek[1] = esemeny("above the count");
+    TEletesemeny szuletes = esemeny("x");
+    szuletes.pillanat = {1985, 7, 21, 6, 4, 9};
+    szuletes.helyseg = "Szeged";
+    szuletes.idozona = 2;
+    szuletes.hosszFok = 20;
+    szuletes.hosszPerc = 9;
+    szuletes.szelFok = 46;
+    szuletes.szelPerc = 14;
+    szuletes.solarNap = 5;
+    const TEletesemeny e = EsemenyKezdoMezok(tar, szuletes);
+    EXPECT_EQ(e.esemeny, "");
+    EXPECT_EQ(e.analogia, "");
+    EXPECT_EQ(e.solarNap, 0);
+    EXPECT_EQ(e.nyariIdo, 1);  // the summer of 1985
+    TEletesemeny elvart = szuletes;
+    elvart.esemeny = elvart.analogia = "";
+    elvart.solarNap = 0;
+    elvart.nyariIdo = 1;
+    EXPECT_EQ(e, elvart);
+}
+
+TEST(EsemenyKezdoMezok, AzUtolsoEsemenyIdejeEsHelyeANyariIdoATablabol) {
+    TEsemenyTar tar;
+    int kijelolt = 0;
+    EsemenyFelvetel(tar, kijelolt, esemeny("a"));
+    TEletesemeny utolso = esemeny("b");
+    utolso.pillanat = {1999, 12, 24, 18, 0, 0};
+    utolso.helyseg = "Pécs";
+    utolso.hosszFok = 18;
+    utolso.nyariIdo = 1;  // by hand
+    EsemenyFelvetel(tar, kijelolt, utolso);
+    const TEletesemeny e = EsemenyKezdoMezok(tar, esemeny("birth"));
+    EXPECT_EQ(e.pillanat, utolso.pillanat);
+    EXPECT_EQ(e.helyseg, "Pécs");
+    EXPECT_EQ(e.hosszFok, 18);
+    EXPECT_EQ(e.nyariIdo, 0);
+    EXPECT_EQ(e.esemeny, "");
+    EXPECT_EQ(tar.esemenyek[2].esemeny, "b");
+}
+
+TEST(EsemenyKezdoMezok, HelyNelkuliEsemenyUtanASzuletesHelye) {
+    TEsemenyTar tar;
+    int kijelolt = 0;
+    TEletesemeny utolso = esemeny("a");
+    utolso.pillanat = {1999, 12, 24, 18, 0, 0};
+    EsemenyFelvetel(tar, kijelolt, utolso);
+    TEletesemeny szuletes;
+    szuletes.pillanat = {1985, 7, 21, 6, 4, 9};
+    szuletes.helyseg = "Szeged";
+    szuletes.szelFok = 46;
+    const TEletesemeny e = EsemenyKezdoMezok(tar, szuletes);
+    EXPECT_EQ(e.pillanat, utolso.pillanat);
+    EXPECT_EQ(e.helyseg, "Szeged");
+    EXPECT_EQ(e.szelFok, 46);
+    EXPECT_EQ(e.nyariIdo, 0);
+}
+
+TEST(EsemenyLista, AzonosHaAFelsoroltEsemenyekAzok) {
+    TEsemenyTar a, b;
+    EXPECT_TRUE(EsemenyListaAzonos(a, b));
+    b.esemenyek[1] = esemeny("above the count");
+    EXPECT_TRUE(EsemenyListaAzonos(a, b));
+    int kijelolt = 0;
+    EsemenyFelvetel(a, kijelolt, esemeny("a"));
+    EXPECT_FALSE(EsemenyListaAzonos(a, b));
+    EsemenyFelvetel(b, kijelolt, esemeny("a"));
+    EXPECT_TRUE(EsemenyListaAzonos(a, b));
+    a.esemenyek[1].solarNap = 3;
+    EXPECT_FALSE(EsemenyListaAzonos(a, b));
+}
+
 TEST(Esemenyek, UresSzovegNemKerulBeAKijelolesMarad) {
     TEsemenyTar tar;
     int kijelolt = 0;

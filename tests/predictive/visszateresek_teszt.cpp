@@ -354,4 +354,20 @@ TEST(VisszateresSzomszed, APersonarAMagaFajtajavalLep) {
     EXPECT_EQ(ablak.rajzok(), 0);
 }
 
+TEST(LegkozelebbiSor, ElotteVagyUtanaAKozelebbi) {
+    TVisszateresek v;
+    EXPECT_EQ(LegkozelebbiSor(v, {2000, 1, 1, 0, 0, 0}), 0);
+    v.sorok[1].pillanat = {2000, 1, 1, 12, 0, 0};
+    v.sorok[2].pillanat = {2000, 1, 28, 12, 0, 0};
+    v.sorok[3].pillanat = {2000, 2, 24, 12, 0, 0};
+    v.sorok[4].pillanat = {2000, 1, 15, 0, 0, 0};  // left by an older search
+    v.szamlalo = 3;
+    EXPECT_EQ(LegkozelebbiSor(v, {1950, 1, 1, 0, 0, 0}), 1);
+    EXPECT_EQ(LegkozelebbiSor(v, {2000, 1, 14, 23, 59, 59}), 1);
+    EXPECT_EQ(LegkozelebbiSor(v, {2000, 1, 15, 0, 0, 0}), 1) << "as near to the first as to the second";
+    EXPECT_EQ(LegkozelebbiSor(v, {2000, 1, 15, 0, 0, 1}), 2);
+    EXPECT_EQ(LegkozelebbiSor(v, {2000, 1, 29, 0, 0, 0}), 2);
+    EXPECT_EQ(LegkozelebbiSor(v, {2060, 1, 1, 0, 0, 0}), 3);
+}
+
 }  // namespace

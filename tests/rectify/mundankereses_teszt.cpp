@@ -151,6 +151,17 @@ TEST(MundanKereses, AKepernyoKepletehezNemNyul) {
     EXPECT_EQ(a.Munka.FenyszogMatrix, munka);
 }
 
+TEST(MundanKereses, ATablakonKivulHarmincNapigKeres) {
+    // A place of which no moment ever changes the verdict.
+    const TMundanHely sehol{INT32_MAX, INT32_MAX, INT32_MAX, INT32_MAX};
+    for (const int irany : {1, -1}) {
+        Allapot a = szegedi({1975, 7, 21, 6, 4, 9});
+        a.KeresesVolt = true;
+        MundanKereses(a, sehol, irany, MundanKeret(sehol));
+        EXPECT_EQ(a.Keplet.julianszam, 2442614 + 31 * irany);  // the first day outside
+    }
+}
+
 TEST(MundanNyitas, AzElsoHazAKezdoPillanatEsALeptetoCime) {
     Allapot a = szegedi({1975, 7, 21, 6, 4, 9});
     a.AktivHaz = 9;

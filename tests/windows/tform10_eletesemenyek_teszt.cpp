@@ -1,5 +1,76 @@
 #include "ablakteszt.h"
 #include "eletesemenyteszt.h"
+#include "kezteszt.h"
+#include "probaparbeszed.h"
+
+namespace {
+
+TPillanat idoMezok(const QWidget& d) {
+    return {ertek(d, "SpinEditEv1"),  ertek(d, "SpinEditHo1"),   ertek(d, "SpinEditNap1"),
+            ertek(d, "SpinEditOra1"), ertek(d, "SpinEditPerc1"), ertek(d, "SpinEditMperc1")};
+}
+
+QString sor(const QWidget& d, const char* nev) {
+    return vezerlo<QLineEdit>(d, nev)->text();
+}
+
+QString helyseg(const QWidget& d) {
+    return vezerlo<QComboBox>(d, "ComboBoxHelyseg1")->currentText();
+}
+
+/// Rows of the list whose whole width has the colour of a selection.
+QList<int> kijeloltSorok(QWidget& d) {
+    const QImage kep = d.grab().toImage();
+    const QRgb kijeloles = d.palette().color(QPalette::Highlight).rgb();
+    QList<int> sorok;
+    for (int n = 1; n <= esemenyHelyek; ++n) {
+        const QRect elso = vezerlo<QLabel>(d, qPrintable(QStringLiteral("LEletes_%1_1").arg(n)))->geometry();
+        const QRect utolso =
+            vezerlo<QLabel>(d, qPrintable(QStringLiteral("LEletes_%1_15").arg(n)))->geometry();
+        bool egesz = true;  // along the lower edge, under the letters
+        for (int x = elso.left(); x < utolso.right(); ++x)
+            egesz = egesz && kep.pixel(x, elso.bottom()) == kijeloles;
+        if (egesz) sorok << n;
+    }
+    return sorok;
+}
+
+/// A birth on screen with two events, the program's clock running.
+struct TKetEsemeny : TFrissAblakok {
+    TKetEsemeny() {
+        form1.parbeszedBeallitasa(parbeszed);
+        form10.parbeszedBeallitasa(parbeszed);
+        vezerloOra()->start();
+        ujKeplet(*this, [](QWidget& d) {
+            gepel(d, "SpinEditPerc1", "12");
+            gepel(d, "SpinEditMperc1", "34");
+            esemenyGepelese(d, "első", "1,2", "1999");
+            esemenyGepelese(d, "második", "3", "2000");
+            kattint(d, "Button_Rendben2");
+        });
+        QCOMPARE(allapot().Esemenyek.EsemenyDb, 2);
+    }
+    int esemenyek() { return allapot().Esemenyek.EsemenyDb; }
+    /// Opens the editor over the open personal data.
+    void szerkeszt(const std::function<void(QWidget&)>& teendo) {
+        bool lefutott = false;
+        valasz([&](QWidget& d) {
+            valasz([&](QWidget& szerkeszto) {
+                QCOMPARE(szerkeszto.objectName(), "TForm10");
+                teendo(szerkeszto);
+                lefutott = true;
+                szerkeszto.hide();  // a test that failed goes on
+            });
+            kattint(d, "Button_Eletesemenyek1");
+            kattint(d, "Button_Megsem1");
+        });
+        menu(form1, "Szemely_adatok1");
+        QVERIFY(lefutott);
+    }
+    TProbaParbeszed parbeszed;
+};
+
+}  // namespace
 
 class TForm10Teszt : public QObject {
     Q_OBJECT
@@ -28,6 +99,237 @@ private slots:
         });
         QCOMPARE(a.allapot().Esemenyek.EsemenyDb, 0);
         QCOMPARE(lista(a.form10, 1, 2), "");
+    }
+
+    void nyitaskorSemmiNincsKijelolveEsASzovegekUresek() {
+        TKetEsemeny a;
+        for (int nyitas = 0; nyitas < 2; ++nyitas) {
+            a.szerkeszt([&a](QWidget& d) {
+                QCOMPARE(sor(d, "Edit_Eletesemenyek1"), "");
+                QCOMPARE(sor(d, "Edit_Hazanalogiak1"), "");
+                QCOMPARE(cimke(d, "LabelSolarNap1"), "");
+                QVERIFY(kijeloltSorok(d).isEmpty());
+                QVERIFY((idoMezok(d) == TPillanat{2000, 5, 6, 0, 12, 34}));  // the last listed event's
+                QCOMPARE(helyseg(d), "Szeged");
+                QCOMPARE(ertek(d, "SpinEditNyariidosz1"), 1);
+                leut(Qt::Key_Return);  // a stray Enter
+                QCOMPARE(a.esemenyek(), 2);
+                // Leave a selection, texts and another date behind.
+                QTest::mouseClick(vezerlo<QLabel>(d, "LEletes_1_2"), Qt::LeftButton);
+                QCOMPARE(kijeloltSorok(d), QList<int>{1});
+                gepel(d, "SpinEditEv1", "1955");
+                gepel(d, "ComboBoxHelyseg1", "Pécs");
+                kattint(d, "Button_Megsem2");
+            });
+        }
+        a.szerkeszt([&a](QWidget& d) {
+            leut(Qt::Key_Return);
+            leut(Qt::Key_Return);
+            kattint(d, "Button_Rendben2");
+        });
+        QCOMPARE(a.esemenyek(), 2);
+        QCOMPARE(a.allapot().Esemenyek.esemenyek[1].esemeny, std::string("első"));
+        QCOMPARE(a.allapot().Esemenyek.esemenyek[1].pillanat.ev, 1999);
+    }
+
+    void esemenyNelkulAFeltuntetettSzuletesIdejeEsHelye() {
+        TFrissAblakok a;
+        a.vezerloOra()->start();
+        valasz([](QWidget& d) {
+            gepel(d, "SpinEditEv1", "1985");
+            gepel(d, "SpinEditHo1", "7");
+            gepel(d, "SpinEditNap1", "21");
+            gepel(d, "SpinEditOra1", "6");
+            gepel(d, "SpinEditPerc1", "4");
+            gepel(d, "SpinEditMperc1", "9");
+            gepel(d, "ComboBoxHelyseg1", "Szeged");
+            gepel(d, "SpinEditHosszPerc1", "30");
+            gepel(d, "SpinEditNyariidosz1", "0");
+            valasz([](QWidget& szerkeszto) {
+                QVERIFY((idoMezok(szerkeszto) == TPillanat{1985, 7, 21, 6, 4, 9}));
+                QCOMPARE(helyseg(szerkeszto), "Szeged");
+                QCOMPARE(ertek(szerkeszto, "SpinEditHosszFok1"), 20);
+                QCOMPARE(ertek(szerkeszto, "SpinEditHosszPerc1"), 30);
+                QCOMPARE(ertek(szerkeszto, "SpinEditSzelFok1"), 46);
+                QCOMPARE(ertek(szerkeszto, "SpinEditNyariidosz1"), 1);  // the table's, not the field's
+                kattint(szerkeszto, "Button_Megsem2");
+            });
+            kattint(d, "Button_Eletesemenyek1");
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Uj1");
+    }
+
+    void apontositasbolAKepletBeirtSzuletese() {
+        TFrissAblakok a;
+        szuletes(a);  // 1975-07-21 06:04:09 Szeged, typed as zone time
+        a.vezerloOra()->start();
+        vezerlo<QSpinBox>(a.form2, "SpinEditEv1")->setValue(2001);  // what the other dialog's fields hold
+        valasz([](QWidget& d) {
+            QVERIFY((idoMezok(d) == TPillanat{1975, 7, 21, 6, 4, 9}));
+            QCOMPARE(helyseg(d), "Szeged");
+            kattint(d, "Button_Megsem2");
+        });
+        menu(a.form1, "Primer1");
+        kattint(a.form12, "Button_Pontositas1");
+        kattint(a.form13, "Button_Eletesemenyek1");
+    }
+
+    void aRendbenUtanUjEsemenyJohet() {
+        TKetEsemeny a;
+        a.szerkeszt([&a](QWidget& d) {
+            // By keys alone, from the event's text on.
+            QCOMPARE(QApplication::focusWidget()->objectName(), "Edit_Eletesemenyek1");
+            for (const char* nev : {"harmadik", "negyedik"}) {
+                beut(nev);
+                leut(Qt::Key_Tab);
+                beut("4,5");
+                leut(Qt::Key_Return);
+                QCOMPARE(sor(d, "Edit_Eletesemenyek1"), "");
+                QCOMPARE(sor(d, "Edit_Hazanalogiak1"), "");
+                QCOMPARE(QApplication::focusWidget()->objectName(), "Edit_Eletesemenyek1");
+                QVERIFY((idoMezok(d) == TPillanat{2000, 5, 6, 0, 12, 34}));
+                QCOMPARE(helyseg(d), "Szeged");
+            }
+            QCOMPARE(lista(d, 4, 2), "negyedik");
+            QCOMPARE(lista(d, 4, 3), "IV,5");
+            leut(Qt::Key_Return);
+            QCOMPARE(a.esemenyek(), 4);
+            kattint(d, "Button_Rendben2");
+        });
+        QCOMPARE(a.esemenyek(), 4);
+        QVERIFY(a.parbeszed.kerdesek.isEmpty());
+    }
+
+    void aKijeloltSorLatszik() {
+        TKetEsemeny a;
+        a.szerkeszt([](QWidget& d) {
+            QTest::mouseClick(vezerlo<QLabel>(d, "LEletes_1_2"), Qt::LeftButton);
+            QCOMPARE(kijeloltSorok(d), QList<int>{1});
+            QTest::mouseClick(vezerlo<QLabel>(d, "LEletes_2_3"), Qt::LeftButton);
+            QCOMPARE(kijeloltSorok(d), QList<int>{2});
+            kattint(d, "Button_Rendben1");  // replaces it and ends the selection
+            QVERIFY(kijeloltSorok(d).isEmpty());
+            QTest::mouseClick(vezerlo<QLabel>(d, "LEletes_2_1"), Qt::LeftButton);
+            kattint(d, "Button_Torol1");
+            QVERIFY(kijeloltSorok(d).isEmpty());
+            kattint(d, "Button_Megsem2");
+        });
+    }
+
+    void aValtozottListatKerdesNelkulNemHagyjaEl() {
+        TKetEsemeny a;
+        const QStringList kerdes{"Életesemények", "A változtatások elvesznek. Valóban bezárja az ablakot?"};
+        a.szerkeszt([&](QWidget& d) {
+            QTest::mouseClick(vezerlo<QLabel>(d, "LEletes_1_1"), Qt::LeftButton);
+            kattint(d, "Button_Torol1");
+            a.parbeszed.igenre = false;
+            leut(Qt::Key_Escape);
+            QVERIFY(d.isVisible());
+            QCOMPARE(a.parbeszed.kerdesek, kerdes);
+            keretenCsuk(d);
+            QVERIFY(d.isVisible());
+            QCOMPARE(a.parbeszed.kerdesek, kerdes + kerdes);
+            QCOMPARE(a.esemenyek(), 1);
+            QCOMPARE(lista(d, 1, 2), "második");
+            a.parbeszed.igenre = true;
+            keretenCsuk(d);
+            QVERIFY(!d.isVisible());
+            QCOMPARE(a.parbeszed.kerdesek.size(), 6);
+        });
+        QCOMPARE(a.esemenyek(), 2);
+        QCOMPARE(a.allapot().Esemenyek.esemenyek[1].esemeny, std::string("első"));
+    }
+
+    void aBegepeltSzovegreIsKerdez() {
+        TKetEsemeny a;
+        a.parbeszed.igenre = true;
+        for (const char* mezo : {"Edit_Eletesemenyek1", "Edit_Hazanalogiak1"}) {
+            a.parbeszed.kerdesek.clear();
+            a.szerkeszt([&](QWidget& d) {
+                belelep(d, mezo);
+                beut("1");
+                leut(Qt::Key_Escape);
+                QVERIFY(!d.isVisible());
+            });
+            QCOMPARE(a.parbeszed.kerdesek.size(), 2);
+        }
+    }
+
+    void valtozasNelkulEsAMegsemGombraNemKerdez() {
+        TKetEsemeny a;
+        a.parbeszed.igenre = false;
+        a.szerkeszt([](QWidget& d) {
+            leut(Qt::Key_Escape);
+            QVERIFY(!d.isVisible());
+        });
+        a.szerkeszt([](QWidget& d) {
+            // A row that was only looked at is no change.
+            QTest::mouseClick(vezerlo<QLabel>(d, "LEletes_1_1"), Qt::LeftButton);
+            keretenCsuk(d);
+            QVERIFY(!d.isVisible());
+        });
+        a.szerkeszt([](QWidget& d) {
+            esemenyGepelese(d, "harmadik", "4", "2001");
+            QTest::mouseClick(vezerlo<QLabel>(d, "LEletes_1_1"), Qt::LeftButton);
+            kattint(d, "Button_Torol1");
+            belelep(d, "Edit_Eletesemenyek1");
+            beut("x");
+            kattint(d, "Button_Megsem2");
+            QVERIFY(!d.isVisible());
+        });
+        a.szerkeszt([](QWidget& d) {
+            esemenyGepelese(d, "harmadik", "4", "2001");
+            kattint(d, "Button_Rendben2");
+            QVERIFY(!d.isVisible());
+        });
+        QCOMPARE(a.esemenyek(), 3);
+        QVERIFY(a.parbeszed.kerdesek.isEmpty());
+    }
+
+    void aHelysegKiegeszulEsJelolodik() {
+        TKetEsemeny a;
+        a.szerkeszt([&a](QWidget& d) {
+            belelep(d, "ComboBoxHelyseg1");
+            beut("hodmezo");
+            QVERIFY(vezerlo<QWidget>(d, "ComboBoxHelyseg1")->toolTip().contains("Budapest"));
+            leut(Qt::Key_Return);
+            QCOMPARE(helyseg(d), "Hódmezővásárhely");
+            QVERIFY(!vezerlo<QWidget>(d, "ComboBoxHelyseg1")->toolTip().contains("Budapest"));
+            QVERIFY(d.isVisible());
+            QCOMPARE(a.esemenyek(), 2);
+            kattint(d, "Button_Megsem2");
+        });
+    }
+
+    void aHosszuSzovegekElfernek() {
+        TKetEsemeny a;
+        a.szerkeszt([](QWidget& d) {
+            gepel(d, "Edit_Eletesemenyek1", qPrintable(QString(40, u'e')));
+            gepel(d, "Edit_Hazanalogiak1", qPrintable(QString(300, u'2')));
+            QCOMPARE(sor(d, "Edit_Eletesemenyek1").size(), 32);
+            QCOMPARE(sor(d, "Edit_Hazanalogiak1").size(), 255);
+            QCOMPARE(vezerlo<QWidget>(d, "Edit_Eletesemenyek1")->toolTip(), "Legfeljebb 32 karakter");
+            QCOMPARE(vezerlo<QWidget>(d, "Edit_Hazanalogiak1")->toolTip(), "Legfeljebb 255 karakter");
+            kattint(d, "Button_Megsem2");
+        });
+    }
+
+    void aHibasNapEnterreMegmutatjaMiLettBelole() {
+        TKetEsemeny a;
+        a.szerkeszt([&a](QWidget& d) {
+            belelep(d, "Edit_Eletesemenyek1");
+            beut("harmadik");
+            belelep(d, "SpinEditNap1");
+            beut("32");
+            leut(Qt::Key_Return);
+            QCOMPARE(a.esemenyek(), 2);
+            QCOMPARE(ertek(d, "SpinEditNap1"), 31);
+            leut(Qt::Key_Return);
+            QCOMPARE(a.esemenyek(), 3);
+            QCOMPARE(a.allapot().Esemenyek.esemenyek[3].pillanat.nap, 31);
+            kattint(d, "Button_Megsem2");
+        });
     }
 
     /// Only a change of the place looks at the kind of the clock; date and time always ask the table.

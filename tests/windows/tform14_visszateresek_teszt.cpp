@@ -1,10 +1,12 @@
 #include <QFile>
+#include <QDate>
 #include <QGroupBox>
 #include <QListWidget>
 #include <QRadioButton>
 #include <QStandardPaths>
 
-#include "ablakteszt.h"
+#include "kezteszt.h"
+#include "tables/pillanat.h"
 
 namespace {
 
@@ -20,6 +22,49 @@ void leut(TFrissAblakok& a, Qt::Key billentyu) {
 
 QString lista(const QWidget& d, int sor) {
     return vezerlo<QListWidget>(d, "ListBox1")->item(sor)->text();
+}
+
+QListWidget& sorok(const QWidget& d) {
+    return *vezerlo<QListWidget>(d, "ListBox1");
+}
+
+QComboBox& helyseg(const QWidget& d) {
+    return *vezerlo<QComboBox>(d, "ComboBoxHelyseg1");
+}
+
+/// Opens a list and gives it to the test; the clock runs.
+void megnyit(TFrissAblakok& a, const char* pont, const std::function<void(QWidget&)>& teendo) {
+    bool lefutott = false;
+    valasz([&](QWidget& d) {
+        fokuszig(d);
+        teendo(d);
+        lefutott = true;
+        d.hide();  // a test that failed goes on
+    });
+    menu(a.form1, pont);
+    QVERIFY(lefutott);
+}
+
+/// A birth on screen, the clock running.
+struct TSzuletettKeplet : TFrissAblakok {
+    TSzuletettKeplet() {
+        szuletes(*this);
+        vezerloOra()->start();
+    }
+};
+
+/// Row of the list nearest to today by its text's date, in days; the first of those as near.
+int maiSor(const QWidget& d) {
+    int legjobb = 0;
+    qint64 tav = INT64_MAX;
+    for (int i = 0; i < sorok(d).count(); ++i) {
+        const QDate nap = QDate::fromString(sorok(d).item(i)->text().left(11), "yyyy.MM.dd.");
+        const qint64 t = qAbs(QDate::currentDate().daysTo(nap));
+        if (t >= tav) continue;
+        tav = t;
+        legjobb = i;
+    }
+    return legjobb;
 }
 
 }  // namespace
@@ -93,6 +138,212 @@ private slots:
         QVERIFY((a.allapot().Keplet.pillanat == TPillanat{1975, 7, 21, 6, 4, 9}));
         QCOMPARE(panel(a.form1, 0), "Radix");
         QCOMPARE(panel(a.form1, 4), "Szeged");
+    }
+
+    void aFokuszAListanAzElsoSorKijelolve() {
+        TSzuletettKeplet a;
+        for (const char* pont : {"Szolar1", "Lunar1"}) {
+            megnyit(a, pont, [](QWidget& d) {
+                QCOMPARE(QApplication::focusWidget()->objectName(), "ListBox1");
+                QCOMPARE(sorok(d).currentRow(), 0);
+                QVERIFY(sorok(d).item(0)->isSelected());
+                QCOMPARE(helyseg(d).currentText(), "Szeged");
+                QCOMPARE(helyseg(d).itemText(helyseg(d).currentIndex()), "Szeged");
+                // What is left behind does not come back.
+                leut(Qt::Key_Down);
+                leut(Qt::Key_Down);
+                leut(Qt::Key_Escape);
+                QVERIFY(!d.isVisible());
+            });
+        }
+    }
+
+    void anyilAListanLepAHelyMarad() {
+        TSzuletettKeplet a;
+        megnyit(a, "Szolar1", [](QWidget& d) {
+            leut(Qt::Key_Down);
+            leut(Qt::Key_Down);
+            gorget(helyseg(d), -1);
+            QCOMPARE(helyseg(d).currentText(), "Szeged");
+            QCOMPARE(sorok(d).currentRow(), 2);
+            leut(Qt::Key_Return);
+            QVERIFY(!d.isVisible());
+        });
+        QCOMPARE(a.allapot().Keplet.pillanat.ev, 1977);
+        QCOMPARE(panel(a.form1, 4), "Szeged");
+        QVERIFY(a.allapot().VisszaMod);
+    }
+
+    void akijelolesAzAmitARendbenVesz() {
+        TSzuletettKeplet a;
+        megnyit(a, "Szolar1", [](QWidget& d) {
+            const QPoint hely = sorok(d).visualItemRect(sorok(d).item(1)).center();
+            QTest::mouseClick(sorok(d).viewport(), Qt::LeftButton, {}, hely);
+            QTest::mouseClick(sorok(d).viewport(), Qt::LeftButton, Qt::ControlModifier, hely);
+            QCOMPARE(sorok(d).selectedItems().size(), 1);
+            QVERIFY(sorok(d).item(1)->isSelected());
+            kattint(d, "Button_Rendben1");
+        });
+        QCOMPARE(a.allapot().Keplet.pillanat.ev, 1976);
+    }
+
+    void aKettosKattintasRendben() {
+        TSzuletettKeplet a;
+        megnyit(a, "Szolar1", [](QWidget& d) {
+            const QPoint hely = sorok(d).visualItemRect(sorok(d).item(3)).center();
+            QTest::mouseClick(sorok(d).viewport(), Qt::LeftButton, {}, hely);
+            QVERIFY(d.isVisible());
+            QTest::mouseDClick(sorok(d).viewport(), Qt::LeftButton, {}, hely);
+            QVERIFY(!d.isVisible());
+        });
+        QCOMPARE(a.allapot().Keplet.pillanat.ev, 1978);
+        QVERIFY(!a.allapot().Megsem14);
+    }
+
+    void aMaiNaphozBillentyuvelEsMenubol() {
+        TSzuletettKeplet a;
+        int ma = 0;
+        for (const bool billentyu : {true, false}) {
+            megnyit(a, "Lunar1", [&](QWidget& d) {
+                ma = maiSor(d);
+                QVERIFY(ma > 600);  // more than 46 years of 13 rows
+                QCOMPARE(sorok(d).currentRow(), 0);
+                if (billentyu) {
+                    leut(Qt::Key_M);
+                } else {
+                    QCOMPARE(sorok(d).contextMenuPolicy(), Qt::ActionsContextMenu);
+                    QCOMPARE(sorok(d).actions().value(0)->text(), "Mai naphoz");
+                    sorok(d).actions()[0]->trigger();
+                }
+                QVERIFY2(qAbs(sorok(d).currentRow() - ma) <= 1, qPrintable(QString::number(ma)));
+                const QRect latszik = sorok(d).viewport()->rect();
+                QVERIFY(latszik.contains(sorok(d).visualItemRect(sorok(d).currentItem())));
+                ma = sorok(d).currentRow();
+                leut(Qt::Key_Return);
+                QVERIFY(!d.isVisible());
+            });
+            QCOMPARE(a.allapot().Keplet.pillanat.ev, a.allapot().Visszateresek.sorok[ma + 1].pillanat.ev);
+            kattint(a.form1, "PanelButton2_Most");
+        }
+    }
+
+    void azMASzovegbeIrhato() {
+        TSzuletettKeplet a;
+        megnyit(a, "Lunar1", [](QWidget& d) {
+            belelep(d, "ComboBoxHelyseg1");
+            beut("M");
+            QCOMPARE(helyseg(d).currentText(), "M");
+            QCOMPARE(sorok(d).currentRow(), 0);
+            kattint(d, "Button_Megsem1");
+        });
+    }
+
+    void amiCsakKijelzesNemValtoztathato() {
+        TSzuletettKeplet a;
+        megnyit(a, "Szolar1", [](QWidget& d) {
+            for (const auto* mezo : d.findChildren<QSpinBox*>()) {
+                QVERIFY2(mezo->isReadOnly() && mezo->isEnabled(), qPrintable(mezo->objectName()));
+                const QString elobb = mezo->text();
+                QTest::mouseClick(mezo->findChild<QLineEdit*>(), Qt::LeftButton);
+                for (const Qt::Key k : {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp}) leut(k);
+                beut("1");
+                gorget(*const_cast<QSpinBox*>(mezo), 1);
+                QCOMPARE(mezo->text(), elobb);
+                QTest::mouseClick(const_cast<QSpinBox*>(mezo), Qt::LeftButton, {},
+                                  QPoint(mezo->width() - 4, 4));
+                QCOMPARE(mezo->text(), elobb);
+            }
+            QCOMPARE(d.findChildren<QSpinBox*>().size(), 7);
+            const auto radiok =
+                vezerlo<QGroupBox>(d, "RadioGroupIdovalaszto1")->findChildren<QRadioButton*>();
+            for (auto* radio : radiok) {
+                QVERIFY(radio->isEnabled());
+                // Where the pointer stands over it, the click goes to what lies beneath.
+                const QPoint hely = radio->mapTo(&d, QPoint(8, radio->height() / 2));
+                QVERIFY(d.childAt(hely) == nullptr);
+                QCOMPARE(radio->focusPolicy(), Qt::NoFocus);
+            }
+            QVERIFY(radiok[2]->isChecked());
+            kattint(d, "Button_Megsem1");
+        });
+    }
+
+    void aTabulatorAListaAHelyEsAGombokKozottJar() {
+        TSzuletettKeplet a;
+        megnyit(a, "Szolar1", [](QWidget& d) {
+            QStringList rend;
+            for (int i = 0; i < 5; ++i) {
+                rend << QApplication::focusWidget()->objectName();
+                leut(Qt::Key_Tab);
+            }
+            QCOMPARE(rend, (QStringList{"ListBox1", "ComboBoxHelyseg1", "Button_Rendben1", "Button_Megsem1",
+                                        "ListBox1"}));
+            kattint(d, "Button_Megsem1");
+        });
+    }
+
+    void aNyugatiEsADeliHelyPerceElojeles() {
+        TSzuletettKeplet a;
+        a.allapot().Keplet.hosszusag = -68160;
+        a.allapot().Keplet.szelesseg = -(33 * 3600 + 7 * 60 + 59);
+        megnyit(a, "Szolar1", [](QWidget& d) {
+            QCOMPARE(ertek(d, "SpinEditHosszFok1"), -18);
+            QCOMPARE(ertek(d, "SpinEditHosszPerc1"), -56);
+            QCOMPARE(ertek(d, "SpinEditSzelFok1"), -33);
+            QCOMPARE(ertek(d, "SpinEditSzelPerc1"), -7);
+            gepel(d, "ComboBoxHelyseg1", "Pécs");
+            QCOMPARE(ertek(d, "SpinEditHosszFok1"), 18);
+            QCOMPARE(ertek(d, "SpinEditHosszPerc1"), 14);
+            kattint(d, "Button_Megsem1");
+        });
+        a.allapot().Keplet.hosszusag = INT32_MIN;
+        megnyit(a, "Szolar1", [](QWidget& d) {
+            QCOMPARE(ertek(d, "SpinEditHosszFok1"), -596523);
+            QCOMPARE(ertek(d, "SpinEditHosszPerc1"), -14);  // 2147483648 = 596523 * 3600 + 14 * 60 + 8
+            kattint(d, "Button_Megsem1");
+        });
+    }
+
+    void aHelysegKiegeszulEsJelolodik() {
+        TSzuletettKeplet a;
+        megnyit(a, "Szolar1", [](QWidget& d) {
+            belelep(d, "ComboBoxHelyseg1");
+            beut("gyor");
+            QVERIFY(helyseg(d).toolTip().contains("Budapest"));
+            leut(Qt::Key_Return);
+            QCOMPARE(helyseg(d).currentText(), "Győr");
+            QVERIFY(!helyseg(d).toolTip().contains("Budapest"));
+            QVERIFY(d.isVisible());
+            leut(Qt::Key_Return);
+            QVERIFY(!d.isVisible());
+        });
+        QCOMPARE(panel(a.form1, 4), "Győr");
+    }
+
+    void aKeretesAzEscapeMegsem() {
+        TSzuletettKeplet a;
+        for (const bool keret : {true, false}) {
+            a.allapot().Megsem14 = false;
+            megnyit(a, "Szolar1", [keret](QWidget& d) {
+                if (keret)
+                    keretenCsuk(d);
+                else
+                    leut(Qt::Key_Escape);
+            });
+            QVERIFY(a.allapot().Megsem14);
+            QVERIFY(!a.allapot().VisszaMod);
+        }
+    }
+
+    void azUresListabanNincsMiKijelolni() {
+        TSzuletettKeplet a;
+        a.allapot().RadixPillanat = {2078, 6, 1, 12, 0, 0};  // behind the last day that a search begins on
+        megnyit(a, "SzaturnuszRev1", [](QWidget& d) {
+            QCOMPARE(sorok(d).count(), 0);
+            leut(Qt::Key_M);
+            QCOMPARE(sorok(d).currentRow(), -1);
+            leut(Qt::Key_Escape);
+        });
     }
 
     void aFutoOraVisszaveszi() {

@@ -4,8 +4,10 @@
 #include <QGroupBox>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QRegularExpression>
 
-#include "ablakteszt.h"
+#include "eletesemenyteszt.h"
+#include "kezteszt.h"
 #include "windows/qszoveg.h"
 
 namespace {
@@ -31,6 +33,18 @@ struct TTartomany {
     const char* nev;
     int also, felso;
 };
+QString sugo(const QWidget& d, const char* nev) {
+    return vezerlo<QWidget>(d, nev)->toolTip();
+}
+
+bool nyariIdoJelolt(const QWidget& d) {
+    const auto* mezo = vezerlo<QSpinBox>(d, "SpinEditNyariidosz1");
+    const bool szines = mezo->findChild<QLineEdit*>()->palette().color(QPalette::Text) !=
+                        vezerlo<QSpinBox>(d, "SpinEditMperc1")->palette().color(QPalette::Text);
+    if (szines == mezo->toolTip().isEmpty()) qFatal("colour and tooltip disagree");
+    return szines;
+}
+
 constexpr TTartomany tartomanyok[]{
     {"SpinEditEv1", 1900, 2068},   {"SpinEditHo1", 1, 12},          {"SpinEditNap1", 1, 31},
     {"SpinEditOra1", 0, 23},       {"SpinEditPerc1", 0, 59},        {"SpinEditMperc1", 0, 59},
@@ -262,6 +276,219 @@ private slots:
         menu(a.form1, "Uj1");
         QVERIFY(a.allapot().Megsem2);
         QVERIFY(a.allapot().MostFut);
+    }
+
+    void aHelysegKiegeszulAzEnterNemCsuk() {
+        TFrissAblakok a;
+        a.vezerloOra()->start();
+        valasz([](QWidget& d) {
+            belelep(d, "ComboBoxHelyseg1");
+            beut("gyor");
+            leut(Qt::Key_Return);
+            QVERIFY(d.isVisible());
+            QCOMPARE(vezerlo<QComboBox>(d, "ComboBoxHelyseg1")->currentText(), "Győr");
+            QCOMPARE(ertek(d, "SpinEditHosszFok1"), 17);  // 63478" is 17°37'
+            QCOMPARE(ertek(d, "SpinEditHosszPerc1"), 37);
+            QCOMPARE(ertek(d, "SpinEditSzelFok1"), 47);  // 171676" is 47°41'
+            QCOMPARE(ertek(d, "SpinEditSzelPerc1"), 41);
+            leut(Qt::Key_Return);
+            QVERIFY(!d.isVisible());
+        });
+        menu(a.form1, "Uj1");
+        QCOMPARE(panel(a.form1, 4).trimmed(), "Győr");
+        QCOMPARE(a.allapot().Keplet.helyseg, std::string("Győr"));
+    }
+
+    void azIsmeretlenHelyJelolve() {
+        TFrissAblakok a;
+        a.vezerloOra()->start();
+        for (int nyitas = 0; nyitas < 2; ++nyitas) {
+            valasz([](QWidget& d) {
+                belelep(d, "ComboBoxHelyseg1");
+                beut("Szeged");
+                QCOMPARE(sugo(d, "ComboBoxHelyseg1"), "Legfeljebb 32 karakter");
+                beut("x");
+                QCOMPARE(sugo(d, "ComboBoxHelyseg1"),
+                         "Ez a helység nincs a táblában: a program Budapest adataival számol.");
+                keretenCsuk(d);
+            });
+            menu(a.form1, nyitas == 0 ? "Uj1" : "Szemely_adatok1");
+        }
+        // The place as it was left is marked from the opening on.
+        valasz([](QWidget& d) {
+            QCOMPARE(vezerlo<QComboBox>(d, "ComboBoxHelyseg1")->currentText(), "Szegedx");
+            QVERIFY(sugo(d, "ComboBoxHelyseg1").contains("Budapest"));
+            leut(Qt::Key_Escape);
+        });
+        menu(a.form1, "Szemely_adatok1");
+    }
+
+    void aNyariIdoEltereseAMezokkelEgyuttJelolodik() {
+        TFrissAblakok a;
+        a.vezerloOra()->start();
+        valasz([](QWidget& d) {
+            gepel(d, "SpinEditEv1", "2000");
+            gepel(d, "SpinEditHo1", "1");
+            gepel(d, "SpinEditNap1", "15");
+            gepel(d, "SpinEditOra1", "2");
+            gepel(d, "SpinEditNyariidosz1", "0");
+            QVERIFY(!nyariIdoJelolt(d));
+            gepel(d, "SpinEditNyariidosz1", "1");
+            QVERIFY(nyariIdoJelolt(d));
+            QCOMPARE(sugo(d, "SpinEditNyariidosz1"),
+                     "Eltér a nyári időszámítás táblájától: ekkor ott 0 áll.");
+            gepel(d, "SpinEditHo1", "10");  // in summer time to 29 October 2000, 3 o'clock
+            QVERIFY(!nyariIdoJelolt(d));
+            gepel(d, "SpinEditNap1", "29");
+            QVERIFY(!nyariIdoJelolt(d));
+            gepel(d, "SpinEditOra1", "3");
+            QVERIFY(nyariIdoJelolt(d));
+            gepel(d, "SpinEditOra1", "2");
+            QVERIFY(!nyariIdoJelolt(d));
+            gepel(d, "SpinEditEv1", "1975");
+            QVERIFY(nyariIdoJelolt(d));
+            QCOMPARE(ertek(d, "SpinEditNyariidosz1"), 1);  // nothing changes by itself
+            gepel(d, "ComboBoxHelyseg1", "Szeged");        // but the place asks the table, as ever
+            QCOMPARE(ertek(d, "SpinEditNyariidosz1"), 0);
+            QVERIFY(!nyariIdoJelolt(d));
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Uj1");
+    }
+
+    void aNyariIdoJeloleseAzIdoFajtajavalIsValtozik() {
+        TFrissAblakok a;
+        a.vezerloOra()->start();
+        valasz([](QWidget& d) {
+            gepel(d, "SpinEditEv1", "2000");
+            gepel(d, "SpinEditHo1", "7");
+            gepel(d, "SpinEditNap1", "15");
+            gepel(d, "SpinEditNyariidosz1", "1");
+            QVERIFY(!nyariIdoJelolt(d));  // no kind chosen counts as zone time
+            for (const int index : {1, 2}) {
+                idoTipus(d, index);
+                QVERIFY(nyariIdoJelolt(d));
+                gepel(d, "SpinEditNyariidosz1", "0");
+                QVERIFY(!nyariIdoJelolt(d));
+                idoTipus(d, 0);
+                QVERIFY(nyariIdoJelolt(d));
+                gepel(d, "SpinEditNyariidosz1", "1");
+                QVERIFY(!nyariIdoJelolt(d));
+            }
+            gepel(d, "SpinEditNyariidosz1", "0");
+            kattint(d, "Button_Rendben1");
+        });
+        menu(a.form1, "Uj1");
+        QCOMPARE(a.allapot().Keplet.nyariIdo, 0);
+        // The chart in hand keeps its own summer time; it is marked when the dialog opens.
+        valasz([](QWidget& d) {
+            QVERIFY(nyariIdoJelolt(d));
+            QCOMPARE(ertek(d, "SpinEditNyariidosz1"), 0);
+            leut(Qt::Key_Escape);
+        });
+        menu(a.form1, "Szemely_adatok1");
+        // A new chart asks the table.
+        valasz([](QWidget& d) {
+            QCOMPARE(ertek(d, "SpinEditNyariidosz1"), 1);
+            QVERIFY(!nyariIdoJelolt(d));
+            keretenCsuk(d);
+        });
+        menu(a.form1, "Uj1");
+    }
+
+    void azEletesemenyekGombjaMegmondjaASzamukat() {
+        TFrissAblakok a;
+        a.vezerloOra()->start();
+        const auto szam = [](const QWidget& d) {
+            return sugo(d, "Button_Eletesemenyek1").section(QRegularExpression("\\D+"), 1, 1);
+        };
+        valasz([&](QWidget& d) {
+            QCOMPARE(szam(d), "0");
+            valasz([](QWidget& esemenyek) {
+                esemenyGepelese(esemenyek, "első", "1,2", "1999");
+                esemenyGepelese(esemenyek, "második", "3", "2000");
+                kattint(esemenyek, "Button_Rendben2");
+            });
+            kattint(d, "Button_Eletesemenyek1");
+            QCOMPARE(szam(d), "2");
+            kattint(d, "Button_Rendben1");
+        });
+        menu(a.form1, "Uj1");
+        valasz([&](QWidget& d) {
+            QCOMPARE(szam(d), "2");  // a new chart keeps them
+            keretenCsuk(d);
+        });
+        menu(a.form1, "Uj1");
+        a.allapot().Esemenyek.EsemenyDb = 0;
+        valasz([&](QWidget& d) {
+            QCOMPARE(szam(d), "0");
+            leut(Qt::Key_Escape);
+        });
+        menu(a.form1, "Szemely_adatok1");
+    }
+
+    void aHosszuSzovegekAMezojukbenElfernek() {
+        TFrissAblakok a;
+        a.vezerloOra()->start();
+        valasz([](QWidget& d) {
+            belelep(d, "EditNev1");
+            beut(qPrintable(QString(40, u'n')));
+            belelep(d, "ComboBoxHelyseg1");
+            beut(qPrintable(QString(40, u'h')));
+            vezerlo<QPlainTextEdit>(d, "Memo_Jegyzet1")->setFocus();
+            beut(qPrintable(QString(300, u'j')));
+            QCOMPARE(sugo(d, "EditNev1"), "Legfeljebb 32 karakter");
+            QCOMPARE(sugo(d, "Memo_Jegyzet1"), "Legfeljebb 255 karakter");
+            kattint(d, "Button_Rendben1");
+        });
+        menu(a.form1, "Uj1");
+        QCOMPARE(a.allapot().Szemely.nev, std::string(32, 'n'));
+        QCOMPARE(a.allapot().Keplet.helyseg, std::string(32, 'h'));
+        QCOMPARE(a.allapot().Szemely.jegyzet, std::string(255, 'j'));
+    }
+
+    void aHibasEvszamEnterreNemCsukja() {
+        TFrissAblakok a;
+        a.vezerloOra()->start();
+        valasz([](QWidget& d) {
+            belelep(d, "SpinEditEv1");
+            beut("86");
+            leut(Qt::Key_Return);
+            QVERIFY(d.isVisible());
+            QCOMPARE(ertek(d, "SpinEditEv1"), 1900);
+            beut("1986");
+            leut(Qt::Key_Tab);
+            beut("13");
+            leut(Qt::Key_Tab);
+            QCOMPARE(ertek(d, "SpinEditHo1"), 12);
+            beut("32");
+            leut(Qt::Key_Tab);
+            QCOMPARE(ertek(d, "SpinEditNap1"), 31);
+            leut(Qt::Key_Return);
+            QVERIFY(!d.isVisible());
+        });
+        menu(a.form1, "Uj1");
+        QVERIFY(panel(a.form1, 3).startsWith("1986.12.31."));
+    }
+
+    void csakBillentyuvel() {
+        TFrissAblakok a;
+        a.vezerloOra()->start();
+        valasz([](QWidget& d) {
+            const auto mezo = [](const char* szoveg) {
+                beut(szoveg);
+                leut(Qt::Key_Tab);
+            };
+            for (const char* szoveg : {"Minta Anna", "1975", "3", "21", "6", "4", "9"}) mezo(szoveg);
+            beut("szeged");
+            leut(Qt::Key_Return);
+            leut(Qt::Key_Return);
+            QVERIFY(!d.isVisible());
+        });
+        menu(a.form1, "Uj1");
+        QCOMPARE(panel(a.form1, 2), "Minta Anna ");
+        QCOMPARE(panel(a.form1, 3), "1975.03.21. 06:04:09 ZN");
+        QCOMPARE(panel(a.form1, 4), "Szeged ");
     }
 
     void azOraADialogusAlattIsJar() {

@@ -1,8 +1,6 @@
 #include "commands/nyomtatas.h"
 
-#include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <string_view>
 
 #include "chart/statuszsor.h"
@@ -34,14 +32,6 @@ std::string PdfFajlNev(const Allapot& allapot) {
     const std::string datum = std::to_string(p.ev) + "-" + ketJegy(p.ho) + "-" + ketJegy(p.nap);
     const std::string nev = FajlNev(allapot.Szemely.nev);
     return (nev.empty() ? datum : nev + " " + datum) + ".pdf";
-}
-
-int NyomtatasiFelbontas(const std::vector<int>& tudott) {
-    constexpr int kivant = 300;
-    const auto legkozelebbi = std::min_element(tudott.begin(), tudott.end(), [](int a, int b) {
-        return std::abs(a - kivant) < std::abs(b - kivant);
-    });
-    return legkozelebbi == tudott.end() ? kivant : *legkozelebbi;
 }
 
 namespace {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "chart/allapot.h"
 #include "drawing/vaszon.h"
@@ -15,10 +14,10 @@ void NyomtatasNezete(Allapot& allapot, const std::string& megnevezes);
 /// File name that printing to a PDF proposes: the person's name and the chart's date, as a plain file name.
 std::string PdfFajlNev(const Allapot& allapot);
 
-/// Resolution of the print, dots per inch: 300, at which the fixed heights of the page's lines are 5 and 3
-/// mm, or what the printer has nearest to it.
-/// @param tudott  what the printer knows; empty if it does not say
-int NyomtatasiFelbontas(const std::vector<int>& tudott);
+/// Resolution of the print, dots per inch, at which the fixed heights of the page's lines are 5 and 3 mm.
+/// What a printer lists as its own does not count: the page goes to it as a drawing, which it scales, and
+/// keeps another one only where it must.
+inline constexpr int nyomtatasiFelbontas = 300;
 
 /// Draws the chart on a page with its header and contact line. Their heights of 60 and 36 device pixels do
 /// not follow the page, so that the lines look alike on every size of paper; the resolution is chosen for

@@ -202,8 +202,7 @@ bool TForm1::lapFestes(QPagedPaintDevice& lap, const QString& nev) {
 }
 
 void TForm1::papirraNyomtatas(const QString& nev) {
-    const QList<int> tudott = nyomtato().supportedResolutions();
-    nyomtato().setResolution(NyomtatasiFelbontas({tudott.begin(), tudott.end()}));
+    nyomtato().setResolution(nyomtatasiFelbontas);
     nyomtato().setDocName(nev);
     if (!lapFestes(nyomtato(), nev) || nyomtato().printerState() == QPrinter::Error)
         parbeszed_->uzenet(this, "A nyomtatás nem sikerült.");
@@ -218,7 +217,7 @@ void TForm1::pdfNyomtatas(const QString& nev) {
     tar.open(QIODevice::WriteOnly);
     QPdfWriter pdf(&tar);
     pdf.setPageLayout(nyomtato().pageLayout());
-    pdf.setResolution(NyomtatasiFelbontas({}));
+    pdf.setResolution(nyomtatasiFelbontas);
     pdf.setTitle(nev);
     pdf.setCreator("Korvend");
     if (!lapFestes(pdf, nev) || !FajlIras(szoveg(fajl), tar.data().toStdString()))

@@ -67,12 +67,4 @@ TEST(Nyomtatas, APdfNeveASzemelyNeveEsAKepletDatuma) {
     EXPECT_EQ(PdfFajlNev(a), "2068-11-02.pdf");
 }
 
-TEST(Nyomtatas, AFelbontas300VagyALegkozelebbi) {
-    EXPECT_EQ(NyomtatasiFelbontas({}), 300);
-    EXPECT_EQ(NyomtatasiFelbontas({72, 300, 1200}), 300);
-    EXPECT_EQ(NyomtatasiFelbontas({600, 1200}), 600);
-    EXPECT_EQ(NyomtatasiFelbontas({203}), 203);
-    EXPECT_EQ(NyomtatasiFelbontas({72, 360, 180}), 360);
-}
-
 }  // namespace

@@ -49,6 +49,8 @@ TEST(Szoveg, AzErvenytelenUtf8) {
                                "\xED\xA0\x80",
                                "\xED\xBF\xBF",  // halves of a surrogate pair
                                "\xF4\x90\x80\x80",
+                               "\xF5\x80\x80\x80",
+                               "\xF8\x88\x80\x80",
                                "\xFF",
                                "\xFE"})  // beyond the last character
         EXPECT_FALSE(ervenyesUtf8(szoveg)) << szoveg;

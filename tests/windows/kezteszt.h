@@ -36,6 +36,14 @@ inline void beut(const char* szoveg) {
         QTest::sendKeyEvent(QTest::Click, &billentyuzetnel(), Qt::Key_unknown, QString(c), Qt::NoModifier);
 }
 
+/// As `valasz`, and hides the dialog at the end, so that a test that failed in it goes on.
+inline void dialogusban(std::function<void(QWidget&)> teendo) {
+    valasz([teendo = std::move(teendo)](QWidget& d) {
+        teendo(d);
+        d.hide();
+    });
+}
+
 /// Goes to a field with the mouse and marks its text there.
 inline void belelep(QWidget& ablak, const char* mezo) {
     auto* sor = vezerlo<QWidget>(ablak, mezo)->findChild<QLineEdit*>();

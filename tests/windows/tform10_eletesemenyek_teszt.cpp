@@ -135,7 +135,7 @@ private slots:
     void esemenyNelkulAFeltuntetettSzuletesIdejeEsHelye() {
         TFrissAblakok a;
         a.vezerloOra()->start();
-        valasz([](QWidget& d) {
+        dialogusban([](QWidget& d) {
             gepel(d, "SpinEditEv1", "1985");
             gepel(d, "SpinEditHo1", "7");
             gepel(d, "SpinEditNap1", "21");
@@ -145,7 +145,7 @@ private slots:
             gepel(d, "ComboBoxHelyseg1", "Szeged");
             gepel(d, "SpinEditHosszPerc1", "30");
             gepel(d, "SpinEditNyariidosz1", "0");
-            valasz([](QWidget& szerkeszto) {
+            dialogusban([](QWidget& szerkeszto) {
                 QVERIFY((idoMezok(szerkeszto) == TPillanat{1985, 7, 21, 6, 4, 9}));
                 QCOMPARE(helyseg(szerkeszto), "Szeged");
                 QCOMPARE(ertek(szerkeszto, "SpinEditHosszFok1"), 20);
@@ -165,7 +165,7 @@ private slots:
         szuletes(a);  // 1975-07-21 06:04:09 Szeged, typed as zone time
         a.vezerloOra()->start();
         vezerlo<QSpinBox>(a.form2, "SpinEditEv1")->setValue(2001);  // what the other dialog's fields hold
-        valasz([](QWidget& d) {
+        dialogusban([](QWidget& d) {
             QVERIFY((idoMezok(d) == TPillanat{1975, 7, 21, 6, 4, 9}));
             QCOMPARE(helyseg(d), "Szeged");
             kattint(d, "Button_Megsem2");
@@ -267,6 +267,15 @@ private slots:
             // A row that was only looked at is no change.
             QTest::mouseClick(vezerlo<QLabel>(d, "LEletes_1_1"), Qt::LeftButton);
             keretenCsuk(d);
+            QVERIFY(!d.isVisible());
+        });
+        a.szerkeszt([](QWidget& d) {
+            // Nor is one that was typed anew as it had been.
+            QTest::mouseClick(vezerlo<QLabel>(d, "LEletes_1_1"), Qt::LeftButton);
+            gepel(d, "Edit_Eletesemenyek1", "első");
+            gepel(d, "Edit_Hazanalogiak1", "1,2");
+            kattint(d, "Button_Rendben1");
+            leut(Qt::Key_Escape);
             QVERIFY(!d.isVisible());
         });
         a.szerkeszt([](QWidget& d) {

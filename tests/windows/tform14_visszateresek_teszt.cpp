@@ -152,6 +152,7 @@ private slots:
                 // What is left behind does not come back.
                 leut(Qt::Key_Down);
                 leut(Qt::Key_Down);
+                belelep(d, "ComboBoxHelyseg1");
                 leut(Qt::Key_Escape);
                 QVERIFY(!d.isVisible());
             });

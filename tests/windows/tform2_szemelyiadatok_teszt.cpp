@@ -281,7 +281,7 @@ private slots:
     void aHelysegKiegeszulAzEnterNemCsuk() {
         TFrissAblakok a;
         a.vezerloOra()->start();
-        valasz([](QWidget& d) {
+        dialogusban([](QWidget& d) {
             belelep(d, "ComboBoxHelyseg1");
             beut("gyor");
             leut(Qt::Key_Return);
@@ -303,7 +303,7 @@ private slots:
         TFrissAblakok a;
         a.vezerloOra()->start();
         for (int nyitas = 0; nyitas < 2; ++nyitas) {
-            valasz([](QWidget& d) {
+            dialogusban([](QWidget& d) {
                 belelep(d, "ComboBoxHelyseg1");
                 beut("Szeged");
                 QCOMPARE(sugo(d, "ComboBoxHelyseg1"), "Legfeljebb 32 karakter");
@@ -315,7 +315,7 @@ private slots:
             menu(a.form1, nyitas == 0 ? "Uj1" : "Szemely_adatok1");
         }
         // The place as it was left is marked from the opening on.
-        valasz([](QWidget& d) {
+        dialogusban([](QWidget& d) {
             QCOMPARE(vezerlo<QComboBox>(d, "ComboBoxHelyseg1")->currentText(), "Szegedx");
             QVERIFY(sugo(d, "ComboBoxHelyseg1").contains("Budapest"));
             leut(Qt::Key_Escape);
@@ -326,7 +326,7 @@ private slots:
     void aNyariIdoEltereseAMezokkelEgyuttJelolodik() {
         TFrissAblakok a;
         a.vezerloOra()->start();
-        valasz([](QWidget& d) {
+        dialogusban([](QWidget& d) {
             gepel(d, "SpinEditEv1", "2000");
             gepel(d, "SpinEditHo1", "1");
             gepel(d, "SpinEditNap1", "15");
@@ -359,7 +359,7 @@ private slots:
     void aNyariIdoJeloleseAzIdoFajtajavalIsValtozik() {
         TFrissAblakok a;
         a.vezerloOra()->start();
-        valasz([](QWidget& d) {
+        dialogusban([](QWidget& d) {
             gepel(d, "SpinEditEv1", "2000");
             gepel(d, "SpinEditHo1", "7");
             gepel(d, "SpinEditNap1", "15");
@@ -381,14 +381,21 @@ private slots:
         menu(a.form1, "Uj1");
         QCOMPARE(a.allapot().Keplet.nyariIdo, 0);
         // The chart in hand keeps its own summer time; it is marked when the dialog opens.
-        valasz([](QWidget& d) {
+        dialogusban([](QWidget& d) {
             QVERIFY(nyariIdoJelolt(d));
             QCOMPARE(ertek(d, "SpinEditNyariidosz1"), 0);
             leut(Qt::Key_Escape);
         });
         menu(a.form1, "Szemely_adatok1");
+        // The kind of the clock counts from the opening on.
+        a.allapot().Szemely.idoTipusIndex = 1;
+        dialogusban([](QWidget& d) {
+            QVERIFY(!nyariIdoJelolt(d));
+            leut(Qt::Key_Escape);
+        });
+        menu(a.form1, "Szemely_adatok1");
         // A new chart asks the table.
-        valasz([](QWidget& d) {
+        dialogusban([](QWidget& d) {
             QCOMPARE(ertek(d, "SpinEditNyariidosz1"), 1);
             QVERIFY(!nyariIdoJelolt(d));
             keretenCsuk(d);
@@ -402,9 +409,9 @@ private slots:
         const auto szam = [](const QWidget& d) {
             return sugo(d, "Button_Eletesemenyek1").section(QRegularExpression("\\D+"), 1, 1);
         };
-        valasz([&](QWidget& d) {
+        dialogusban([&](QWidget& d) {
             QCOMPARE(szam(d), "0");
-            valasz([](QWidget& esemenyek) {
+            dialogusban([](QWidget& esemenyek) {
                 esemenyGepelese(esemenyek, "első", "1,2", "1999");
                 esemenyGepelese(esemenyek, "második", "3", "2000");
                 kattint(esemenyek, "Button_Rendben2");
@@ -414,13 +421,13 @@ private slots:
             kattint(d, "Button_Rendben1");
         });
         menu(a.form1, "Uj1");
-        valasz([&](QWidget& d) {
+        dialogusban([&](QWidget& d) {
             QCOMPARE(szam(d), "2");  // a new chart keeps them
             keretenCsuk(d);
         });
         menu(a.form1, "Uj1");
         a.allapot().Esemenyek.EsemenyDb = 0;
-        valasz([&](QWidget& d) {
+        dialogusban([&](QWidget& d) {
             QCOMPARE(szam(d), "0");
             leut(Qt::Key_Escape);
         });
@@ -430,7 +437,7 @@ private slots:
     void aHosszuSzovegekAMezojukbenElfernek() {
         TFrissAblakok a;
         a.vezerloOra()->start();
-        valasz([](QWidget& d) {
+        dialogusban([](QWidget& d) {
             belelep(d, "EditNev1");
             beut(qPrintable(QString(40, u'n')));
             belelep(d, "ComboBoxHelyseg1");
@@ -450,7 +457,7 @@ private slots:
     void aHibasEvszamEnterreNemCsukja() {
         TFrissAblakok a;
         a.vezerloOra()->start();
-        valasz([](QWidget& d) {
+        dialogusban([](QWidget& d) {
             belelep(d, "SpinEditEv1");
             beut("86");
             leut(Qt::Key_Return);
@@ -474,7 +481,7 @@ private slots:
     void csakBillentyuvel() {
         TFrissAblakok a;
         a.vezerloOra()->start();
-        valasz([](QWidget& d) {
+        dialogusban([](QWidget& d) {
             const auto mezo = [](const char* szoveg) {
                 beut(szoveg);
                 leut(Qt::Key_Tab);

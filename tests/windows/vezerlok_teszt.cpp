@@ -1,5 +1,6 @@
 // The fields that all dialogs are made of: numbers, lengths, the wheel.
 
+#include <QClipboard>
 #include <QComboBox>
 #include <QDialog>
 #include <QVBoxLayout>
@@ -169,6 +170,10 @@ private slots:
     void aBetuEsAzElojelASzamMezobeNemMegy() {
         TProbaDialogus d;
         d.beir("Nap", "-a7b");
+        QCOMPARE(d.szam("Nap").text(), "7");
+        QApplication::clipboard()->setText("-5");
+        leut(Qt::Key_A, Qt::ControlModifier);
+        leut(Qt::Key_V, Qt::ControlModifier);
         QCOMPARE(d.szam("Nap").text(), "7");
         d.beir("Fok", "1-2");
         QCOMPARE(d.szam("Fok").text(), "12");

@@ -153,7 +153,7 @@ private slots:
                                                                       : OlvashatoIdok(sor));
                 }
             }
-            QVERIFY(sorok(a.form13, "Memo1")[1].endsWith("Fő utcai új lakásba"));
+            QVERIFY(sorok(a.form13, "Memo1")[1].endsWith("Őrbottyánba, új lakásba"));
             kattint(a.form13, "Button_Megsem1");
             kattint(a.form12, "Button_Megsem1");
         }

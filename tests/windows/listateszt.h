@@ -76,7 +76,7 @@ inline void sorokKijelolese(QPlainTextEdit& memo, int elso, int utolso) {
 inline void esemenyesKeplet(TFrissAblakok& a) {
     ujKeplet(a, [](QWidget& d) {
         esemenyGepelese(d, "Esküvő", "5,7", "1996");
-        esemenyGepelese(d, "Költözés Őrbottyánba, a Fő utcai új lakásba", "4", "2004");
+        esemenyGepelese(d, "Költözés Őrbottyánba, új lakásba", "4", "2004");
         esemenyGepelese(d, "Állás", "6", "2011");
         kattint(d, "Button_Rendben2");
     });

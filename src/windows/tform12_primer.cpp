@@ -48,11 +48,13 @@ TForm12::TForm12(Allapot& allapot, FoAblak&, QWidget* fo)
         return uj;
     };
     gomb("Button_Rendben1", "Rendben", {384, 9, 80, 28}, &TForm12::Button_Rendben1Click)->setDefault(true);
-    gomb("Button_Megsem1", "Mégsem", {470, 9, 80, 28}, &TForm12::Button_Megsem1Click);
-    connect(ujGomb(this, "Button_Pontositas1", "Pontosítás", {450, 436, 100, 28}), &QPushButton::clicked,
-            this, [this] {
-                if (pontositas) pontositas();
-            });
+    auto* megsem = gomb("Button_Megsem1", "Mégsem", {470, 9, 80, 28}, &TForm12::Button_Megsem1Click);
+    auto* pontositasGomb = ujGomb(this, "Button_Pontositas1", "Pontosítás", {450, 436, 100, 28});
+    connect(pontositasGomb, &QPushButton::clicked, this, [this] {
+        if (pontositas) pontositas();
+    });
+    setTabOrder(megsem, memo1_);
+    setTabOrder(memo1_, pontositasGomb);
 
     label8_ = new QLabel("Solar-Nap:", this);
     label8_->setObjectName("Label8");

@@ -71,10 +71,6 @@ void TForm2::mezokEpitese() {
     spinEditHosszPerc1_ = ujSzamMezo(this, "SpinEditHosszPerc1", 0, 59);
     spinEditSzelFok1_ = ujSzamMezo(this, "SpinEditSzelFok1", -legnagyobbFok, legnagyobbFok);
     spinEditSzelPerc1_ = ujSzamMezo(this, "SpinEditSzelPerc1", 0, 59);
-    memo_Jegyzet1_ = new QPlainTextEdit(this);
-    memo_Jegyzet1_->setObjectName("Memo_Jegyzet1");
-    memo_Jegyzet1_->setTabChangesFocus(true);
-    hosszKorlat(*memo_Jegyzet1_, hosszuSzovegHossz);
     connect(comboBoxHelyseg1_, &QComboBox::editTextChanged, this, &TForm2::ComboBoxHelyseg1Change);
     for (const QSpinBox* mezo : {spinEditEv1_, spinEditHo1_, spinEditNap1_, spinEditOra1_, spinEditPerc1_,
                                  spinEditMperc1_, spinEditNyariidosz1_})
@@ -92,10 +88,10 @@ QGroupBox* TForm2::idoValaszto() {
 }
 
 QHBoxLayout* TForm2::gombSor() {
+    eletesemenyekGomb_ = ujGomb(this, "Button_Eletesemenyek1", "Életesemények");
     auto* rendben = ujGomb(this, "Button_Rendben1", "Rendben");
     rendben->setDefault(true);
     auto* megsem = ujGomb(this, "Button_Megsem1", "Mégsem");
-    eletesemenyekGomb_ = ujGomb(this, "Button_Eletesemenyek1", "Életesemények");
     connect(rendben, &QPushButton::clicked, this, &TForm2::Button_Rendben1Click);
     connect(megsem, &QPushButton::clicked, this, &TForm2::Button_Megsem1Click);
     connect(eletesemenyekGomb_, &QPushButton::clicked, this, &TForm2::Button_Eletesemenyek1Click);
@@ -124,6 +120,10 @@ void TForm2::epites() {
     koordinataSor(*racs, 6, "Hosszúság (+/K, -/Ny):", spinEditHosszFok1_, spinEditHosszPerc1_);
     koordinataSor(*racs, 7, "Szélesség (+/É, -/D):", spinEditSzelFok1_, spinEditSzelPerc1_);
     racs->addWidget(idoValaszto(), 8, 0, 1, 6);
+    memo_Jegyzet1_ = new QPlainTextEdit(this);
+    memo_Jegyzet1_->setObjectName("Memo_Jegyzet1");
+    memo_Jegyzet1_->setTabChangesFocus(true);
+    hosszKorlat(*memo_Jegyzet1_, hosszuSzovegHossz);
     racs->addWidget(cimke("Jegyzet:"), 9, 0);
     racs->addWidget(memo_Jegyzet1_, 9, 1, 1, 5);
 

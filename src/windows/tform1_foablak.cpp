@@ -26,11 +26,8 @@
 #include "windows/modalisfelul.h"
 #include "windows/qszoveg.h"
 #include "windows/qtvaszon.h"
-#include "windows/tform12_primer.h"
-#include "windows/tform13_pontositas.h"
 #include "windows/tform5_hanglejatszo.h"
 #include "windows/tform7_lepteto.h"
-#include "windows/tform8_mundanhazak.h"
 
 namespace {
 
@@ -254,16 +251,6 @@ std::string TForm1::RendszerDatum() {
 
 std::string TForm1::RendszerIdo() {
     return szoveg(QTime::currentTime().toString("H:mm:ss"));
-}
-
-void TForm1::MundanFrissit() {
-    ablakok_->form8.frissit();
-}
-void TForm1::PontositasFuttat() {
-    ablakok_->form13.futtat();
-}
-void TForm1::PrimerFuttat() {
-    ablakok_->form12.futtat();
 }
 
 void TForm1::Timer1Timer() {

@@ -28,6 +28,7 @@
 #include "windows/sajatfajlok.h"
 #include "windows/tform11_jelszo.h"
 #include "windows/tform12_primer.h"
+#include "windows/tform13_pontositas.h"
 #include "windows/tform14_visszateresek.h"
 #include "windows/tform1_foablak.h"
 #include "windows/tform2_szemelyiadatok.h"
@@ -166,6 +167,16 @@ void TForm1::Szolaringresszio11Click() {
 
 void TForm1::Mundnhzaspontosts1Click() {
     ablakok_->form8.megmutat();
+}
+
+void TForm1::MundanFrissit() {
+    ablakok_->form8.frissit();
+}
+void TForm1::PontositasFuttat() {
+    ablakok_->form13.futtat();
+}
+void TForm1::PrimerFuttat() {
+    ablakok_->form12.futtat();
 }
 
 void TForm1::Szimbolumok1Click() {

@@ -42,6 +42,17 @@ std::string kisbetus(std::string_view szoveg, std::string_view TEkezetes::*alak)
     return ki;
 }
 
+/// The gazetteer's names in plain small letters, row by row; folded once.
+const std::vector<std::string>& simaNevek() {
+    static const std::vector<std::string> nevek = [] {
+        std::vector<std::string> simak;
+        simak.reserve(Telepulesek.size());
+        for (const TTelepules& t : Telepulesek) simak.push_back(ekezetNelkul(t.nev));
+        return simak;
+    }();
+    return nevek;
+}
+
 constexpr std::size_t csoportok = 4;
 using TCsoportok = std::array<std::vector<std::string_view>, csoportok>;
 
@@ -51,8 +62,9 @@ TCsoportok csoportositas(std::string_view beirt) {
     if (beirt.empty()) return talalatok;
     const std::string kicsi = kisbetus(beirt, &TEkezetes::kicsi);
     const std::string sima = ekezetNelkul(beirt);
-    for (const TTelepules& t : Telepulesek) {
-        const std::string nev = ekezetNelkul(t.nev);
+    for (std::size_t sor = 0; sor < Telepulesek.size(); ++sor) {
+        const TTelepules& t = Telepulesek[sor];
+        const std::string& nev = simaNevek()[sor];
         const std::size_t hely = nev.find(sima);
         if (hely == std::string::npos) continue;
         std::size_t csoport = hely == 0 ? 2 : 3;

@@ -19,7 +19,8 @@ namespace {
 void hangFajl(const QString& fajl, int mintak = 4000) {
     constexpr int mintavetel = 8000;
     QByteArray adat;
-    for (int i = 0; i < mintak; ++i) adat.append(static_cast<char>(128 + 60 * std::sin(i * 0.3)));
+    for (int i = 0; i < mintak; ++i)
+        adat.append(static_cast<char>(std::lround(128 + 60 * std::sin(i * 0.3))));
     const auto szam = [](quint32 ertek, int bajtok) {
         QByteArray b;
         for (int i = 0; i < bajtok; ++i) b.append(static_cast<char>(ertek >> (8 * i) & 0xFFU));

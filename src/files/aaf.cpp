@@ -104,11 +104,22 @@ std::vector<TDarab> darabolas(std::string_view bajtok, TKodlap kodlap, TJelentes
     return darabok;
 }
 
+/// A field without the white space around it; where it goes over a line's end a blank stands.
+std::string mezo(std::string_view szoveg) {
+    szoveg = AafVagott(szoveg);
+    std::string ki;
+    for (std::size_t vege = szoveg.find('\n'); vege != szoveg.npos; vege = szoveg.find('\n')) {
+        ki.append(AafVagott(szoveg.substr(0, vege))).append(" ");
+        szoveg = AafVagott(szoveg.substr(vege + 1));
+    }
+    return ki.append(szoveg);
+}
+
 std::vector<std::string> mezok(std::string_view szoveg) {
     std::vector<std::string> ki;
     for (;;) {
         const std::size_t vege = std::min(szoveg.find(','), szoveg.size());
-        ki.emplace_back(AafVagott(szoveg.substr(0, vege)));
+        ki.push_back(mezo(szoveg.substr(0, vege)));
         if (vege == szoveg.size()) return ki;
         szoveg.remove_prefix(vege + 1);
     }
@@ -361,12 +372,12 @@ namespace {
 
 constexpr std::string_view sorVege = "\r\n";
 
+/// Text that a field can hold.
 std::string mezoSzoveg(std::string_view szoveg) {
-    if (szoveg.empty()) return "*";
     std::string ki(szoveg);
     std::replace(ki.begin(), ki.end(), ',', ';');
     std::replace(ki.begin(), ki.end(), '\n', ' ');
-    return ki;
+    return ki.empty() ? "*" : ki;
 }
 
 std::string datumSzoveg(const TPillanat& p) {
@@ -432,9 +443,9 @@ std::string AafFejlec() {
 
 std::string AafIras(const TAdatlap& lap) {
     const TKvhRekord& r = lap.keplet.adat;
-    const std::string_view nev = r.nev;
+    const std::string nev = r.nev.empty() ? "" : mezoSzoveg(r.nev);
     const std::size_t koz = std::min(nev.find(' '), nev.size());
-    const std::string_view utonev = koz == nev.size() ? std::string_view{} : nev.substr(koz + 1);
+    const std::string utonev = koz == nev.size() ? "" : nev.substr(koz + 1);
     std::string ki = szakaszIras("A93", nev.substr(0, koz), utonev, kepletFajta, r);
     if (!r.hang.empty()) ki += megjegyzesIras("COM", hangElo, r.hang);
     if (!r.jegyzet.empty()) ki += jegyzetIras(r.jegyzet);

@@ -131,6 +131,13 @@ TEST(Aaf, AFolytatottMezosDarab) {
               keplet(ferber));
 }
 
+TEST(Aaf, AMezobenASorvegSzokoz) {
+    const TKvhRekord r = keplet(
+        "#A93:Ferber,Tobias \n\n  Karl,m,27.9.1970,11:04,Kandel/\r\nPfalz,D\n#B93:*,49n05,8e11,1he,0\n");
+    EXPECT_EQ(r.nev, "Ferber Tobias Karl");
+    EXPECT_EQ(r.helyseg, "Kandel/ Pfalz");
+}
+
 TEST(Aaf, AFajtakMindOlvashatok) {
     for (const char* fajta : {"m", "f", "w", "e", "l", "o", "*"}) {
         const auto ki =

@@ -74,6 +74,15 @@ TEST(FajlNevek, ACsakNagybetubenElteroNevAzonos) {
     EXPECT_EQ(nevek.uj("a÷b"), "a÷b");  // multiplication and division sign are no letters
 }
 
+TEST(FajlNevek, ASzamozottNevReszei) {
+    using TReszek = std::pair<std::string, int>;
+    EXPECT_EQ(SzamozottNev("Új képlet"), TReszek("Új képlet", 0));
+    EXPECT_EQ(SzamozottNev("Új képlet (12)"), TReszek("Új képlet", 12));
+    EXPECT_EQ(SzamozottNev("a (2) (3)"), TReszek("a (2)", 3));
+    for (const char* nev : {"a (x)", "a (2", "a(2)", "a (2) b", "a ()", "a (99999999999)", "a (2x)"})
+        EXPECT_EQ(SzamozottNev(nev), TReszek(nev, 0));
+}
+
 TEST(FajlNevek, SokAzonosNevIsGyors) {
     TFajlNevek nevek;
     std::string utolso;

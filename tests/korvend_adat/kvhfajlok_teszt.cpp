@@ -43,6 +43,15 @@ TEST(KvhFajlok, AMappaKepletfajljaiNevSzerint) {
     EXPECT_EQ(KvhFajlok(mappa / "c.txt")->size(), 1U);
 }
 
+TEST(KvhFajlok, ASzamozottNevekASzamukSzerint) {
+    const TMappa mappa;
+    for (const char* nev : {"a (10).kvh", "a (2).kvh", "a.kvh", "a b.kvh"}) irj(mappa / nev, "x");
+    const auto fajlok = KvhFajlok(mappa.nev());
+    ASSERT_TRUE(fajlok);
+    EXPECT_EQ(*fajlok,
+              (std::vector{mappa / "a.kvh", mappa / "a (2).kvh", mappa / "a (10).kvh", mappa / "a b.kvh"}));
+}
+
 TEST(KvhFajlok, AMezokMindAtjonnek) {
     const auto ki = KvhOlvasas(kvhBajtok(mintaKeplet(), {mintaEsemeny("első"), mintaEsemeny("második")}));
     ASSERT_EQ(ki.lapok.size(), 1U);

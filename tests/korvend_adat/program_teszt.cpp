@@ -133,6 +133,20 @@ TEST_F(Program, AzAzonosNevekSzamotKapnak) {
     EXPECT_EQ(olvasd(mappa / "ki/A-B (2).kvh"), kvhBajtok(mintaKeplet("A:B")));
 }
 
+TEST_F(Program, AzAzonosNevuekSzamaOdaEsVisszaMegmarad) {
+    for (int i = 1; i <= 12; ++i) {
+        TKvhRekord r = mintaKeplet("Új képlet");
+        r.pillanat.nap = i;
+        irj(mappa / ("be/" + std::to_string(100 + i) + ".kvh"), kvhBajtok(r));
+    }
+    ASSERT_EQ(fut({"be", "egy"}).kod, 0);
+    ASSERT_EQ(fut({"egy", "t.csv"}).kod, 0);
+    ASSERT_EQ(fut({"t.csv", "ketto"}).kod, 0);
+    ASSERT_EQ(fajlok("egy").size(), 12U);
+    for (const std::string& nev : fajlok("egy"))
+        EXPECT_EQ(olvasd(mappa / ("egy/" + nev)), olvasd(mappa / ("ketto/" + nev)));
+}
+
 TEST_F(Program, AHibaAFajltEsASortNevezi) {
     irj(mappa / "t.csv",
         "nev,ev,ho,nap,ora,perc,helyseg\nA,1975,7,21,6,4,Szeged\nB,1899,7,21,6,4,Szeged\nC,2079,7,21,6,4,"

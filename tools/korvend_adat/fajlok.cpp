@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <fstream>
 #include <iterator>
 #include <random>
@@ -129,6 +130,16 @@ std::string KepletFajlNev(std::string_view nev) {
     const std::string torzs = kisbetus(ki.substr(0, ki.find('.')));
     if (std::find(eszkozok.begin(), eszkozok.end(), torzs) != eszkozok.end()) ki.insert(0, "-");
     return ki;
+}
+
+std::pair<std::string, int> SzamozottNev(const std::string& nev) {
+    const std::size_t nyit = nev.rfind(" (");
+    if (nyit == nev.npos || !nev.ends_with(')')) return {nev, 0};
+    int szam = 0;
+    const char* vege = nev.data() + nev.size() - 1;
+    const auto [hely, hiba] = std::from_chars(nev.data() + nyit + 2, vege, szam);
+    if (hiba != std::errc{} || hely != vege) return {nev, 0};
+    return {nev.substr(0, nyit), szam};
 }
 
 std::string TFajlNevek::uj(std::string_view nev) {

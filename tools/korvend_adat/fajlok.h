@@ -6,6 +6,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 
 /// Files and their names. A name inside the program is UTF-8, on the disk what the system makes of it.
 
@@ -27,6 +28,9 @@ bool FajlbaIr(const std::filesystem::path& ut, std::string_view bajtok);
 /// A plain file name made of a person's name, without ending: characters that a file name can't hold on some
 /// system become '-', and so do dots and blanks at its ends.
 std::string KepletFajlNev(std::string_view nev);
+
+/// A name that `TFajlNevek` gave, taken apart: what it was given for, and the number behind it, else 0.
+std::pair<std::string, int> SzamozottNev(const std::string& nev);
 
 /// Gives each chart of a run a file name of its own: the second of one name is "név (2)". Names that differ
 /// by small and capital letters only are the same, as they are on some systems.

@@ -7,6 +7,7 @@
 #include <span>
 #include <sstream>
 #include <system_error>
+#include <utility>
 
 #include "commands/kvhfajl.h"
 #include "esemeny.h"
@@ -25,7 +26,10 @@ std::optional<std::vector<fs::path>> KvhFajlok(const fs::path& ut) {
         if (std::error_code nincs; Vegzodes(elem->path()) == ".kvh" && elem->is_regular_file(nincs))
             fajlok.push_back(elem->path());
     if (hiba) return std::nullopt;
-    std::sort(fajlok.begin(), fajlok.end());
+    std::sort(fajlok.begin(), fajlok.end(), [](const fs::path& a, const fs::path& b) {
+        return std::pair(SzamozottNev(UtvonalSzoveg(a.stem())), a) <
+               std::pair(SzamozottNev(UtvonalSzoveg(b.stem())), b);
+    });
     return fajlok;
 }
 

@@ -10,8 +10,8 @@
 
 /// Chart files, read and written by the program's own routines.
 
-/// The chart files of a folder, in the order of their names; a file alone is itself. Nothing if the folder
-/// can't be read.
+/// The chart files of a folder, in the order of their names, "név" before "név (2)"; a file alone is itself.
+/// Nothing if the folder can't be read.
 std::optional<std::vector<std::filesystem::path>> KvhFajlok(const std::filesystem::path& ut);
 
 /// Reads what the program would read. Reported is what it would not take, or take otherwise than it stands.

@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <iostream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -21,7 +22,9 @@ int futas(const std::vector<std::string>& szavak) {
     }
     TJelento jelento;
     const TEredmeny eredmeny = Atalakitas(parancs, jelento);
-    jelento.kiir(std::cerr);
+    std::ostringstream jelentes;  // the error stream alone would write letter by letter
+    jelento.kiir(jelentes);
+    std::cerr << jelentes.str();
     const int hibak = jelento.szam(TJelentesFajta::hiba);
     const int vesztesegek = jelento.szam(TJelentesFajta::veszteseg);
     std::cerr << eredmeny.olvasott << " képletből " << eredmeny.irt << " kiírva; " << hibak << " hiba, "

@@ -195,11 +195,12 @@ private:
         for (const std::string& nev : {m[0], m[1]})
             if (!AafIsmeretlen(nev)) r.nev += (r.nev.empty() ? "" : " ") + nev;
         if (!AafIsmeretlen(m[5])) r.helyseg = m[5];
-        const std::string& orszag = m[6];
-        idopont_.hazai = magyarorszag(orszag) && HazaiTelepules(r.helyseg);
+        const bool magyar = magyarorszag(m[6]);
+        const std::string_view orszag = magyar ? "H" : std::string_view(m[6]);
+        idopont_.hazai = magyar && (!IsmertTelepules(r.helyseg) || HazaiTelepules(r.helyseg));
         if (m[2] != (szakasz_.esemeny ? esemenyFajta : kepletFajta) && !AafIsmeretlen(m[2]))
             ismetlodo_.volt("a fajta jele (m, f, e, …) kimarad, a képletfájlban nincs helye", rekord_.sor);
-        if (!AafIsmeretlen(orszag) && !idopont_.hazai && orszag != irtOrszag(r.helyseg))
+        if (!AafIsmeretlen(orszag) && orszag != irtOrszag(r.helyseg))
             ismetlodo_.volt("az ország kimarad, a képletfájlban nincs helye", rekord_.sor);
         if (!ertek(m[3], "datum", AafDatum, idopont_.datum) || !ertek(m[4], "ido", AafIdo, idopont_.ido))
             return false;
@@ -305,7 +306,12 @@ private:
             jegyzetbe(szoveg);
     }
 
-    void jegyzetbe(const std::string& szoveg) { jegyzet_ = jegyzet_ ? *jegyzet_ + "\n" + szoveg : szoveg; }
+    void jegyzetbe(const std::string& szoveg) {
+        if (jegyzet_)
+            jegyzet_->append("\n").append(szoveg);
+        else
+            jegyzet_ = szoveg;
+    }
 
     /// The record is complete: its sections become a chart with its events.
     void lezar() {

@@ -72,7 +72,7 @@ private:
             zona_ = *be_.zona;
         } else if (be_.hazai) {
             zona_ = ora;
-            kozlesek_.push_back("idozona: ismeretlen, a helységtáblából 1");
+            kozlesek_.push_back("idozona: ismeretlen, Magyarországon 1");
         } else if (teljes) {
             // Zones differ by quarters of an hour.
             zona_ = kerek(*teljes, ora / 4) - (be_.nyariIdo ? be_.nyariIdo->orak * ora : 0);
@@ -172,7 +172,7 @@ private:
     static std::string teljesSzoveg(std::int64_t masodperc) {
         const TPillanat p = oraAllas(masodperc);
         return std::to_string(p.ev) + ". " + ketJegy(p.ho) + ". " + ketJegy(p.nap) + ". " +
-               idoSzoveg(p.ora * ora + p.perc * 60 + p.mperc);
+               idoSzoveg(p.ora * ora + std::int64_t{p.perc} * 60 + p.mperc);
     }
 
     const TAafIdopont& be_;

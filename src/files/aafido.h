@@ -16,7 +16,7 @@ struct TAafIdopont {
     std::optional<std::int32_t> zona;  ///< seconds, east positive
     std::optional<TAafNyariIdo> nyariIdo;
     std::int32_t hosszusag = 0;  ///< arcseconds
-    bool hazai = false;          ///< a place for which the program's zone and summer-time table hold
+    bool hazai = false;          ///< in the country whose zone and summer-time table the program has
 };
 
 /// The same as a chart holds it: a zone clock of whole hours, summer time 0 or 1.

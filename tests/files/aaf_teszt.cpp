@@ -206,6 +206,22 @@ TEST(Aaf, KoordinatakNelkulMashonnanHiba) {
     }
 }
 
+TEST(Aaf, AHelysegtablabanNemSzereploHazaiHelyOrajaIsHazai) {
+    const auto ki = olvas("#A93:X,Y,m,1.7.2000,1:00,Tanya,H\n#B93:*,47n00,20e00,*,*\n");
+    ASSERT_EQ(ki.lapok.size(), 1U);
+    EXPECT_EQ(ki.lapok[0].keplet.adat.idozona, 1);
+    EXPECT_EQ(ki.lapok[0].keplet.adat.nyariIdo, 1);
+    EXPECT_EQ(ki.lapok[0].keplet.adat.hosszusag, 20 * 3600);
+    EXPECT_TRUE(jelenti(ki, elteres, 1, "az ország kimarad"));  // the gazetteer can't tell it again
+    EXPECT_TRUE(olvas("#A93:X,Y,m,1.7.2000,1:00,Bécs,H\n#B93:*,48n12,16e22,*,0\n").lapok.empty());
+}
+
+TEST(Aaf, SokMegjegyzesSorEgyJegyzet) {
+    std::string szoveg = ferber;
+    for (int i = 0; i < 200000; ++i) szoveg += "#COM:xxxxxxxxxx\n";
+    EXPECT_EQ(keplet(szoveg).jegyzet.size(), 200000U * 11 - 1);
+}
+
 TEST(Aaf, AzEgyikHianyzoKoordinata) {
     const TKvhRekord r = keplet("#A93:X,Y,m,1.1.1970,1:00,Szeged,H\n#B93:*,*,20e00,1he,0\n");
     EXPECT_EQ(r.hosszusag, 20 * 3600);

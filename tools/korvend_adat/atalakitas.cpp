@@ -199,7 +199,7 @@ private:
         switch (parancs_.kiFormatum) {
             case TFormatum::aaf: {
                 const std::string szoveg = AafIras(f.lap);
-                const std::string bajtok = parancs_.kiKodlap ? kodlapra(szoveg) : szoveg;
+                std::string bajtok = parancs_.kiKodlap ? kodlapra(szoveg) : szoveg;
                 osszevet(f, AafOlvasas(bajtok, parancs_.kiKodlap.value_or(TKodlap::cp1252)));
                 return bajtok;
             }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <map>
 #include <optional>
 #include <utility>
@@ -128,10 +127,7 @@ std::vector<std::string> mezok(std::string_view szoveg) {
 bool magyarorszag(std::string_view orszag) {
     constexpr std::array<std::string_view, 8> nevek{"h",       "hu",           "hun",    "hungary",
                                                     "hongrie", "magyarország", "ungarn", "ungheria"};
-    std::string kicsi(orszag);
-    for (char& c : kicsi)
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-    return std::find(nevek.begin(), nevek.end(), kicsi) != nevek.end();
+    return std::find(nevek.begin(), nevek.end(), kisbetus(orszag)) != nevek.end();
 }
 
 /// `#A93` or `#SUB` with the `#B93` that belongs to it.
@@ -244,10 +240,9 @@ private:
 };
 
 std::optional<std::string> solarNapSzoveg(std::string_view szoveg) {
-    int szam = 0;
-    const auto [vege, hiba] = std::from_chars(szoveg.data(), szoveg.data() + szoveg.size(), szam);
-    if (hiba != std::errc{} || vege != szoveg.data() + szoveg.size()) return std::nullopt;
-    return std::to_string(szam);
+    const auto szam = szamErtek(szoveg);
+    if (!szam) return std::nullopt;
+    return std::to_string(*szam);
 }
 
 class TAafOlvaso {

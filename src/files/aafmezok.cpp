@@ -1,7 +1,6 @@
 #include "files/aafmezok.h"
 
 #include <array>
-#include <charconv>
 #include <chrono>
 #include <cstdlib>
 #include <vector>
@@ -28,17 +27,11 @@ bool szamjegy(char c) {
     return c >= '0' && c <= '9';
 }
 
-char kisbetu(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 /// A number of digits only, up to a bound.
 std::optional<std::int32_t> szam(std::string_view szoveg, std::int32_t felso) {
-    std::int32_t ertek = 0;
     if (szoveg.empty() || !szamjegy(szoveg[0])) return std::nullopt;
-    const auto [vege, hiba] = std::from_chars(szoveg.data(), szoveg.data() + szoveg.size(), ertek);
-    if (hiba != std::errc{} || vege != szoveg.data() + szoveg.size() || ertek > felso) return std::nullopt;
-    return ertek;
+    const auto ertek = szamErtek(szoveg);
+    return ertek && *ertek <= felso ? ertek : std::nullopt;
 }
 
 /// Number, letters, and behind them minutes with or without seconds: the form of coordinates and zones.

@@ -1,7 +1,6 @@
 #include "files/adatellenorzes.h"
 
 #include <algorithm>
-#include <charconv>
 #include <chrono>
 #include <cstdlib>
 #include <iterator>
@@ -105,14 +104,6 @@ std::string Kiegeszites(TAdatRekord& rekord, bool esemeny, std::vector<std::stri
 
 namespace {
 
-/// The Sun's house of an event, as the reader of chart files takes it.
-std::optional<int> solarNapSzam(const std::string& szoveg) {
-    int szam = 0;
-    const auto [vege, hiba] = std::from_chars(szoveg.data(), szoveg.data() + szoveg.size(), szam);
-    if (hiba != std::errc{} || vege != szoveg.data() + szoveg.size()) return std::nullopt;
-    return szam;
-}
-
 std::string tartomanyon(std::string_view nev, const std::string& ertek, const std::string& also,
                         const std::string& felso) {
     return std::string(nev) + ": " + ertek + ", " + also + " és " + felso + " között kell lennie";
@@ -133,7 +124,7 @@ std::vector<std::string> TartomanyHibak(const TKvhRekord& rekord, bool esemeny) 
         hibak.push_back(tartomanyon(leiras.nev, szoveg(ertek), szoveg(leiras.also), szoveg(leiras.felso)));
     }
     if (esemeny) {
-        const auto haz = solarNapSzam(rekord.hang);
+        const auto haz = szamErtek(rekord.hang);
         if (!haz || *haz < 0 || *haz > 12)
             hibak.push_back(tartomanyon("solarNap", Idezve(rekord.hang), "0", "12"));
     }

@@ -20,16 +20,6 @@ std::string_view vagott(std::string_view szoveg) {
     return szoveg.substr(eleje, szoveg.find_last_not_of(feherek) + 1 - eleje);
 }
 
-char kisbetu(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-std::string kisbetus(std::string_view szoveg) {
-    std::string ki(szoveg);
-    std::transform(ki.begin(), ki.end(), ki.begin(), kisbetu);
-    return ki;
-}
-
 /// Cuts a text into records of cells.
 class TCsvBontas {
 public:
@@ -156,10 +146,7 @@ TOszlop oszlop(const std::string& fejlec) {
 std::optional<std::int32_t> egeszErtek(std::string_view szoveg) {
     szoveg = vagott(szoveg);
     if (szoveg.starts_with('+')) szoveg.remove_prefix(1);
-    std::int32_t szam = 0;
-    const auto [vege, hiba] = std::from_chars(szoveg.data(), szoveg.data() + szoveg.size(), szam);
-    if (hiba != std::errc{} || vege != szoveg.data() + szoveg.size()) return std::nullopt;
-    return szam;
+    return szamErtek(szoveg);
 }
 
 class TCsvOlvaso {

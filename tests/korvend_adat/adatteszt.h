@@ -4,34 +4,13 @@
 
 #include <filesystem>
 #include <fstream>
-#include <random>
 #include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "files/kvhrekord.h"
-
-/// A folder of the test's own, removed at its end.
-class TMappa {
-public:
-    TMappa()
-        : hely_(std::filesystem::temp_directory_path() /
-                ("korvend-adat-" + std::to_string(std::random_device{}()))) {
-        std::filesystem::create_directories(hely_);
-    }
-    ~TMappa() { std::filesystem::remove_all(hely_); }
-    TMappa(const TMappa&) = delete;
-    TMappa& operator=(const TMappa&) = delete;
-
-    std::filesystem::path operator/(std::string_view fajl) const {
-        return hely_ / std::filesystem::path(std::u8string(fajl.begin(), fajl.end()));
-    }
-    std::string nev() const { return hely_.string(); }
-
-private:
-    std::filesystem::path hely_;
-};
+#include "ideiglenesmappa.h"
 
 inline void irj(const std::filesystem::path& fajl, std::string_view tartalom) {
     std::filesystem::create_directories(fajl.parent_path());

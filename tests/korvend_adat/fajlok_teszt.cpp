@@ -16,41 +16,16 @@ TEST(KepletFajlNev, ARendesNevMarad) {
         EXPECT_EQ(KepletFajlNev(nev), nev);
 }
 
-TEST(KepletFajlNev, AmitAFajlnevNemBirElKotojel) {
-    EXPECT_EQ(KepletFajlNev("a/b\\c:d*e?f\"g<h>i|j"), "a-b-c-d-e-f-g-h-i-j");
-    EXPECT_EQ(KepletFajlNev("a\nb\x01"
-                            "c\x7F"
-                            "d\tE"),
-              "a-b-c-d-E");
-    EXPECT_EQ(KepletFajlNev(std::string("a\0b", 3)), "a-b");
-    EXPECT_EQ(KepletFajlNev("a\xC2\x85"
-                            "b"),
-              "a-b");
-    EXPECT_EQ(KepletFajlNev("a\xFF"
-                            "b"),
-              "a-b");
-    EXPECT_EQ(KepletFajlNev("../../etc"), "---..-etc");
-}
-
-TEST(KepletFajlNev, ASzelenAlloPontEsSzokoz) {
-    EXPECT_EQ(KepletFajlNev(".rejtett"), "-rejtett");
-    EXPECT_EQ(KepletFajlNev(".."), "--");
-    EXPECT_EQ(KepletFajlNev(" a. "), "-a--");
-    EXPECT_EQ(KepletFajlNev(" "), "-");
+TEST(KepletFajlNev, SosemUresEsSosemUt) {
     EXPECT_EQ(KepletFajlNev(""), "névtelen");
+    EXPECT_EQ(KepletFajlNev("a/b"), "a-b");
 }
 
-TEST(KepletFajlNev, AzEszkozokNeve) {
-    EXPECT_EQ(KepletFajlNev("CON"), "-CON");
-    EXPECT_EQ(KepletFajlNev("nul.kovács"), "-nul.kovács");
-    EXPECT_EQ(KepletFajlNev("Lpt9"), "-Lpt9");
-}
-
-TEST(KepletFajlNev, AHosszuNev255BajtonBelul) {
+TEST(KepletFajlNev, LegfeljebbHatvanKarakterEsKetszazBajt) {
+    EXPECT_EQ(KepletFajlNev(std::string(100000, 'x')), std::string(60, 'x'));
     std::string hosszu;
     for (int i = 0; i < 300; ++i) hosszu += "😀";
-    EXPECT_EQ(KepletFajlNev(hosszu).size(), 240U);
-    EXPECT_LE(KepletFajlNev(std::string(100000, 'x')).size(), 240U);
+    EXPECT_EQ(KepletFajlNev(hosszu).size(), 200U);
 }
 
 TEST(FajlNevek, AMasodikAzonosNevSzamotKap) {
@@ -94,28 +69,28 @@ TEST(Fajlok, AzUtvonalEsASzovegeUtf8) {
     EXPECT_EQ(UtvonalSzoveg(Utvonal("Őrült tűzhely/漢.kvh")), "Őrült tűzhely/漢.kvh");
     EXPECT_EQ(Vegzodes(Utvonal("a/b.KVH")), ".kvh");
     EXPECT_EQ(Vegzodes(Utvonal("a.b/c")), "");
-    const TMappa mappa;
+    const TIdeiglenesMappa mappa;
     irj(mappa / "Őrült tűzhely.kvh", "tartalom");
-    EXPECT_EQ(FajlBajtok(Utvonal(mappa.nev() + "/Őrült tűzhely.kvh")), "tartalom");
+    EXPECT_EQ(FajlBajtok(Utvonal(mappa.ut().string() + "/Őrült tűzhely.kvh")), "tartalom");
 }
 
 TEST(Fajlok, AzOlvasas) {
-    const TMappa mappa;
+    const TIdeiglenesMappa mappa;
     const std::string nagy(200000, 'x');
     irj(mappa / "nagy", nagy);
     EXPECT_EQ(FajlBajtok(mappa / "nagy"), nagy);
     EXPECT_EQ(FajlBajtok(mappa / "nagy", 7), "xxxxxxx");
     EXPECT_EQ(FajlBajtok(mappa / "nincs"), std::nullopt);
-    EXPECT_EQ(FajlBajtok(mappa.nev()), std::nullopt);
+    EXPECT_EQ(FajlBajtok(mappa.ut().string()), std::nullopt);
 }
 
-std::size_t elemekSzama(const TMappa& mappa) {
+std::size_t elemekSzama(const TIdeiglenesMappa& mappa) {
     return static_cast<std::size_t>(
-        std::distance(fs::directory_iterator(mappa.nev()), fs::directory_iterator()));
+        std::distance(fs::directory_iterator(mappa.ut().string()), fs::directory_iterator()));
 }
 
 TEST(Fajlok, AzIrasMindentVagySemmit) {
-    const TMappa mappa;
+    const TIdeiglenesMappa mappa;
     EXPECT_TRUE(FajlbaIr(mappa / "a", "első"));
     EXPECT_TRUE(FajlbaIr(mappa / "a", "második"));
     EXPECT_EQ(olvasd(mappa / "a"), "második");
@@ -127,7 +102,7 @@ TEST(Fajlok, AzIrasMindentVagySemmit) {
 }
 
 TEST(Fajlok, AzIrasAKapcsolatotEsAModotMeghagyja) {
-    const TMappa mappa;
+    const TIdeiglenesMappa mappa;
     irj(mappa / "igazi", "régi");
     fs::permissions(mappa / "igazi", fs::perms::owner_read | fs::perms::owner_write);
     fs::create_symlink(mappa / "igazi", mappa / "kapcsolat");

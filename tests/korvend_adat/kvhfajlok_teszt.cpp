@@ -31,10 +31,10 @@ void csakHiba(const std::string& bajtok, std::string_view oka) {
 }
 
 TEST(KvhFajlok, AMappaKepletfajljaiNevSzerint) {
-    const TMappa mappa;
+    const TIdeiglenesMappa mappa;
     for (const char* nev : {"b.kvh", "Őz.kvh", "a.KVH", "c.txt", "kvh"}) irj(mappa / nev, "x");
     fs::create_directory(mappa / "mappa.kvh");
-    const auto fajlok = KvhFajlok(mappa.nev());
+    const auto fajlok = KvhFajlok(mappa.ut().string());
     ASSERT_TRUE(fajlok);
     ASSERT_EQ(fajlok->size(), 3U);
     EXPECT_EQ((*fajlok)[0], mappa / "a.KVH");
@@ -44,9 +44,9 @@ TEST(KvhFajlok, AMappaKepletfajljaiNevSzerint) {
 }
 
 TEST(KvhFajlok, ASzamozottNevekASzamukSzerint) {
-    const TMappa mappa;
+    const TIdeiglenesMappa mappa;
     for (const char* nev : {"a (10).kvh", "a (2).kvh", "a.kvh", "a b.kvh"}) irj(mappa / nev, "x");
-    const auto fajlok = KvhFajlok(mappa.nev());
+    const auto fajlok = KvhFajlok(mappa.ut().string());
     ASSERT_TRUE(fajlok);
     EXPECT_EQ(*fajlok,
               (std::vector{mappa / "a.kvh", mappa / "a (2).kvh", mappa / "a (10).kvh", mappa / "a b.kvh"}));
@@ -111,7 +111,7 @@ TEST(KvhFajlok, ASzovegMogottiMaradekNemSzamit) {
 }
 
 TEST(KvhFajlok, AzIrtFajlBajtrolBajtraAPrograme) {
-    const TMappa mappa;
+    const TIdeiglenesMappa mappa;
     const std::string b = kvhBajtok(mintaKeplet(), {mintaEsemeny("első"), mintaEsemeny("második")});
     EXPECT_EQ(KvhFajlIras(KvhOlvasas(b).lapok.at(0), mappa / "Őz.kvh"), "");
     EXPECT_EQ(olvasd(mappa / "Őz.kvh"), b);
@@ -119,7 +119,7 @@ TEST(KvhFajlok, AzIrtFajlBajtrolBajtraAPrograme) {
 }
 
 TEST(KvhFajlok, ATulHosszuJegyzetLevagva) {
-    const TMappa mappa;
+    const TIdeiglenesMappa mappa;
     TAdatlap lap;
     lap.keplet.adat = mintaKeplet();
     lap.keplet.adat.jegyzet = "";

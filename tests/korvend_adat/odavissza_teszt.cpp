@@ -171,7 +171,7 @@ bool kezdodikValamelyik(const std::vector<std::string>& szovegek, const std::str
 /// One way out and back, checked file by file.
 TSzamok korut(const std::vector<TFajl>& fajlok, TFormatum formatum, const char* kozteNev,
               bool kodlap1250 = false) {
-    const TMappa mappa;
+    const TIdeiglenesMappa mappa;
     for (std::size_t i = 0; i < fajlok.size(); ++i)
         irj(mappa / ("be/" + kulcs(static_cast<int>(i)) + ".kvh"), fajlok[i].bajtok());
     TJelento jelento;

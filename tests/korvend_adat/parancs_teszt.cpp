@@ -22,7 +22,7 @@ protected:
         irj(mappa / "a.jsonl", "x");
         irj(mappa / "a.txt", "x");
     }
-    std::string ut(const std::string& nev) const { return mappa.nev() + "/" + nev; }
+    std::string ut(const std::string& nev) const { return mappa.ut().string() + "/" + nev; }
     std::string hibaja(const TSzavak& szavak) const {
         try {
             ParancsErtelmezes(szavak);
@@ -32,7 +32,7 @@ protected:
         return "";
     }
 
-    TMappa mappa;
+    TIdeiglenesMappa mappa;
 };
 
 TEST_F(Parancs, AFormatumAVegzodesbol) {

@@ -28,7 +28,7 @@ class Program : public testing::Test {
 protected:
     /// Runs the program in the test's folder; the arguments stand in single quotes of the shell.
     TFutas fut(const std::vector<std::string>& szavak) const {
-        std::string parancs = "cd '" + mappa.nev() + "' && " KORVEND_ADAT;
+        std::string parancs = "cd '" + mappa.ut().string() + "' && " KORVEND_ADAT;
         for (const std::string& szo : szavak) parancs += " '" + szo + "'";
         parancs += " > ki.txt 2> hiba.txt";
         const int allapot = std::system(parancs.c_str());
@@ -45,7 +45,7 @@ protected:
         return nevek;
     }
 
-    TMappa mappa;
+    TIdeiglenesMappa mappa;
 };
 
 using TNevek = std::vector<std::string>;
@@ -351,8 +351,8 @@ TEST_F(Program, AmiNemIrhatoHiba) {
 
 TEST_F(Program, ASzabvanyosKimenetreIsIr) {
     irj(mappa / "be/a.kvh", kvhBajtok(mintaKeplet("A")));
-    const std::string parancs =
-        "cd '" + mappa.nev() + "' && " KORVEND_ADAT " be /dev/stdout --ki csv 2> hiba.txt | cat > cso.txt";
+    const std::string parancs = "cd '" + mappa.ut().string() +
+                                "' && " KORVEND_ADAT " be /dev/stdout --ki csv 2> hiba.txt | cat > cso.txt";
     ASSERT_EQ(std::system(parancs.c_str()), 0);
     EXPECT_EQ(olvasd(mappa / "cso.txt").substr(0, 6), "nev,ev");
 }

@@ -5,7 +5,7 @@
 #include <limits>
 #include <optional>
 
-#include "esemeny.h"
+#include "commands/kvhfajl.h"
 #include "files/bajtszoveg.h"
 #include "kerelem.h"
 
@@ -194,7 +194,7 @@ private:
         ismeretlenKulcsok(ertek, ismertek);
         TAdatRekord rekord;
         rekord.sor = sor_;
-        rekord.adat = EsemenyRekord(e);
+        rekord.adat = EsemenyRekord(e, 0);
         szog(e.hosszFok, e.hosszPerc, rekord.adat.hosszusag, "hosszFok");
         szog(e.szelFok, e.szelPerc, rekord.adat.szelesseg, "szelFok");
         rekord.hianyzo(TMezo::idozona, !ertek.contains("idozona"));
@@ -227,7 +227,7 @@ std::string JsonIras(const TAdatlap& lap) {
     const TKvhRekord& r = lap.keplet.adat;
     TJson esemenyek = TJson::array();
     for (const TAdatRekord& esemeny : lap.esemenyek)
-        esemenyek.push_back(esemenyValasz(EletesemenyBol(esemeny.adat)));
+        esemenyek.push_back(esemenyValasz(EsemenyOlvasas(esemeny.adat).value_or(TEletesemeny{})));
     const TJson ki{{"nev", r.nev},
                    {"pillanat", pillanatTomb(r.pillanat)},
                    {"idozona", r.idozona},

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "adatjson.h"
-#include "esemeny.h"
+#include "commands/kvhfajl.h"
 #include "events/eletesemenyek.h"
 #include "fajlok.h"
 #include "files/aaf.h"
@@ -126,7 +126,7 @@ private:
     static void solarNap(const TKvhRekord& keplet, TAdatRekord& esemeny) {
         esemeny.adat.hang = std::to_string(
             EsemenySolarNap({keplet.pillanat, keplet.nyariIdo, keplet.idozona, keplet.hosszusag},
-                            EletesemenyBol(esemeny.adat)));
+                            EsemenyOlvasas(esemeny.adat).value_or(TEletesemeny{})));
         esemeny.hianyzo(TMezo::hang, false);
     }
 

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <fstream>
 #include <iterator>
-#include <random>
 #include <system_error>
 
+#include "files/fajlmuvelet.h"
+#include "files/fajlnev.h"
 #include "tables/szoveg.h"
 
 namespace fs = std::filesystem;
@@ -21,18 +21,8 @@ std::string UtvonalSzoveg(const fs::path& ut) {
     return {utf8.begin(), utf8.end()};
 }
 
-namespace {
-
-char kisbetu(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-}  // namespace
-
 std::string Vegzodes(const fs::path& ut) {
-    std::string ki = UtvonalSzoveg(ut.extension());
-    std::transform(ki.begin(), ki.end(), ki.begin(), kisbetu);
-    return ki;
+    return kisbetus(UtvonalSzoveg(ut.extension()));
 }
 
 std::optional<std::string> FajlBajtok(const fs::path& ut, std::size_t legfeljebb) {
@@ -64,39 +54,17 @@ bool kiir(const fs::path& ut, std::string_view bajtok) {
 
 bool FajlbaIr(const fs::path& ut, std::string_view bajtok) {
     std::error_code hiba;
-    fs::path cel = fs::canonical(ut, hiba);  // a link stays a link
-    if (hiba) cel = ut;
-    const fs::file_status regi = fs::status(cel, hiba);
-    if (fs::exists(regi) && !fs::is_regular_file(regi)) return kiir(cel, bajtok);
-    const fs::path uj = cel.parent_path() / (".korvend-adat-" + std::to_string(std::random_device{}()));
-    if (kiir(uj, bajtok)) {
-        if (fs::exists(regi)) fs::permissions(uj, regi.permissions(), hiba);
-        fs::rename(uj, cel, hiba);
-        if (!hiba) return true;
-    }
-    fs::remove(uj, hiba);
-    return false;
+    const fs::file_status regi = fs::status(ut, hiba);
+    if (fs::exists(regi) && !fs::is_regular_file(regi)) return kiir(ut, bajtok);
+    return FajlIras(UtvonalSzoveg(ut), bajtok);
 }
 
 namespace {
 
-constexpr int leghosszabbNev = 60;  ///< characters, of four bytes at most: names may have 255 bytes
-
-/// Names that stand for devices on some system, whatever their ending.
-constexpr std::array<std::string_view, 22> eszkozok{
-    "con",  "prn",  "aux",  "nul",  "com1", "com2", "com3", "com4", "com5", "com6", "com7",
-    "com8", "com9", "lpt1", "lpt2", "lpt3", "lpt4", "lpt5", "lpt6", "lpt7", "lpt8", "lpt9"};
-
-bool tiltott(std::string_view karakter) {
-    constexpr std::string_view jelek = "/\\:*?\"<>|\x7F";
-    const auto elso = static_cast<unsigned char>(karakter[0]);
-    if (karakter.size() > 1)  // the upper control characters
-        return !ervenyesUtf8(karakter) || (elso == 0xC2 && static_cast<unsigned char>(karakter[1]) < 0xA0);
-    return elso < 0x20 || elso >= 0x80 || jelek.find(karakter[0]) != jelek.npos;
-}
+constexpr int leghosszabbNev = 60;  ///< characters, so that a folder of charts can be read at a glance
 
 /// In small letters: those of English and of the languages of Western Europe, and ő and ű.
-std::string kisbetus(std::string_view szoveg) {
+std::string kisbetusNev(std::string_view szoveg) {
     std::string ki;
     for (std::size_t i = 0; i < szoveg.size(); ++i) {
         const std::string_view ketto = szoveg.substr(i, 2);
@@ -118,35 +86,21 @@ std::string kisbetus(std::string_view szoveg) {
 }  // namespace
 
 std::string KepletFajlNev(std::string_view nev) {
-    if (nev.empty()) return "névtelen";
-    std::string ki;
-    for (std::string_view maradek = elsoKarakterek(nev, leghosszabbNev); !maradek.empty();) {
-        const std::string_view karakter = maradek.substr(0, karakterHossz(maradek));
-        ki += tiltott(karakter) ? "-" : karakter;
-        maradek.remove_prefix(karakter.size());
-    }
-    for (std::size_t i = 0; i < ki.size() && (ki[i] == ' ' || ki[i] == '.'); ++i) ki[i] = '-';
-    for (std::size_t i = ki.size(); i > 0 && (ki[i - 1] == ' ' || ki[i - 1] == '.'); --i) ki[i - 1] = '-';
-    const std::string torzs = kisbetus(ki.substr(0, ki.find('.')));
-    if (std::find(eszkozok.begin(), eszkozok.end(), torzs) != eszkozok.end()) ki.insert(0, "-");
-    return ki;
+    return nev.empty() ? "névtelen" : FajlNev(elsoKarakterek(nev, leghosszabbNev));
 }
 
 std::pair<std::string, int> SzamozottNev(const std::string& nev) {
     const std::size_t nyit = nev.rfind(" (");
     if (nyit == nev.npos || !nev.ends_with(')')) return {nev, 0};
-    int szam = 0;
-    const char* vege = nev.data() + nev.size() - 1;
-    const auto [hely, hiba] = std::from_chars(nev.data() + nyit + 2, vege, szam);
-    if (hiba != std::errc{} || hely != vege) return {nev, 0};
-    return {nev.substr(0, nyit), szam};
+    const auto szam = szamErtek<int>(std::string_view(nev).substr(nyit + 2, nev.size() - nyit - 3));
+    return szam ? std::pair(nev.substr(0, nyit), *szam) : std::pair(nev, 0);
 }
 
 std::string TFajlNevek::uj(std::string_view nev) {
     const std::string alap = KepletFajlNev(nev);
     std::string jelolt = alap;
-    int& szam = szamok_[kisbetus(alap)];  // where the search for a free number goes on
-    while (!foglalt_.insert(kisbetus(jelolt)).second) {
+    int& szam = szamok_[kisbetusNev(alap)];  // where the search for a free number goes on
+    while (!foglalt_.insert(kisbetusNev(jelolt)).second) {
         szam = std::max(szam + 1, 2);
         jelolt = alap + " (" + std::to_string(szam) + ")";
     }

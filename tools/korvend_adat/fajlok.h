@@ -21,12 +21,11 @@ std::string Vegzodes(const std::filesystem::path& ut);
 std::optional<std::string> FajlBajtok(const std::filesystem::path& ut,
                                       std::size_t legfeljebb = std::string::npos);
 
-/// Writes a file whole or not at all: beside it and renamed over. What is no regular file is written to as it
+/// Writes a file whole or not at all; what is no regular file, as the standard output, is written to as it
 /// is.
 bool FajlbaIr(const std::filesystem::path& ut, std::string_view bajtok);
 
-/// A plain file name made of a person's name, without ending: characters that a file name can't hold on some
-/// system become '-', and so do dots and blanks at its ends.
+/// A plain file name of at most 60 characters made of a person's name, without ending.
 std::string KepletFajlNev(std::string_view nev);
 
 /// A name that `TFajlNevek` gave, taken apart: what it was given for, and the number behind it, else 0.

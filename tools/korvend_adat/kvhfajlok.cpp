@@ -1,7 +1,6 @@
 #include "kvhfajlok.h"
 
 #include <algorithm>
-#include <charconv>
 #include <iterator>
 #include <optional>
 #include <span>
@@ -10,7 +9,6 @@
 #include <utility>
 
 #include "commands/kvhfajl.h"
-#include "esemeny.h"
 #include "fajlok.h"
 #include "files/bajtszoveg.h"
 #include "files/kvhrekord.h"
@@ -48,13 +46,6 @@ TKvhRekord rekord(std::string_view bajtok, std::size_t hanyadik) {
     return KvhDekodolas(tar);
 }
 
-std::optional<int> egesz(std::string_view szoveg) {
-    int szam = 0;
-    const auto [vege, hiba] = std::from_chars(szoveg.data(), szoveg.data() + szoveg.size(), szam);
-    if (hiba != std::errc{} || vege != szoveg.data() + szoveg.size()) return std::nullopt;
-    return szam;
-}
-
 /// Why the program does not read the file.
 std::string rosszOka(std::string_view bajtok, const std::string& uzenet) {
     if (bajtok.size() < kvhRekordHossz)
@@ -67,7 +58,7 @@ std::string rosszOka(std::string_view bajtok, const std::string& uzenet) {
     if (teljes < static_cast<std::size_t>(szam))
         return "csonka, " + std::to_string(szam) + " eseményből " + std::to_string(teljes) + " van meg";
     for (std::size_t i = 1; i <= static_cast<std::size_t>(szam); ++i)
-        if (const std::string hang = rekord(bajtok, i).hang; !egesz(hang))
+        if (const std::string hang = rekord(bajtok, i).hang; !szamErtek(hang))
             return std::to_string(i) + ". esemény: a Nap háza nem szám, " + Idezve(hang);
     return uzenet;
 }
@@ -109,7 +100,7 @@ TAdatRekord esemenyRekord(std::string_view bajtok, int szam, const TKvhRekord& k
     if (e.adat.esemenySzam != szam)
         ki.push_back({TJelentesFajta::elteres, 0,
                       cimke + "a sorszáma " + std::to_string(e.adat.esemenySzam) + " volt"});
-    const std::string haz = std::to_string(egesz(e.adat.hang).value_or(0));
+    const std::string haz = std::to_string(szamErtek(e.adat.hang).value_or(0));
     if (haz != e.adat.hang)
         ki.push_back(
             {TJelentesFajta::elteres, 0, cimke + "solarNap: " + Idezve(e.adat.hang) + ", azaz " + haz});
@@ -163,7 +154,8 @@ std::string KvhFajlIras(const TAdatlap& lap, const fs::path& ut) {
     allapot.Keplet.szelesseg = r.szelesseg;
     for (const TAdatRekord& esemeny : lap.esemenyek) {
         if (allapot.Esemenyek.EsemenyDb == esemenyHelyek) break;
-        allapot.Esemenyek.esemenyek[++allapot.Esemenyek.EsemenyDb] = EletesemenyBol(esemeny.adat);
+        allapot.Esemenyek.esemenyek[++allapot.Esemenyek.EsemenyDb] =
+            EsemenyOlvasas(esemeny.adat).value_or(TEletesemeny{});
     }
     return KepletMentes(allapot, UtvonalSzoveg(ut)).value_or("");
 }

@@ -5,6 +5,7 @@
 #include <iterator>
 #include <random>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// A folder of a test's own, gone with it.
@@ -20,6 +21,10 @@ public:
     TIdeiglenesMappa& operator=(const TIdeiglenesMappa&) = delete;
 
     const std::filesystem::path& ut() const { return mappa_; }
+    /// @param fajl  name in UTF-8
+    std::filesystem::path operator/(std::string_view fajl) const {
+        return mappa_ / std::filesystem::path(std::u8string(fajl.begin(), fajl.end()));
+    }
     std::string fajl(const std::string& nev) const { return (mappa_ / nev).string(); }
     void irj(const std::string& nev, const std::string& tartalom) const {
         std::ofstream(fajl(nev), std::ios::binary) << tartalom;

@@ -4,6 +4,7 @@
 #include <string>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 /// As long as it lives, no file grows beyond a size: what a program meets on a full disk.
@@ -24,6 +25,32 @@ public:
 private:
     void (*regiJelzes_)(int);
     rlimit regi_{};
+};
+
+/// A process of its own that runs a function until it is killed.
+class TGyermek {
+public:
+    template <typename F>
+    explicit TGyermek(F futas) : azonosito_(fork()) {
+        if (azonosito_ == 0) {
+            futas();
+            _exit(0);
+        }
+    }
+    ~TGyermek() { megol(); }
+    TGyermek(const TGyermek&) = delete;
+    TGyermek& operator=(const TGyermek&) = delete;
+
+    /// At once, without a chance to tidy up; waits for its end.
+    void megol() {
+        if (azonosito_ <= 0) return;
+        kill(azonosito_, SIGKILL);
+        waitpid(azonosito_, nullptr, 0);
+        azonosito_ = 0;
+    }
+
+private:
+    pid_t azonosito_;
 };
 
 /// A pipe that nobody writes into. Whoever waits for it makes the test end.

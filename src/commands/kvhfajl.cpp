@@ -1,11 +1,9 @@
 #include "commands/kvhfajl.h"
 
 #include <array>
-#include <charconv>
 #include <cstdint>
 #include <fstream>
 #include <istream>
-#include <system_error>
 
 #include "chart/kepletciklus.h"
 #include "commands/szemelyiadatok.h"
@@ -15,6 +13,7 @@
 #include "tables/fokperc.h"
 #include "tables/pillanat.h"
 #include "tables/szotar.h"
+#include "tables/szoveg.h"
 #include "tables/tomb.h"
 
 namespace {
@@ -29,19 +28,6 @@ TKvhRekord kepletRekord(const Allapot& allapot) {
             k.nyariIdo,  k.helyseg,  k.hosszusag,
             k.szelesseg, sz.jegyzet, allapot.Esemenyek.EsemenyDb,
             sz.hangJel};
-}
-
-TKvhRekord esemenyRekord(const TEletesemeny& e, int index) {
-    return {e.esemeny,
-            e.pillanat,
-            e.idozona,
-            e.nyariIdo,
-            e.helyseg,
-            ivmasodpercre(e.hosszFok, e.hosszPerc),
-            ivmasodpercre(e.szelFok, e.szelPerc),
-            e.analogia,
-            index,
-            std::to_string(e.solarNap)};
 }
 
 void hozzafuz(std::string& tartalom, const TKvhRekord& rekord) {
@@ -73,11 +59,25 @@ void kepletAtvetel(Allapot& allapot, const TKvhRekord& r) {
     sz.hangJel = r.hang;
 }
 
-std::optional<TEletesemeny> esemenyAtvetel(const TKvhRekord& r) {
+}  // namespace
+
+TKvhRekord EsemenyRekord(const TEletesemeny& e, int index) {
+    return {e.esemeny,
+            e.pillanat,
+            e.idozona,
+            e.nyariIdo,
+            e.helyseg,
+            ivmasodpercre(e.hosszFok, e.hosszPerc),
+            ivmasodpercre(e.szelFok, e.szelPerc),
+            e.analogia,
+            index,
+            std::to_string(e.solarNap)};
+}
+
+std::optional<TEletesemeny> EsemenyOlvasas(const TKvhRekord& r) {
+    const auto solarNap = szamErtek<int>(r.hang);
+    if (!solarNap) return std::nullopt;
     TEletesemeny e;
-    const char* vege = r.hang.data() + r.hang.size();
-    const auto [hely, hiba] = std::from_chars(r.hang.data(), vege, e.solarNap);
-    if (hiba != std::errc{} || hely != vege) return std::nullopt;
     e.esemeny = r.nev;
     e.analogia = r.jegyzet;
     e.pillanat = r.pillanat;
@@ -86,16 +86,15 @@ std::optional<TEletesemeny> esemenyAtvetel(const TKvhRekord& r) {
     e.nyariIdo = r.nyariIdo;
     e.hosszFok = fokPercre(r.hosszusag).fok, e.hosszPerc = fokPercre(r.hosszusag).perc;
     e.szelFok = fokPercre(r.szelesseg).fok, e.szelPerc = fokPercre(r.szelesseg).perc;
+    e.solarNap = *solarNap;
     return e;
 }
-
-}  // namespace
 
 TKvhHiba KepletMentes(const Allapot& allapot, const std::string& fajl) {
     std::string tartalom;
     hozzafuz(tartalom, kepletRekord(allapot));
     for (int i = 1; i <= allapot.Esemenyek.EsemenyDb; ++i)
-        hozzafuz(tartalom, esemenyRekord(allapot.Esemenyek.esemenyek[i], i));
+        hozzafuz(tartalom, EsemenyRekord(allapot.Esemenyek.esemenyek[i], i));
     return FajlIras(fajl, tartalom) ? TKvhHiba{} : irasiHiba;
 }
 
@@ -113,7 +112,7 @@ TKvhHiba KepletBeolvasas(Allapot& allapot, std::istream& be) {
     for (int i = 1; i <= keplet->esemenySzam; ++i) {
         const auto rekord = rekordOlvasas(be);
         if (!rekord) return olvasasiHiba;
-        const auto esemeny = esemenyAtvetel(*rekord);
+        const auto esemeny = EsemenyOlvasas(*rekord);
         if (!esemeny) return olvasasiHiba;
         allapot.Esemenyek.esemenyek[i] = *esemeny;
     }

@@ -7,11 +7,19 @@
 
 #include "chart/allapot.h"
 #include "chart/foablak.h"
+#include "files/kvhrekord.h"
 
 /// Chart files: the chart's record, then as many event records as it says.
 
 /// A failure's message to the user; nothing on success.
 using TKvhHiba = std::optional<std::string>;
+
+/// The record of an event, its coordinates without seconds of arc.
+/// @param index  the event's number from 1
+TKvhRekord EsemenyRekord(const TEletesemeny& esemeny, int index);
+
+/// The event of a record; nothing if its sound field is not a number, the Sun's house.
+std::optional<TEletesemeny> EsemenyOlvasas(const TKvhRekord& rekord);
 
 /// Writes the chart on screen with its events over the file. After a failure the old file stands as it was.
 TKvhHiba KepletMentes(const Allapot& allapot, const std::string& fajl);

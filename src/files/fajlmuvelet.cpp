@@ -1,8 +1,15 @@
 #include "files/fajlmuvelet.h"
 
+#include <cstdio>
 #include <filesystem>
 #include <random>
 #include <system_error>
+
+#ifdef _WIN32
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
 
 namespace {
 
@@ -14,11 +21,29 @@ fs::path ideiglenes(const fs::path& fajl) {
     return fajl.parent_path() / (".korvend-" + std::to_string(std::random_device{}()));
 }
 
+#ifdef _WIN32
+std::FILE* irasraNyit(const fs::path& fajl) {
+    return _wfopen(fajl.c_str(), L"wb");
+}
+bool lemezre(std::FILE* fajl) {
+    return _commit(_fileno(fajl)) == 0;
+}
+#else
+std::FILE* irasraNyit(const fs::path& fajl) {
+    return std::fopen(fajl.c_str(), "wbe");
+}
+bool lemezre(std::FILE* fajl) {
+    return fsync(fileno(fajl)) == 0;
+}
+#endif
+
+/// Writes and waits until the bytes are on the disk: a rename may reach it before what it renames.
 bool kiir(const fs::path& fajl, std::string_view tartalom) {
-    std::ofstream ki(fajl, std::ios::binary | std::ios::trunc);
-    ki.write(tartalom.data(), static_cast<std::streamsize>(tartalom.size()));
-    ki.close();
-    return !ki.fail();
+    std::FILE* const ki = irasraNyit(fajl);
+    if (!ki) return false;
+    const bool sikerult = std::fwrite(tartalom.data(), 1, tartalom.size(), ki) == tartalom.size() &&
+                          std::fflush(ki) == 0 && lemezre(ki);
+    return std::fclose(ki) == 0 && sikerult;
 }
 
 bool irhato(const fs::path& fajl) {

@@ -1,6 +1,7 @@
 #include "files/fajlnev.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 
 #include "tables/szoveg.h"
@@ -13,8 +14,19 @@ constexpr std::string_view szelenTiltottJelek = " .";
 
 bool tiltott(std::string_view karakter) {
     const auto elso = static_cast<unsigned char>(karakter[0]);
+    if (!ervenyesUtf8(karakter)) return true;
     if (karakter.size() == 1) return elso < 0x20 || tiltottJelek.find(karakter[0]) != tiltottJelek.npos;
     return elso == 0xC2 && static_cast<unsigned char>(karakter[1]) < 0xA0;  // the upper control characters
+}
+
+/// Names that stand for devices on some system, whatever their ending.
+constexpr std::array<std::string_view, 22> eszkozok{
+    "con",  "prn",  "aux",  "nul",  "com1", "com2", "com3", "com4", "com5", "com6", "com7",
+    "com8", "com9", "lpt1", "lpt2", "lpt3", "lpt4", "lpt5", "lpt6", "lpt7", "lpt8", "lpt9"};
+
+bool eszkoz(std::string_view nev) {
+    const std::string torzs = kisbetus(nev.substr(0, nev.find('.')));
+    return std::find(eszkozok.begin(), eszkozok.end(), torzs) != eszkozok.end();
 }
 
 bool betu(char c) {
@@ -44,6 +56,7 @@ std::string FajlNev(std::string_view szoveg) {
     const auto eleje = std::find_if(nev.begin(), nev.end(), marad);
     std::fill(nev.begin(), eleje, '-');
     std::fill(std::find_if(nev.rbegin(), nev.rend(), marad).base(), nev.end(), '-');
+    if (eszkoz(nev)) nev.insert(0, "-");
     return nev;
 }
 

@@ -4,8 +4,9 @@
 #include <string_view>
 
 /// A plain file name made of a text, without its extension: what a file name can't hold on some system (path
-/// and drive signs, wildcards, quotes, control characters, blanks and dots at its ends) becomes '-', so that
-/// no name ever leads to another folder or hides its file. A text longer than 200 bytes is cut. An empty text
+/// and drive signs, wildcards, quotes, control characters, stray bytes, blanks and dots at its ends) becomes
+/// '-', and a device's name gets one in front, so that no name ever leads to another folder or a device or
+/// hides its file. A text longer than 200 bytes is cut. An empty text
 /// stays empty.
 std::string FajlNev(std::string_view szoveg);
 

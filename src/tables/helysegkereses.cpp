@@ -24,7 +24,7 @@ constexpr std::array<TEkezetes, 9> ekezetesek{{{"Á", "á", "a"},
                                                {"Ű", "ű", "u"}}};
 
 /// The text in small letters, an accented letter as its given form.
-std::string kisbetus(std::string_view szoveg, std::string_view TEkezetes::*alak) {
+std::string alakban(std::string_view szoveg, std::string_view TEkezetes::*alak) {
     std::string ki;
     while (!szoveg.empty()) {
         const std::string_view betu = szoveg.substr(0, karakterHossz(szoveg));
@@ -34,10 +34,8 @@ std::string kisbetus(std::string_view szoveg, std::string_view TEkezetes::*alak)
         });
         if (ekezetes != ekezetesek.end())
             ki += *ekezetes.*alak;
-        else if (betu[0] >= 'A' && betu[0] <= 'Z')
-            ki += static_cast<char>(betu[0] - 'A' + 'a');
         else
-            ki += betu;
+            ki += kisbetus(betu);
     }
     return ki;
 }
@@ -60,7 +58,7 @@ using TCsoportok = std::array<std::vector<std::string_view>, csoportok>;
 TCsoportok csoportositas(std::string_view beirt) {
     TCsoportok talalatok;
     if (beirt.empty()) return talalatok;
-    const std::string kicsi = kisbetus(beirt, &TEkezetes::kicsi);
+    const std::string kicsi = alakban(beirt, &TEkezetes::kicsi);
     const std::string sima = ekezetNelkul(beirt);
     for (std::size_t sor = 0; sor < Telepulesek.size(); ++sor) {
         const TTelepules& t = Telepulesek[sor];
@@ -68,7 +66,7 @@ TCsoportok csoportositas(std::string_view beirt) {
         const std::size_t hely = nev.find(sima);
         if (hely == std::string::npos) continue;
         std::size_t csoport = hely == 0 ? 2 : 3;
-        if (nev == sima) csoport = kisbetus(t.nev, &TEkezetes::kicsi) == kicsi ? 0 : 1;
+        if (nev == sima) csoport = alakban(t.nev, &TEkezetes::kicsi) == kicsi ? 0 : 1;
         talalatok[csoport].push_back(t.nev);
     }
     return talalatok;
@@ -77,7 +75,7 @@ TCsoportok csoportositas(std::string_view beirt) {
 }  // namespace
 
 std::string ekezetNelkul(std::string_view szoveg) {
-    return kisbetus(szoveg, &TEkezetes::sima);
+    return alakban(szoveg, &TEkezetes::sima);
 }
 
 std::vector<std::string_view> HelysegTalalatok(std::string_view beirt) {

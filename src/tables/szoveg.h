@@ -1,9 +1,13 @@
 #pragma once
 
 #include <algorithm>
+#include <charconv>
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 /// UTF-8 text counted, cut and rotated by character, and the program's number formats.
 
@@ -32,6 +36,18 @@ inline bool ervenyesUtf8(std::string_view szoveg) {
     return true;
 }
 
+/// A letter of English as a small one; anything else as it is.
+inline char kisbetu(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+/// The text with the letters of English in small; accented ones stay.
+inline std::string kisbetus(std::string_view szoveg) {
+    std::string ki(szoveg);
+    std::transform(ki.begin(), ki.end(), ki.begin(), kisbetu);
+    return ki;
+}
+
 /// Number of characters.
 inline int karakterSzam(std::string_view szoveg) {
     int szam = 0;
@@ -51,6 +67,16 @@ inline void gordit(std::string& szoveg) {
     if (szoveg.empty()) return;
     std::rotate(szoveg.begin(), szoveg.begin() + static_cast<std::ptrdiff_t>(karakterHossz(szoveg)),
                 szoveg.end());
+}
+
+/// The number that a text is; nothing if anything but digits and a minus sign is in it, or if it is too
+/// large.
+template <typename T = std::int32_t>
+std::optional<T> szamErtek(std::string_view szoveg) {
+    T szam = 0;
+    const auto [vege, hiba] = std::from_chars(szoveg.data(), szoveg.data() + szoveg.size(), szam);
+    if (hiba != std::errc{} || vege != szoveg.data() + szoveg.size()) return std::nullopt;
+    return szam;
 }
 
 /// A number with a leading "0" below 10.

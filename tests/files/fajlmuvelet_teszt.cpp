@@ -1,7 +1,9 @@
 // Opening and writing of whole files.
 
+#include <chrono>
 #include <filesystem>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -84,6 +86,25 @@ TEST(FajlIras, ATeliLemezARegitHagyjaEsToredeketNem) {
     EXPECT_EQ(m.olvasd("a"), "regi");
     EXPECT_FALSE(fs::exists(m.fajl("b")));
     EXPECT_EQ(m.tartalma().size(), 2U);
+}
+
+TEST(FajlIras, AMegoltProgramUtanARegiVagyAzUjAllEgeszben) {
+    const TIdeiglenesMappa m;
+    const std::string egyik(300000, 'a');
+    const std::string masik(200000, 'b');
+    ASSERT_TRUE(FajlIras(m.fajl("x"), egyik));
+    for (int i = 0; i < 40; ++i) {
+        TGyermek iro([&] {
+            for (;;) {
+                FajlIras(m.fajl("x"), masik);
+                FajlIras(m.fajl("x"), egyik);
+            }
+        });
+        std::this_thread::sleep_for(std::chrono::microseconds(500 + 700 * i));
+        iro.megol();
+        const std::string most = m.olvasd("x");
+        EXPECT_TRUE(most == egyik || most == masik) << most.size();
+    }
 }
 
 TEST(FajlIras, ARosszHelySikertelen) {

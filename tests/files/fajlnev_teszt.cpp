@@ -44,6 +44,20 @@ TEST(FajlNev, ASzeleiSzokozokEsPontokIsKotojelek) {
     EXPECT_EQ(FajlNev("   "), "---");
 }
 
+TEST(FajlNev, AzEszkozokNeveEleKotojelKerul) {
+    EXPECT_EQ(FajlNev("CON"), "-CON");
+    EXPECT_EQ(FajlNev("nul.kovács"), "-nul.kovács");
+    EXPECT_EQ(FajlNev("Lpt9"), "-Lpt9");
+    EXPECT_EQ(FajlNev("console"), "console");
+    EXPECT_EQ(FajlNev("com10"), "com10");
+}
+
+TEST(FajlNev, ARosszBajtKotojel) {
+    EXPECT_EQ(FajlNev("a\xFF"
+                      "b"),
+              "a-b");
+}
+
 TEST(FajlNev, AHosszuNevKarakterhatarnalVagva) {
     EXPECT_EQ(FajlNev(std::string(300, 'x')), std::string(200, 'x'));
     const std::string nev =

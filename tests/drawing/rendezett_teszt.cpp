@@ -98,10 +98,10 @@ TEST(Rendezett, BarmelyKepletbenLegalabbHatFok) {
     std::uniform_real_distribution<double> kor(0, 360);
     std::uniform_real_distribution<double> halmaz(0, 25);
     for (int keplet = 0; keplet < 3000; ++keplet) {
-        std::vector<double> hosszak;
+        std::vector<double> hosszak(10);
         const double kozep = kor(veletlen);
-        for (int i = 0; i < 10; ++i)
-            hosszak.push_back(keplet % 2 == 0 ? kor(veletlen) : std::fmod(kozep + halmaz(veletlen), 360));
+        for (double& hossz : hosszak)
+            hossz = keplet % 2 == 0 ? kor(veletlen) : std::fmod(kozep + halmaz(veletlen), 360);
         const TRendezett r = szetterit(hosszak);
         std::vector<double> helyek;
         std::string jelek;

@@ -52,7 +52,7 @@ TEST(AnalogiaSzoveg, MindenHazAVerdikttel) {
     ASSERT_EQ(sorok.size(), 1U + 12 * 16);
     EXPECT_EQ(sorok[0], "Mundánházak és horizontházak analógiái NEM egyeznek!");
     for (int haz = 1; haz <= 12; ++haz) {
-        const auto eleje = sorok.begin() + 1 + (haz - 1) * 16;
+        const auto eleje = sorok.begin() + (1 + 16L * (haz - 1));
         EXPECT_EQ(*eleje, "");
         EXPECT_EQ(TSorok(eleje + 1, eleje + 16), AnalogiaOlvashato(e, haz)) << haz;
     }

@@ -1,8 +1,14 @@
+#include <iostream>
+
 #include <QApplication>
 
+#include "commands/parancssor.h"
 #include "windows/program.h"
 
 int main(int argc, char** argv) {
+    // Before the toolkit starts: help and a mistyped option need no display.
+    const TParancssor parancs = ParancssorOlvas({argv + (argc > 0), argv + argc});
+    if (const auto kod = ParancssorValasz(parancs, std::cout, std::cerr)) return *kod;
     QApplication program(argc, argv);
     return ProgramFutas(QApplication::arguments());
 }

@@ -66,6 +66,7 @@ TForm1::TForm1()
     menuEpites();
     panelEpites();
     statuszEpites();
+    ejtesFigyeles();
     connect(felulet_, &KepletFelulet::festesKeres, this, &TForm1::FormPaint);
     connect(felulet_, &KepletFelulet::meretValtozott, this, &TForm1::FormResize);
     FormCreate();

@@ -17,6 +17,7 @@
 #include "windows/parbeszed.h"
 
 struct TAblakok;
+class TLegutobbiTar;
 
 /// The main window: wheel, left panel, status bar, menu, and the tick that drives them.
 class TForm1 : public QMainWindow, public FoAblak {
@@ -33,6 +34,11 @@ public:
     /// Other dialogs in place of the toolkit's, for tests.
     void parbeszedBeallitasa(TParbeszed& parbeszed) { parbeszed_ = &parbeszed; }
     TParbeszed& parbeszed() { return *parbeszed_; }
+
+    /// Where the last folder and the latest charts are kept; without one nothing is.
+    void legutobbiBeallitasa(TLegutobbiTar& tar);
+    /// Opens a chart that the desktop hands over, as "Megnyitás" does: the password first.
+    void KivulrolMegnyitas(const QString& fajl);
 
     void Ujrafest() override;
     void Ervenytelenit() override { felulet_->ervenytelenit(); }
@@ -110,6 +116,9 @@ private:
     void visszateres(const TVisszateresFajta& fajta);
     void datumosDirekcio(bool tercier);
     bool JelszoKeres();
+    void ejtesFigyeles();
+    void fajlMegnyitas(const QString& fajl);
+    void legutobbiFelvetel(const QString& fajl);
     void closeEvent(QCloseEvent* esemeny) override;
     void nyomtatas();
     void papirraNyomtatas(const QString& nev);
@@ -128,6 +137,7 @@ private:
     std::unique_ptr<QPrinter> nyomtato_;
     bool nyomtatoBeallitva_ = false;  ///< the printer set-up has been accepted in this run
     TAblakok* ablakok_ = nullptr;
+    TLegutobbiTar* legutobbi_ = nullptr;
     KepletFelulet* felulet_;
     QFrame* panel1_;
     std::array<QLabel*, 48> label_{};

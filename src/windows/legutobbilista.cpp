@@ -9,6 +9,8 @@
 
 namespace {
 
+constexpr int listaSzelesseg = 150;  // pixels, as a share beside the files
+
 QString utja(const QListWidgetItem& sor) {
     return sor.data(Qt::UserRole).toString();
 }
@@ -40,7 +42,7 @@ void legutobbiLista(QFileDialog& dialogus, const QStringList& fajlok) {
     elrendezes->addWidget(sorok);
     // At the end: the dialog keeps the width of its first part between runs.
     oszto->addWidget(oldal);
-    oszto->setStretchFactor(oszto->indexOf(oldal), 0);
+    oszto->setSizes({oszto->sizes().constFirst(), dialogus.width(), listaSzelesseg});
 
     const auto kivalaszt = [&dialogus](QListWidgetItem* sor) {
         if (sor != nullptr) dialogus.selectFile(utja(*sor));

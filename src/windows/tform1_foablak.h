@@ -2,6 +2,8 @@
 
 #include <array>
 #include <memory>
+#include <optional>
+#include <string>
 
 #include <QAction>
 #include <QLabel>
@@ -12,6 +14,7 @@
 
 #include "chart/allapot.h"
 #include "chart/foablak.h"
+#include "commands/kepatadas.h"
 #include "predictive/visszateresek.h"
 #include "windows/kepletfelulet.h"
 #include "windows/parbeszed.h"
@@ -90,6 +93,11 @@ public slots:
     void Szimbolumok1Click();
 
     void Kezikonyv1Click();
+    void KepMasolas1Click();
+    void AdatMasolas1Click();
+    void KepPdf1Click();
+    void KepSvg1Click();
+    void KepPng1Click();
 
     void PanelButton2_MostClick();
     void PanelButton3_ValtClick();
@@ -128,6 +136,10 @@ private:
     /// Made at the first use: asking the system for its printers takes longer than the whole start.
     QPrinter& nyomtato();
     void szemelyiAblak(bool ujKeplet);
+    /// The picture on screen.
+    TKepletKep kepernyon() const;
+    void kepMentes(const char* kiterjesztes, QByteArray (*keszit)(const Allapot&, const TKepletKep&));
+    void contextMenuEvent(QContextMenuEvent* esemeny) override;
     void memoHely();
     bool eventFilter(QObject* targy, QEvent* esemeny) override;
 
@@ -146,6 +158,7 @@ private:
     QPushButton* valtGomb_ = nullptr;
     QPlainTextEdit* memo1_ = nullptr;
     QTimer* timer1_;
-    bool megjelent_ = false;  ///< the window has been painted once
-    QString betutipus_;       ///< symbol font that the labels show
+    std::optional<std::string> kiirtTalalatok_;  ///< written over the picture since its last drawing
+    bool megjelent_ = false;                     ///< the window has been painted once
+    QString betutipus_;                          ///< symbol font that the labels show
 };

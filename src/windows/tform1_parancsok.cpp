@@ -145,7 +145,8 @@ void TForm1::datumosDirekcio(bool tercier) {
     form3.megmutat();
     if (allapot_.Megsem3) return;
 
-    felulet_->rajzol([&](QtVaszon& vaszon) { DatumosKiiras(vaszon, allapot_, form3.eredmeny()); });
+    kiirtTalalatok_ = form3.eredmeny();
+    felulet_->rajzol([&](QtVaszon& vaszon) { DatumosKiiras(vaszon, allapot_, *kiirtTalalatok_); });
     felulet_->megmutat();
 }
 

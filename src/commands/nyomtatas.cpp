@@ -27,11 +27,11 @@ void NyomtatasNezete(Allapot& allapot, const std::string& megnevezes) {
     allapot.Feliratok.statusz[panelNev] = megnevezes;
 }
 
-std::string PdfFajlNev(const Allapot& allapot) {
+std::string KepFajlNev(const Allapot& allapot, std::string_view kiterjesztes) {
     const TPillanat& p = allapot.Keplet.pillanat;
     const std::string datum = std::to_string(p.ev) + "-" + ketJegy(p.ho) + "-" + ketJegy(p.nap);
     const std::string nev = FajlNev(allapot.Szemely.nev);
-    return (nev.empty() ? datum : nev + " " + datum) + ".pdf";
+    return (nev.empty() ? datum : nev + " " + datum) + std::string(kiterjesztes);
 }
 
 namespace {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "chart/allapot.h"
 #include "drawing/vaszon.h"
@@ -11,8 +12,15 @@ std::string FejlecSzoveg(const TKeplet& keplet, const std::string& megnevezes);
 /// State changes of printing: the Radix view for good, the name in the status bar, where it stays.
 void NyomtatasNezete(Allapot& allapot, const std::string& megnevezes);
 
-/// File name that printing to a PDF proposes: the person's name and the chart's date, as a plain file name.
-std::string PdfFajlNev(const Allapot& allapot);
+/// File name that a picture of the chart is proposed under: the person's name and the chart's date, as a
+/// plain file name.
+/// @param kiterjesztes  with its dot
+std::string KepFajlNev(const Allapot& allapot, std::string_view kiterjesztes);
+
+/// What printing to a PDF proposes.
+inline std::string PdfFajlNev(const Allapot& allapot) {
+    return KepFajlNev(allapot, ".pdf");
+}
 
 /// Resolution of the print, dots per inch, at which the fixed heights of the page's lines are 5 and 3 mm.
 /// What a printer lists as its own does not count: the page goes to it as a drawing, which it scales, and

@@ -17,6 +17,8 @@
 #include <QRegularExpression>
 
 #include "files/fajlnev.h"
+#include "windows/legutobbilista.h"
+#include "windows/legutobbitar.h"
 #include "windows/qszoveg.h"
 
 namespace {
@@ -32,11 +34,6 @@ int cimSzelesseg(const QString& cim) {
     return QFontMetrics(betu).horizontalAdvance(cim) + ikonEsGombok;
 }
 
-QString mappajaba(const QString& fajl) {
-    if (!fajl.isEmpty()) QDir::setCurrent(QFileInfo(fajl).absolutePath());
-    return fajl;
-}
-
 /// The first extension that a filter as "Kvh files (*.kvh)" names, with its dot.
 QString szuroKiterjesztese(const QString& szuro) {
     static const QRegularExpression minta(R"(\*(\.\w+))");
@@ -46,6 +43,12 @@ QString szuroKiterjesztese(const QString& szuro) {
 QString fajlValasztas(QFileDialog& dialogus, const QString& szuro) {
     dialogus.setNameFilter(szuro);
     return dialogus.exec() == QDialog::Accepted ? dialogus.selectedFiles().value(0) : QString();
+}
+
+/// Charts to show at the dialog's side. The dialogs of Windows keep a list of their own.
+QStringList legutobbiFajlok(const TLegutobbiTar* tar) {
+    if (tar == nullptr || QGuiApplication::platformName() == "windows") return {};
+    return tar->fajlok();
 }
 
 void gomb(QMessageBox& doboz, QMessageBox::StandardButton melyik, const QString& felirat) {
@@ -91,19 +94,35 @@ std::optional<QString> beviteliMezo(QWidget* szulo, const QString& cim, const QS
 
 }  // namespace
 
+QString TParbeszed::kezdoMappa() const {
+    return legutobbi_ != nullptr ? legutobbi_->mappa() : QDir::currentPath();
+}
+
+QString TParbeszed::mappajaba(const QString& fajl) const {
+    if (fajl.isEmpty()) return {};
+    const QString mappa = QFileInfo(fajl).absolutePath();
+    QDir::setCurrent(mappa);
+    if (legutobbi_ != nullptr) legutobbi_->mappaba(mappa);
+    return fajl;
+}
+
 QString TParbeszed::megnyitando(QWidget* szulo, const QString& szuro) {
-    QFileDialog dialogus(szulo, "Megnyitás", QDir::currentPath());
+    QFileDialog dialogus(szulo, "Megnyitás", kezdoMappa());
     dialogus.setAcceptMode(QFileDialog::AcceptOpen);
     dialogus.setFileMode(QFileDialog::ExistingFile);
+    if (const QStringList fajlok = legutobbiFajlok(legutobbi_); !fajlok.isEmpty()) {
+        dialogus.setOption(QFileDialog::DontUseNativeDialog);
+        legutobbiLista(dialogus, fajlok);
+    }
     return mappajaba(fajlValasztas(dialogus, szuro));
 }
 
 QString TParbeszed::mentesHelye(QWidget* szulo, const QString& szuro, const QString& fajlnev) {
-    QFileDialog dialogus(szulo, "Mentés", QDir::currentPath());
+    QFileDialog dialogus(szulo, "Mentés", kezdoMappa());
     dialogus.setAcceptMode(QFileDialog::AcceptSave);
     dialogus.setFileMode(QFileDialog::AnyFile);
     dialogus.setOption(QFileDialog::DontConfirmOverwrite);  // asked when the extension is there
-    dialogus.selectFile(QDir::current().filePath(fajlnev));
+    dialogus.selectFile(QDir(kezdoMappa()).filePath(fajlnev));
     return fajlValasztas(dialogus, szuro);
 }
 

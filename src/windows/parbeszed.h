@@ -7,11 +7,20 @@
 #include <QUrl>
 #include <QWidget>
 
+class TLegutobbiTar;
+
+/// Filter of the chart files' dialogs.
+inline const QString kepletfajlSzuro = QStringLiteral("Kvh files (*.kvh)");
+
 /// The toolkit's own dialogs behind one small seam, so that tests can answer them. Each is wide enough to
 /// show its title in full.
 class TParbeszed {
 public:
     virtual ~TParbeszed() = default;
+
+    /// With a store the file dialogs begin in the last folder, and the one that opens a chart has the latest
+    /// charts at its side; without one they begin in the current directory.
+    void legutobbiBeallitasa(TLegutobbiTar& tar) { legutobbi_ = &tar; }
 
     /// Chosen file, empty on cancel. Accepting makes the file's folder the current directory, so that a sound
     /// file next to a chart is found.
@@ -19,7 +28,7 @@ public:
     /// File to write, empty on cancel. A name typed without an extension gets the filter's. An existing file
     /// is asked about; a no leads back to the dialog. Accepting makes the file's folder the current
     /// directory.
-    /// @param fajlnev  proposed in the current directory
+    /// @param fajlnev  proposed where the dialog begins
     QString mentendo(QWidget* szulo, const QString& szuro, const QString& fajlnev);
     /// Question with yes and no.
     virtual bool igen(QWidget* szulo, const QString& cim, const QString& kerdes);
@@ -42,4 +51,11 @@ protected:
     virtual bool felulirhato(QWidget* szulo, const QString& fajl);
     /// One opening of the save dialog. @return the path as typed, empty on cancel
     virtual QString mentesHelye(QWidget* szulo, const QString& szuro, const QString& fajlnev);
+
+private:
+    QString kezdoMappa() const;
+    /// Makes a file's folder the current directory. @return the file
+    QString mappajaba(const QString& fajl) const;
+
+    TLegutobbiTar* legutobbi_ = nullptr;
 };

@@ -97,6 +97,22 @@ QFont cellaMagassaguBetu(const QString& nev, int magassag, int dpi) {
     return betu;
 }
 
+TSzovegAlak szovegAlak(const QString& betu, int magassag, const QString& szoveg) {
+    const QRawFont& nyers = meretezettBetu(betu, magassag);
+    const TJelSor sor = jelSor(nyers, szoveg);
+    TSzovegAlak ki{{}, sor.szelesseg, nyers.ascent()};
+    for (qsizetype i = 0; i < sor.jelek.size(); ++i)
+        ki.alak.addPath(nyers.pathForGlyph(sor.jelek[i]).translated(sor.helyek[i]));
+    if (!sor.jelek.isEmpty()) return ki;
+    constexpr int pixelPont = 72;  // at this resolution a point is a pixel
+    const QFont tartalek = cellaMagassaguBetu(betu, magassag, pixelPont);
+    QFont pixeles = tartalek;
+    pixeles.setPixelSize(qMax(1, qRound(tartalek.pointSizeF())));
+    ki.alak.addText(0, 0, pixeles, szoveg);
+    ki.szelesseg = QFontMetricsF(pixeles).horizontalAdvance(szoveg);
+    return ki;
+}
+
 QtVaszon::QtVaszon(QPainter& festo) : festo_(festo), toll_(Qt::black, 1) {
     festo_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     festo_.setBrush(Qt::white);

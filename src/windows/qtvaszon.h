@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPen>
 #include <QRawFont>
 #include <QString>
@@ -43,6 +44,17 @@ private:
     QString betuNev_;
     QRawFont betu_;
 };
+
+/// A text as it is drawn, in shapes: from the left end of its base line; its width, and its cell's top to the
+/// base line.
+struct TSzovegAlak {
+    QPainterPath alak;
+    double szelesseg = 0;
+    double alapvonal = 0;
+};
+
+/// @param magassag  of the character cell, above 0
+TSzovegAlak szovegAlak(const QString& betu, int magassag, const QString& szoveg);
 
 /// A font whose character cell, ascent and descent together, is so many pixels high.
 /// @param dpi  resolution of the device that it is used on

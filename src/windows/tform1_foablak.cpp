@@ -66,6 +66,7 @@ TForm1::TForm1()
     menuEpites();
     panelEpites();
     statuszEpites();
+    ejtesFigyeles();
     connect(felulet_, &KepletFelulet::festesKeres, this, &TForm1::FormPaint);
     connect(felulet_, &KepletFelulet::meretValtozott, this, &TForm1::FormResize);
     FormCreate();
@@ -128,6 +129,7 @@ void TForm1::panelEpites() {
     QPalette szinek = memo1_->palette();
     szinek.setColor(QPalette::Base, szinek.color(QPalette::Button));
     memo1_->setPalette(szinek);
+    memo1_->installEventFilter(this);
     memo1_->viewport()->installEventFilter(this);
     memoHely();
     connect(memo1_, &QPlainTextEdit::textChanged, this, [this] {
@@ -164,6 +166,7 @@ void TForm1::FormCreate() {
 
 void TForm1::kepletRajzolas(const QRegion& resz) {
     AblakGeometria(allapot_.Rajz, allapot_.Keplet.hazCsucs[1], felulet_->width(), felulet_->height());
+    kiirtTalalatok_.reset();
     felulet_->ujrarajzol(resz, [this](QtVaszon& vaszon) { KepletRajz(vaszon, allapot_); });
     oldalPanelMutatas();
 }
@@ -279,6 +282,10 @@ void TForm1::Memo1Change() {
 }
 
 bool TForm1::eventFilter(QObject* targy, QEvent* esemeny) {
+    // A note with nothing selected has no use for the copy key, and keeps it from the picture.
+    if (targy == memo1_ && esemeny->type() == QEvent::ShortcutOverride &&
+        !memo1_->textCursor().hasSelection() && static_cast<QKeyEvent*>(esemeny)->matches(QKeySequence::Copy))
+        return true;
     if (esemeny->type() == QEvent::MouseButtonPress) {
         // A press on the panel stops here. On the surface below it would ask for the password, and the click
         // would end in the prompt.

@@ -2,6 +2,8 @@
 
 #include <array>
 #include <memory>
+#include <optional>
+#include <string>
 
 #include <QAction>
 #include <QLabel>
@@ -12,11 +14,13 @@
 
 #include "chart/allapot.h"
 #include "chart/foablak.h"
+#include "commands/kepatadas.h"
 #include "predictive/visszateresek.h"
 #include "windows/kepletfelulet.h"
 #include "windows/parbeszed.h"
 
 struct TAblakok;
+class TLegutobbiTar;
 
 /// The main window: wheel, left panel, status bar, menu, and the tick that drives them.
 class TForm1 : public QMainWindow, public FoAblak {
@@ -33,6 +37,11 @@ public:
     /// Other dialogs in place of the toolkit's, for tests.
     void parbeszedBeallitasa(TParbeszed& parbeszed) { parbeszed_ = &parbeszed; }
     TParbeszed& parbeszed() { return *parbeszed_; }
+
+    /// Where the last folder and the latest charts are kept; without one nothing is.
+    void legutobbiBeallitasa(TLegutobbiTar& tar);
+    /// Opens a chart that the desktop hands over, as "Megnyitás" does: the password first.
+    void KivulrolMegnyitas(const QString& fajl);
 
     void Ujrafest() override;
     void Ervenytelenit() override { felulet_->ervenytelenit(); }
@@ -84,6 +93,11 @@ public slots:
     void Szimbolumok1Click();
 
     void Kezikonyv1Click();
+    void KepMasolas1Click();
+    void AdatMasolas1Click();
+    void KepPdf1Click();
+    void KepSvg1Click();
+    void KepPng1Click();
 
     void PanelButton2_MostClick();
     void PanelButton3_ValtClick();
@@ -110,6 +124,9 @@ private:
     void visszateres(const TVisszateresFajta& fajta);
     void datumosDirekcio(bool tercier);
     bool JelszoKeres();
+    void ejtesFigyeles();
+    void fajlMegnyitas(const QString& fajl);
+    void legutobbiFelvetel(const QString& fajl);
     void closeEvent(QCloseEvent* esemeny) override;
     void nyomtatas();
     void papirraNyomtatas(const QString& nev);
@@ -119,6 +136,10 @@ private:
     /// Made at the first use: asking the system for its printers takes longer than the whole start.
     QPrinter& nyomtato();
     void szemelyiAblak(bool ujKeplet);
+    /// The picture on screen.
+    TKepletKep kepernyon() const;
+    void kepMentes(const char* kiterjesztes, QByteArray (*keszit)(const Allapot&, const TKepletKep&));
+    void contextMenuEvent(QContextMenuEvent* esemeny) override;
     void memoHely();
     bool eventFilter(QObject* targy, QEvent* esemeny) override;
 
@@ -128,6 +149,7 @@ private:
     std::unique_ptr<QPrinter> nyomtato_;
     bool nyomtatoBeallitva_ = false;  ///< the printer set-up has been accepted in this run
     TAblakok* ablakok_ = nullptr;
+    TLegutobbiTar* legutobbi_ = nullptr;
     KepletFelulet* felulet_;
     QFrame* panel1_;
     std::array<QLabel*, 48> label_{};
@@ -136,6 +158,7 @@ private:
     QPushButton* valtGomb_ = nullptr;
     QPlainTextEdit* memo1_ = nullptr;
     QTimer* timer1_;
-    bool megjelent_ = false;  ///< the window has been painted once
-    QString betutipus_;       ///< symbol font that the labels show
+    std::optional<std::string> kiirtTalalatok_;  ///< written over the picture since its last drawing
+    bool megjelent_ = false;                     ///< the window has been painted once
+    QString betutipus_;                          ///< symbol font that the labels show
 };

@@ -68,16 +68,22 @@ constexpr TMenuSor menuSorok[]{
     {1, "&Szimbólumok", "Szimbolumok1", &TForm1::Szimbolumok1Click},
 };
 
-/// Keys of what stands in no menu.
+/// What stands in no menu of the bar: its key, and its caption where the wheel's own menu has it.
 struct TBillentyu {
     const char* billentyu;
     const char* nev;
     TKezelo kezelo;
+    const char* felirat = "";
 };
 
 constexpr TBillentyu billentyuk[]{
     {"F1", "Kezikonyv1", &TForm1::Kezikonyv1Click},
     {"F5", "Most1", &TForm1::PanelButton2_MostClick},
+    {"Ctrl+C", "KepMasolas1", &TForm1::KepMasolas1Click, "&Kép másolása"},
+    {"Ctrl+Shift+C", "AdatMasolas1", &TForm1::AdatMasolas1Click, "&Adatok másolása szövegként"},
+    {nullptr, "KepPdf1", &TForm1::KepPdf1Click, "Mentés &PDF-ként…"},
+    {nullptr, "KepSvg1", &TForm1::KepSvg1Click, "Mentés &SVG-ként…"},
+    {nullptr, "KepPng1", &TForm1::KepPng1Click, "Mentés P&NG-ként…"},
 };
 
 /// These run without the password.
@@ -109,7 +115,8 @@ void TForm1::menuEpites() {
         parancsEpites(*menuk[szint - 1]->addAction(sor.felirat), sor.nev, sor.kezelo, sor.billentyu);
     }
     for (const TBillentyu& b : billentyuk) {
-        auto* pont = new QAction(this);
+        auto* pont = new QAction(b.felirat, this);
+        pont->setShortcutVisibleInContextMenu(true);
         addAction(pont);
         parancsEpites(*pont, b.nev, b.kezelo, b.billentyu);
     }

@@ -84,23 +84,14 @@ void TForm1::Kezikonyv1Click() {
         parbeszed_->uzenet(this, "A kézikönyv nem nyitható meg.");
 }
 
-namespace {
-const QString kvhSzuro = QStringLiteral("Kvh files (*.kvh)");
-}
-
 void TForm1::Mentes1Click() {
     allapot_.Modositott = false;
-    const QString fajl = parbeszed_->mentendo(this, kvhSzuro, qszoveg(KvhFajlNev(allapot_.Szemely)));
+    const QString fajl = parbeszed_->mentendo(this, kepletfajlSzuro, qszoveg(KvhFajlNev(allapot_.Szemely)));
     if (fajl.isEmpty()) return;
-    if (const auto hiba = KepletMentes(allapot_, szoveg(fajl))) parbeszed_->uzenet(this, qszoveg(*hiba));
-}
-
-void TForm1::Megnyitas1Click() {
-    allapot_.Modositott = false;
-    const QString fajl = parbeszed_->megnyitando(this, kvhSzuro);
-    if (fajl.isEmpty()) return;
-    const auto hiba = KepletMegnyitas(allapot_, *this, szoveg(fajl), [this] { ablakok_->form5.HangLink(); });
-    if (hiba) parbeszed_->uzenet(this, qszoveg(*hiba));
+    if (const auto hiba = KepletMentes(allapot_, szoveg(fajl)))
+        parbeszed_->uzenet(this, qszoveg(*hiba));
+    else
+        legutobbiFelvetel(fajl);
 }
 
 void TForm1::closeEvent(QCloseEvent* esemeny) {
@@ -154,7 +145,8 @@ void TForm1::datumosDirekcio(bool tercier) {
     form3.megmutat();
     if (allapot_.Megsem3) return;
 
-    felulet_->rajzol([&](QtVaszon& vaszon) { DatumosKiiras(vaszon, allapot_, form3.eredmeny()); });
+    kiirtTalalatok_ = form3.eredmeny();
+    felulet_->rajzol([&](QtVaszon& vaszon) { DatumosKiiras(vaszon, allapot_, *kiirtTalalatok_); });
     felulet_->megmutat();
 }
 

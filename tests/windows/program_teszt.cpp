@@ -9,7 +9,9 @@
 #include <QTemporaryDir>
 
 #include "aktivvalasz.h"
+#include "commands/kvhfajl.h"
 #include "windows/jelszotar.h"
+#include "windows/legutobbitar.h"
 #include "windows/program.h"
 
 namespace {
@@ -86,6 +88,21 @@ void bezar() {
         return;
     }
     QTimer::singleShot(10, &bezar);
+}
+
+/// Name of the chart on screen when the window was closed.
+QString latottNev;
+
+/// Closes the main window once it shows a chart from a file.
+void nevUtanBezar() {
+    for (QWidget* ablak : QApplication::topLevelWidgets()) {
+        const auto* foablak = qobject_cast<TForm1*>(ablak);
+        if (foablak == nullptr || panel(*foablak, 2) == "Most" || panel(*foablak, 2).isEmpty()) continue;
+        latottNev = panel(*foablak, 2).trimmed();
+        bezar();
+        return;
+    }
+    QTimer::singleShot(10, &nevUtanBezar);
 }
 
 }  // namespace
@@ -192,7 +209,52 @@ private slots:
         QCOMPARE(futas(ujJelszo), 1);
     }
 
+    void aHibasParancssorKettovelTerVissza() {
+        taroltJelszo("");
+        for (const QStringList& rossz : {QStringList{"--rossz"}, QStringList{"a.kvh", "b.kvh"},
+                                         QStringList{"/nincs/ilyen.kvh"}, QStringList{mappa_->path()}})
+            QCOMPARE(ProgramFutas(QStringList{"korvend"} + rossz), 2);
+        for (const char* jo : {"--help", "--version"}) QCOMPARE(ProgramFutas({"korvend", jo}), 0);
+    }
+
+    void aParancssorFajljaMegnyilik() {
+        taroltJelszo("");
+        const QString elozo = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(mappa_->path()));
+        kepletfajl("Örs.kvh");
+        QTimer::singleShot(10, &nevUtanBezar);
+        QCOMPARE(ProgramFutas({"korvend", "Örs.kvh"}), 0);
+        QCOMPARE(latottNev, "Minta Anna");
+        QCOMPARE(TLegutobbiTar(TLegutobbiTar::alapFajl()).fajlok(),
+                 QStringList{QDir::current().filePath("Örs.kvh")});
+        QDir::setCurrent(elozo);
+    }
+
+    void aParancssorFajljaElottJelszo() {
+        taroltJelszo("titok");
+        kepletfajl(mappa_->filePath("a.kvh"));
+        QTimer::singleShot(10, [] { sorban({regiJelszo("titok")}); });
+        QTimer::singleShot(20, &nevUtanBezar);
+        QCOMPARE(ProgramFutas({"korvend", mappa_->filePath("a.kvh")}), 0);
+        QCOMPARE(latottNev, "Minta Anna");
+    }
+
+    void aJelszoNelkulMaradtFajlNemNyilikMeg() {
+        taroltJelszo("titok");
+        kepletfajl(mappa_->filePath("a.kvh"));
+        QTimer::singleShot(10, [] { sorban({escape}); });
+        QCOMPARE(ProgramFutas({"korvend", mappa_->filePath("a.kvh")}), 0);
+        QVERIFY(TLegutobbiTar(TLegutobbiTar::alapFajl()).fajlok().isEmpty());
+    }
+
 private:
+    static void kepletfajl(const QString& fajl) {
+        Allapot a;
+        a.Szemely.nev = "Minta Anna";
+        a.Keplet.pillanat = {1975, 7, 21, 6, 4, 9};
+        QVERIFY(!KepletMentes(a, fajl.toStdString()));
+    }
+
     static int futas(const QStringList& argumentumok) {
         if (argumentumok == rendes) QTimer::singleShot(10, &bezar);
         return ProgramFutas(argumentumok);

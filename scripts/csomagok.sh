@@ -4,6 +4,8 @@ epites="g++ cmake ninja-build qt6-base-dev qt6-multimedia-dev qt6-translations-l
 teszt="tzdata libgtest-dev libbenchmark-dev libnova-dev liberfa-dev poppler-utils"
 fuzz="clang libclang-rt-14-dev"
 csomagolas="dpkg-dev file librsvg2-bin lintian desktop-file-utils appstream binutils"
+kereszt="g++-mingw-w64-x86-64-posix dpkg-dev nsis librsvg2-bin icoutils"
+keresztproba="wine wine64 xvfb openbox xdotool imagemagick poppler-utils"
 
 # Installs those of the named packages that are missing.
 telepit() {

@@ -1,11 +1,15 @@
 #pragma once
 
+#include <cstdio>
+
 #include <QApplication>
 #include <QEvent>
+#include <QFile>
 #include <QTimer>
 #include <QWidget>
 
-/// Ends the program when a widget has been painted for the first time.
+/// Ends the program when a widget has been painted for the first time; with KORVEND_MEMORIA set it writes
+/// the process's private memory then, in kB.
 class TElsoFestes : public QObject {
 public:
     explicit TElsoFestes(QWidget& ablak) { ablak.installEventFilter(this); }
@@ -13,7 +17,22 @@ public:
 private:
     bool eventFilter(QObject*, QEvent* esemeny) override {
         // Not quit(): that asks the windows first, and the main window asks the user.
-        if (esemeny->type() == QEvent::Paint) QTimer::singleShot(0, qApp, [] { QApplication::exit(); });
+        if (esemeny->type() == QEvent::Paint) QTimer::singleShot(0, qApp, [] { vege(); });
         return false;
+    }
+
+    static void vege() {
+        if (qEnvironmentVariableIsSet("KORVEND_MEMORIA")) std::printf("%lld\n", sajatMemoria());
+        QApplication::exit();
+    }
+
+    static long long sajatMemoria() {
+        QFile terkep("/proc/self/smaps_rollup");
+        long long osszes = 0;
+        if (!terkep.open(QIODevice::ReadOnly)) return osszes;
+        const QList<QByteArray> sorok = terkep.readAll().split('\n');
+        for (const QByteArray& sor : sorok)
+            if (sor.startsWith("Private_Dirty")) osszes += sor.simplified().split(' ').value(1).toLongLong();
+        return osszes;
     }
 };

@@ -1,13 +1,13 @@
 #include "windows/jelszotar.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QPasswordDigestor>
 #include <QRandomGenerator>
 #include <QSaveFile>
 #include <QStandardPaths>
+
+#include "windows/modulok.h"
 
 namespace {
 
@@ -18,8 +18,8 @@ constexpr int ismetlesek = 20000;  // some hundredths of a second a try
 const QByteArray nincsSor = "nincs";
 
 QByteArray kulcsSzamitas(const QString& jelszo, const QByteArray& so) {
-    return QPasswordDigestor::deriveKeyPbkdf2(QCryptographicHash::Sha256, jelszo.toUtf8(), so, ismetlesek,
-                                              kulcsHossz);
+    TKulcsModul* modul = kulcsModul();
+    return modul == nullptr ? QByteArray() : modul->kulcs(jelszo.toUtf8(), so, ismetlesek, kulcsHossz);
 }
 
 QByteArray ujSo() {
@@ -55,7 +55,8 @@ void TJelszoTar::olvas() {
 
 bool TJelszoTar::ment(const QString& jelszo) {
     so_ = ujSo();
-    kulcs_ = kulcsSzamitas(jelszo, so_);
+    kulcs_ = jelszo.isEmpty() ? QByteArray() : kulcsSzamitas(jelszo, so_);
+    if (!jelszo.isEmpty() && kulcs_.isEmpty()) return false;
     QDir().mkpath(QFileInfo(fajl_).absolutePath());
     QSaveFile ki(fajl_);
     if (!ki.open(QIODevice::WriteOnly)) return false;
@@ -68,5 +69,6 @@ bool TJelszoTar::ment(const QString& jelszo) {
 }
 
 bool TJelszoTar::egyezik(const QString& jelszo) const {
-    return allas_ == Allas::vanJelszo && kulcsSzamitas(jelszo, so_) == kulcs_;
+    TKulcsModul* modul = allas_ == Allas::vanJelszo ? kulcsModul() : nullptr;
+    return modul != nullptr && modul->azonos(kulcsSzamitas(jelszo, so_), kulcs_);
 }

@@ -17,6 +17,11 @@ QStringList sajatBetuMappak() {
     return helyek("fonts", "korvend/fonts");
 }
 
+QStringList sajatModulMappak() {
+    const QString alap = QCoreApplication::applicationDirPath();
+    return {alap, alap + "/" KORVEND_MODULOK};
+}
+
 QString kezikonyvFajl() {
     for (const QString& mappa : helyek("doc", "doc/korvend"))
         if (const QString fajl = mappa + "/kezikonyv.html"; QFileInfo::exists(fajl)) return fajl;

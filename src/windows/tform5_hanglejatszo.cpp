@@ -2,12 +2,10 @@
 
 #include <utility>
 
-#include <QAudioOutput>
 #include <QDir>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QHideEvent>
-#include <QUrl>
 
 #include "chart/allapot.h"
 #include "commands/hang.h"
@@ -43,39 +41,41 @@ TForm5::TForm5(Allapot& allapot, FoAblak&, QWidget* fo) : QDialog(fo), allapot_(
     QPushButton* szunet = ujGomb(this, "Szunet1", "▮▮");
     QPushButton* megallitas = ujGomb(this, "Megallitas1", "■");
     for (QPushButton* g : {lejatszas, szunet, megallitas}) sor->addWidget(g);
-    connect(lejatszas, &QPushButton::clicked, this, [this] { lejatszo().play(); });
-    connect(szunet, &QPushButton::clicked, this, [this] { lejatszo().pause(); });
-    connect(megallitas, &QPushButton::clicked, this, [this] { lejatszo().stop(); });
+    connect(lejatszas, &QPushButton::clicked, this, [this] { gombra(&TLejatszo::lejatszas); });
+    connect(szunet, &QPushButton::clicked, this, [this] { gombra(&TLejatszo::szunet); });
+    connect(megallitas, &QPushButton::clicked, this, [this] { gombra(&TLejatszo::megallitas); });
     setFixedSize(lejatszoMeret);
 }
 
-QMediaPlayer& TForm5::lejatszo() {
-    if (lejatszo_ != nullptr) return *lejatszo_;
-    lejatszo_ = new QMediaPlayer(this);
-    lejatszo_->setObjectName("MediaPlayer1");
-    lejatszo_->setAudioOutput(new QAudioOutput(lejatszo_));
-    connect(lejatszo_, &QMediaPlayer::errorOccurred, this, &TForm5::hiba);
-    return *lejatszo_;
+TLejatszo* TForm5::lejatszo() {
+    if (lejatszo_ != nullptr) return lejatszo_;
+    if (THangModul* hang = modul())
+        lejatszo_ = hang->ujLejatszo(*this, [this](int kod, const QString& szoveg) { hiba(kod, szoveg); });
+    else if (parbeszed_ != nullptr)
+        parbeszed_->uzenet(this, "A hang lejátszásához hiányzik a Qt Multimedia hangkönyvtár.");
+    return lejatszo_;
+}
+
+void TForm5::gombra(void (TLejatszo::*muvelet)()) {
+    if (TLejatszo* hang = lejatszo()) (hang->*muvelet)();
 }
 
 void TForm5::HangLink() {
     const std::string fajl = hangFajl(allapot_.Szemely.nev);
     if (!VanHang(allapot_.Szemely) || fajl.empty()) return;
-    lejatszo().stop();
-    lejatszo().setSource(QUrl());
+    if (lejatszo_ != nullptr) lejatszo_->ures();
     hibaJelezve_ = false;
-    lejatszo().setSource(QUrl::fromLocalFile(qszoveg(fajl)));
-    lejatszo().play();
     felulKozepre(*this, *fo_);
     show();
     allapot_.HangCim = allapot_.Szemely.nev + "   ";
     allapot_.HangAktiv = true;
+    if (TLejatszo* hang = lejatszo()) hang->ujFajl(qszoveg(fajl));
 }
 
 void TForm5::hideEvent(QHideEvent* esemeny) {
     QDialog::hideEvent(esemeny);
     // A spontaneous event is a minimized window, which plays on.
-    if (lejatszo_ != nullptr && !esemeny->spontaneous()) lejatszo_->stop();
+    if (lejatszo_ != nullptr && !esemeny->spontaneous()) lejatszo_->megallitas();
 }
 
 void TForm5::hiba(int kod, const QString& szoveg) {

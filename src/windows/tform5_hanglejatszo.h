@@ -1,13 +1,14 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include <QDialog>
-#include <QMediaPlayer>
 #include <QPushButton>
 
 #include "chart/allapot.h"
 #include "chart/foablak.h"
+#include "windows/modulok.h"
 #include "windows/parbeszed.h"
 
 /// Sound player: play, pause and stop for the sound of a chart. It stays open until the user closes it.
@@ -23,9 +24,13 @@ public:
     /// happens, and a sound that runs goes on.
     void HangLink();
 
+    /// Where the sound module comes from; a test may put its own in place.
+    std::function<THangModul*()> modul = hangModul;
+
 private:
-    /// The player; made at the first sound, since most charts have none and it loads the media system.
-    QMediaPlayer& lejatszo();
+    /// The player, made at the first sound; nullptr where the sound library is missing, which it then says.
+    TLejatszo* lejatszo();
+    void gombra(void (TLejatszo::*muvelet)());
     void hiba(int kod, const QString& szoveg);
     /// However the window is closed, the sound ends with it.
     void hideEvent(QHideEvent* esemeny) override;
@@ -33,6 +38,6 @@ private:
     Allapot& allapot_;
     QWidget* fo_;
     TParbeszed* parbeszed_ = nullptr;
-    QMediaPlayer* lejatszo_ = nullptr;
+    TLejatszo* lejatszo_ = nullptr;
     bool hibaJelezve_ = false;  ///< of the file that is open
 };

@@ -43,6 +43,17 @@ private slots:
         QVERIFY(!ujra.egyezik(""));
     }
 
+    /// Salt and key as PBKDF2-SHA256 of 20000 rounds gives them by another implementation.
+    void aRegiTarOlvashatoMarad() {
+        const QByteArray so = "000102030405060708090a0b0c0d0e0f ";
+        irj(so + "e56b29956dd8b07f2417d525765910fe7a121b7d8c20faf37e0f29e9a036a46a\n");
+        QVERIFY(TJelszoTar(tarFajl()).egyezik("titok"));
+        QVERIFY(!TJelszoTar(tarFajl()).egyezik("titol"));
+        irj(so + "889039a314c58aeaf7eb108dbd629963fbd7ef98e82fa075c2c42d4da6b689e1\n");
+        QVERIFY(TJelszoTar(tarFajl()).egyezik(u"árvíztűrő"_qs));
+        QVERIFY(!TJelszoTar(tarFajl()).egyezik("titok"));
+    }
+
     void ketUgyanolyanJelszoTaraKulonbozik() {
         const auto ujTar = [] {
             TJelszoTar(tarFajl()).ment("titok");

@@ -138,6 +138,27 @@ private slots:
         }
     }
 
+    void hangkonyvtarNelkulEgyMondatEsAzAblakLatszik() {
+        TFrissAblakok a;
+        TProbaParbeszed p;
+        a.form5.parbeszedBeallitasa(p);
+        a.form5.modul = [] { return nullptr; };
+        const QString mondat = "A hang lejátszásához hiányzik a Qt Multimedia hangkönyvtár.";
+        hangNyitasa(a, "Szép hang");
+        QCOMPARE(p.uzenetek, QStringList(mondat));
+        QVERIFY(a.form5.isVisible());
+        QVERIFY(a.allapot().HangAktiv);
+        kattint(a.form5, "Lejatszas1");
+        QCOMPARE(p.uzenetek, QStringList({mondat, mondat}));
+        QTest::keyClick(&a.form5, Qt::Key_Escape);
+        QVERIFY(!a.form5.isVisible());
+        a.form5.modul = hangModul;  // the library has been installed meanwhile
+        hangNyitasa(a, "Szép hang");
+        auto* lejatszo = a.form5.findChild<QMediaPlayer*>("MediaPlayer1");
+        QTRY_COMPARE(lejatszo->playbackState(), QMediaPlayer::PlayingState);
+        QCOMPARE(p.uzenetek.size(), 2);
+    }
+
     void aBezartLejatszoElhallgat() {
         TFrissAblakok a;
         TProbaParbeszed p;

@@ -1,12 +1,13 @@
 ; The installer of the Windows program: Hungarian, for one user, without an administrator's rights. epit gives VALTOZAT, MAPPA
 ; (what is installed), KI (the installer's name) and FAJLOK (the lists of what MAPPA holds).
+; A 64-bit program as the one it installs: where this does not start, that would not either.
+Target amd64-unicode
 Unicode true
 SetCompressor /SOLID lzma
 RequestExecutionLevel user
 ManifestDPIAware true
 
 !include MUI2.nsh
-!include x64.nsh
 !include FileFunc.nsh
 !include LogicLib.nsh
 !include "${FAJLOK}"
@@ -31,7 +32,14 @@ VIAddVersionKey /LANG=1038 "LegalCopyright" "MIT"
 !define MUI_ICON "${IKON}"
 !define MUI_UNICON "${IKON}"
 !define MUI_ABORTWARNING
-!define MUI_FINISHPAGE_RUN "$INSTDIR\korvend.exe"
+!define MUI_WELCOMEPAGE_TITLE "A Korvend ${VALTOZAT} telepítése"
+!define MUI_WELCOMEPAGE_TEXT "A Korvend születési és előrejelző horoszkópokat rajzol.$\r$\n$\r$\nA telepítéshez nem kell \
+rendszergazda: a program csak az Ön felhasználójának települ. A képletfájlokat (.kvh) ezután kettős kattintás nyitja \
+meg.$\r$\n$\r$\nHa a Korvend régebbi változata fut, előbb zárja be."
+!define MUI_FINISHPAGE_TITLE "A Korvend települt"
+!define MUI_FINISHPAGE_TEXT "A program a Start menüből indul."
+!define MUI_FINISHPAGE_RUN
+!define MUI_FINISHPAGE_RUN_FUNCTION Inditas
 !define MUI_FINISHPAGE_RUN_TEXT "A Korvend indítása"
 !define MUI_FINISHPAGE_SHOWREADME "$INSTDIR\doc\kezikonyv.html"
 !define MUI_FINISHPAGE_SHOWREADME_TEXT "A kézikönyv megnyitása"
@@ -45,8 +53,7 @@ VIAddVersionKey /LANG=1038 "LegalCopyright" "MIT"
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE "Hungarian"
 
-; Exit codes of a silent run.
-!define NEM_64_BITES 3
+; Exit code of a silent run.
 !define FUT_A_PROGRAM 4
 
 !macro Frissites
@@ -73,12 +80,9 @@ FunctionEnd
 !insertmacro NeFusson ""
 !insertmacro NeFusson "un."
 
-Function .onInit
-  ${IfNot} ${RunningX64}
-    MessageBox MB_OK|MB_ICONSTOP "A Korvendhez 64 bites Windows kell." /SD IDOK
-    SetErrorLevel ${NEM_64_BITES}
-    Quit
-  ${EndIf}
+Function Inditas
+  SetOutPath "$DOCUMENTS"
+  Exec '"$INSTDIR\korvend.exe"'
 FunctionEnd
 
 Section "Korvend"

@@ -15,8 +15,13 @@ foreach(ikon korvend application-x-korvend)
       VERBATIM)
     list(APPEND kepek ${kep})
   endforeach()
-  add_custom_command(OUTPUT ${ikonok}/${ikon}.ico COMMAND ${ICOTOOL} --create --output ${ikonok}/${ikon}.ico ${kepek}
-    DEPENDS ${kepek} VERBATIM)
+  # The largest one is kept packed within the icon.
+  list(POP_BACK kepek nagy)
+  add_custom_command(
+    OUTPUT ${ikonok}/${ikon}.ico
+    COMMAND ${ICOTOOL} --create --output ${ikonok}/${ikon}.ico ${kepek} --raw=${nagy}
+    DEPENDS ${kepek} ${nagy}
+    VERBATIM)
   list(APPEND ikonfajlok ${ikonok}/${ikon}.ico)
 endforeach()
 

@@ -31,6 +31,7 @@ VIAddVersionKey /LANG=1038 "LegalCopyright" "MIT"
 
 !define MUI_ICON "${IKON}"
 !define MUI_UNICON "${IKON}"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${NSISDIR}\Contrib\Graphics\Wizard\nsis3-grey.bmp"
 !define MUI_ABORTWARNING
 !define MUI_WELCOMEPAGE_TITLE "A Korvend ${VALTOZAT} telepítése"
 !define MUI_WELCOMEPAGE_TEXT "A Korvend születési és előrejelző horoszkópokat rajzol.$\r$\n$\r$\nA telepítéshez nem kell \

@@ -35,21 +35,28 @@ public:
         const QString nyitas = QStringLiteral("open \"%1\" type mpegvideo alias korvend_hang")
                                    .arg(QDir::toNativeSeparators(fajl));
         nyitva_ = parancs(nyitas);
+        szunetel_ = false;
         if (nyitva_) lejatszas();
     }
+    /// From the beginning, or from where it was held.
     void lejatszas() override {
         if (!nyitva_) return;
+        if (std::exchange(szunetel_, false)) {
+            parancs("resume korvend_hang");
+            return;
+        }
         if (valasz("status korvend_hang position") == valasz("status korvend_hang length"))
             kuld("seek korvend_hang to start");
         parancs("play korvend_hang");
     }
     void szunet() override {
-        if (nyitva_) kuld("pause korvend_hang");
+        if (nyitva_) szunetel_ = kuld("pause korvend_hang") == 0;
     }
     void megallitas() override {
         if (!nyitva_) return;
         kuld("stop korvend_hang");
         kuld("seek korvend_hang to start");
+        szunetel_ = false;
     }
 
 private:
@@ -74,6 +81,7 @@ private:
 
     std::function<void(int, const QString&)> hiba_;
     bool nyitva_ = false;
+    bool szunetel_ = false;
 };
 
 }  // namespace

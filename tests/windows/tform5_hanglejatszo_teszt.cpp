@@ -151,6 +151,25 @@ private slots:
         QVERIFY(p.uzenetek.isEmpty());
     }
 
+    void aSzunetUtanOnnanFolytatja() {
+        TFrissAblakok a;
+        TProbaParbeszed p;
+        a.form5.parbeszedBeallitasa(p);
+        hangNyitasa(a, "Hosszú hang");
+        QTRY_VERIFY(helye(a.form5) > 500);
+        kattint(a.form5, "Szunet1");
+        QTRY_COMPARE(jatek(a.form5), TJatek::szunetel);
+        const qint64 itt = helye(a.form5);
+        QVERIFY(itt > 500);
+        kattint(a.form5, "Lejatszas1");
+        QTRY_COMPARE(jatek(a.form5), TJatek::megy);
+        QTRY_VERIFY(helye(a.form5) > 0);
+        QVERIFY(helye(a.form5) >= itt);
+        kattint(a.form5, "Megallitas1");
+        QTRY_COMPARE(helye(a.form5), 0);
+        QVERIFY(p.uzenetek.isEmpty());
+    }
+
     void jelVagyFajlNelkulSemmi() {
         TFrissAblakok a;
         a.allapot().Szemely.nev = "Szép hang";

@@ -5,6 +5,8 @@ epites="g++ cmake ninja-build qt6-base-dev libssl-dev qt6-multimedia-dev qt6-tra
 teszt="tzdata libgtest-dev libbenchmark-dev libnova-dev liberfa-dev libswe-dev poppler-utils clang libclang-rt-14-dev clang-tidy"
 fuzz="clang libclang-rt-14-dev"
 csomagolas="dpkg-dev file librsvg2-bin lintian desktop-file-utils appstream binutils"
+kereszt="g++-mingw-w64-x86-64-posix dpkg-dev nsis librsvg2-bin icoutils"
+keresztproba="wine wine64 xvfb openbox xdotool imagemagick poppler-utils"
 
 # Ends the script with one sentence.
 vege() {

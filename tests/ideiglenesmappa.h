@@ -22,26 +22,31 @@ public:
 
     const std::filesystem::path& ut() const { return mappa_; }
     /// @param fajl  name in UTF-8
-    std::filesystem::path operator/(std::string_view fajl) const {
-        return mappa_ / std::filesystem::path(std::u8string(fajl.begin(), fajl.end()));
-    }
-    std::string fajl(const std::string& nev) const { return (mappa_ / nev).string(); }
+    std::filesystem::path operator/(std::string_view fajl) const { return mappa_ / ut(fajl); }
+    std::string fajl(const std::string& nev) const { return nevBol(mappa_ / ut(nev)); }
     void irj(const std::string& nev, const std::string& tartalom) const {
-        std::ofstream(fajl(nev), std::ios::binary) << tartalom;
+        std::ofstream(mappa_ / ut(nev), std::ios::binary) << tartalom;
     }
     std::string olvasd(const std::string& nev) const {
-        std::ifstream be(fajl(nev), std::ios::binary);
+        std::ifstream be(mappa_ / ut(nev), std::ios::binary);
         return {std::istreambuf_iterator<char>(be), {}};
     }
     /// All that lies in the folder, hidden files too.
     std::vector<std::string> tartalma() const {
         std::vector<std::string> nevek;
         for (const auto& elem : std::filesystem::directory_iterator(mappa_))
-            nevek.push_back(elem.path().filename().string());
+            nevek.push_back(nevBol(elem.path().filename()));
         return nevek;
     }
 
 private:
+    /// Names are UTF-8 whatever the system's own are.
+    static std::filesystem::path ut(std::string_view nev) { return std::u8string(nev.begin(), nev.end()); }
+    static std::string nevBol(const std::filesystem::path& ut) {
+        const std::u8string nev = ut.generic_u8string();
+        return {nev.begin(), nev.end()};
+    }
+
     std::filesystem::path mappa_;
 };
 

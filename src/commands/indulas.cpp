@@ -17,7 +17,7 @@ namespace {
 
 bool fajlVan(const std::string& fajl) {
     std::error_code hiba;
-    return std::filesystem::exists(fajl, hiba);
+    return std::filesystem::exists(FajlUt(fajl), hiba);
 }
 
 void cimekOlvasasa(Allapot& allapot) {

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <random>
+#include <string>
 #include <system_error>
 
 #ifdef _WIN32
@@ -52,16 +53,21 @@ bool irhato(const fs::path& fajl) {
 
 }  // namespace
 
+fs::path FajlUt(std::string_view nev) {
+    return std::u8string(nev.begin(), nev.end());
+}
+
 std::ifstream OlvasasraNyit(const std::string& fajl) {
     std::error_code hiba;
-    if (!fs::is_regular_file(fajl, hiba)) return {};
-    return std::ifstream(fajl, std::ios::binary);
+    const fs::path ut = FajlUt(fajl);
+    if (!fs::is_regular_file(ut, hiba)) return {};
+    return std::ifstream(ut, std::ios::binary);
 }
 
 bool FajlIras(const std::string& fajl, std::string_view tartalom) {
     std::error_code hiba;
-    fs::path cel = fs::canonical(fajl, hiba);
-    if (hiba) cel = fajl;
+    fs::path cel = fs::canonical(FajlUt(fajl), hiba);
+    if (hiba) cel = FajlUt(fajl);
     const fs::file_status regi = fs::status(cel, hiba);
     if (fs::exists(regi) && (!fs::is_regular_file(regi) || !irhato(cel))) return false;
 

@@ -1,8 +1,13 @@
 #pragma once
 
+#include <filesystem>
 #include <fstream>
 #include <string>
 #include <string_view>
+
+/// A file name, UTF-8 as all texts of the program, as the system's own path. A narrow name would be read in
+/// the code page of the machine where that is not UTF-8.
+std::filesystem::path FajlUt(std::string_view nev);
 
 /// Opens a file for reading bytes. Only a regular file, or a link to one, opens: a pipe would keep the
 /// program waiting for whoever writes into it, and a device may never end.

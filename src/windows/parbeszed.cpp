@@ -162,6 +162,13 @@ std::optional<QString> TParbeszed::titok(QWidget* szulo, const QString& cim, con
 }
 
 bool TParbeszed::nyomtatoBeallitas(QWidget* szulo, QPrinter& nyomtato) {
+#ifdef Q_OS_WIN
+    // The system's dialog only says that there is no printer, and has no PDF file to choose.
+    if (!vanNyomtato()) {
+        nyomtato.setOutputFormat(QPrinter::PdfFormat);
+        return true;
+    }
+#endif
     QPrintDialog dialogus(&nyomtato, szulo);
     dialogus.setWindowTitle("Nyomtatóbeállítás");
     if (auto* gombok = dialogus.findChild<QDialogButtonBox*>())

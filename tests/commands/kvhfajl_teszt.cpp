@@ -187,10 +187,11 @@ TEST_F(TKvh, HibaUtanAMarOlvasottMarad) {
 }
 
 TEST_F(TKvh, MappaEsHianyzoFajl) {
-    hibasOlvasas(mappa.ut().string());
+    hibasOlvasas(mappa.fajl(""));
     hibasOlvasas(fajl("nincs.kvh"));
 }
 
+#ifndef _WIN32
 TEST_F(TKvh, ACsovezetekEsAzEszkozOlvasasiHiba) {
     const TCsovezetek cso(fajl("cso.kvh"));
     ASSERT_TRUE(cso.van());
@@ -207,6 +208,7 @@ TEST_F(TKvh, AHivatkozasonAtIsOlvas) {
     EXPECT_FALSE(KepletMegnyitas(a, ablak, fajl("b.kvh"), [] {}));
     EXPECT_EQ(a.Szemely.nev, "Őrző Árpád");
 }
+#endif
 
 TEST_F(TKvh, AMegnyitasElsoNezetetAd) {
     ASSERT_FALSE(KepletMentes(minta(), fajl()));
@@ -223,6 +225,7 @@ TEST_F(TKvh, AMegnyitasElsoNezetetAd) {
     }
 }
 
+#ifndef _WIN32
 TEST_F(TKvh, ASikertelenMentesARegitHagyja) {
     ASSERT_FALSE(KepletMentes(minta(1), fajl()));
     const std::string regi = olvasd();
@@ -235,6 +238,7 @@ TEST_F(TKvh, ASikertelenMentesARegitHagyja) {
     EXPECT_EQ(olvasd(), regi);
     EXPECT_EQ(mappa.tartalma(), std::vector<std::string>{"a.kvh"});
 }
+#endif
 
 TEST_F(TKvh, AJavasoltNevMindigSimaFajlnev) {
     TSzemely sz;
@@ -248,7 +252,7 @@ TEST_F(TKvh, AJavasoltNevMindigSimaFajlnev) {
 }
 
 TEST_F(TKvh, AzIrasHibai) {
-    for (const std::string& hova : {std::string("/dev/full"), mappa.ut().string(), fajl("nincs/a.kvh")}) {
+    for (const std::string& hova : {std::string("/dev/full"), mappa.fajl(""), fajl("nincs/a.kvh")}) {
         const TKvhHiba hiba = KepletMentes(minta(3), hova);
         ASSERT_TRUE(hiba) << hova;
         EXPECT_EQ(*hiba, "File írási hiba!");

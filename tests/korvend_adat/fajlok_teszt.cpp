@@ -6,6 +6,7 @@
 
 #include "adatteszt.h"
 #include "fajlok.h"
+#include "files/fajlmuvelet.h"
 
 namespace {
 
@@ -66,12 +67,12 @@ TEST(FajlNevek, SokAzonosNevIsGyors) {
 }
 
 TEST(Fajlok, AzUtvonalEsASzovegeUtf8) {
-    EXPECT_EQ(UtvonalSzoveg(Utvonal("Őrült tűzhely/漢.kvh")), "Őrült tűzhely/漢.kvh");
-    EXPECT_EQ(Vegzodes(Utvonal("a/b.KVH")), ".kvh");
-    EXPECT_EQ(Vegzodes(Utvonal("a.b/c")), "");
+    EXPECT_EQ(UtvonalSzoveg(FajlUt("Őrült tűzhely/漢.kvh")), "Őrült tűzhely/漢.kvh");
+    EXPECT_EQ(Vegzodes(FajlUt("a/b.KVH")), ".kvh");
+    EXPECT_EQ(Vegzodes(FajlUt("a.b/c")), "");
     const TIdeiglenesMappa mappa;
     irj(mappa / "Őrült tűzhely.kvh", "tartalom");
-    EXPECT_EQ(FajlBajtok(Utvonal(mappa.ut().string() + "/Őrült tűzhely.kvh")), "tartalom");
+    EXPECT_EQ(FajlBajtok(FajlUt(mappa.ut().string() + "/Őrült tűzhely.kvh")), "tartalom");
 }
 
 TEST(Fajlok, AzOlvasas) {

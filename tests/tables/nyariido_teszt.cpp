@@ -175,6 +175,9 @@ TEST(NyariIdo, IdoszakNelkuliEvekben_Nincs) {
     EXPECT_EQ(NyariIdoE(2480556, 0, 0, 0), 0);
 }
 
+// The public time-zone table is asked through POSIX.
+#ifndef _WIN32
+
 /// Summer time at noon of a day by the public time-zone table.
 int kozismertNyariIdo(int julianszam) {
     TPillanat p;
@@ -216,5 +219,7 @@ TEST(NyariIdo, AKozismertIdozonatablatolOtIdoszakbanTerEl) {
     unsetenv("TZ");
     tzset();
 }
+
+#endif
 
 }  // namespace

@@ -32,9 +32,11 @@ private slots:
         QVERIFY(!tartalom.contains("titok"));
         QVERIFY(!tartalom.contains(QByteArray("titok").toHex()));
         QVERIFY(!tartalom.contains(QByteArray("titok").toBase64()));
+#ifndef Q_OS_WIN  // there the user's folder itself is closed to others
         QCOMPARE(
             be.permissions() & (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther),
             QFile::Permissions());
+#endif
         const TJelszoTar ujra(tarFajl());
         QVERIFY(ujra.egyezik("titok"));
         QVERIFY(!ujra.egyezik("titkos"));

@@ -6,6 +6,7 @@
 #include "commands/lepteto.h"
 #include "events/analogia.h"
 #include "events/eletesemenyek.h"
+#include "files/fajlmuvelet.h"
 #include "muveletek.h"
 
 TJson lepesMuvelet(const TKerelem& kerelem) {
@@ -25,7 +26,7 @@ TJson lepesMuvelet(const TKerelem& kerelem) {
 
 TJson kvhOlvasMuvelet(const TKerelem& kerelem) {
     Allapot allapot;
-    std::ifstream be(fajlMezo(kerelem, "fajl"), std::ios::binary);
+    std::ifstream be(FajlUt(fajlMezo(kerelem, "fajl")), std::ios::binary);
     if (const TKvhHiba hiba = KepletBeolvasas(allapot, be)) throw THiba(*hiba);
     TJson esemenyek = TJson::array();
     for (int i = 1; i <= allapot.Esemenyek.EsemenyDb; ++i)
@@ -58,7 +59,7 @@ TJson kvhIrMuvelet(const TKerelem& kerelem) {
     const std::string fajl = fajlMezo(kerelem, "fajl");
     if (const TKvhHiba hiba = KepletMentes(allapot, fajl)) throw THiba(*hiba);
     std::error_code baj;
-    const auto meret = std::filesystem::file_size(fajl, baj);
+    const auto meret = std::filesystem::file_size(FajlUt(fajl), baj);
     return {{"meret", baj ? 0 : meret}};
 }
 

@@ -2,8 +2,9 @@
 
 #include <iostream>
 #include <string>
-#include <string_view>
+#include <vector>
 
+#include "parancssor.h"
 #include "tablak.h"
 #include "valasz.h"
 
@@ -19,10 +20,12 @@ int feldolgozas() {
 
 int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
-    if (argc == 1) return feldolgozas();
-    if (argc == 3 && std::string_view(argv[1]) == "--tablak") {
-        if (tablakIrasa(argv[2])) return 0;
-        std::cerr << "A táblák nem írhatók ide: " << argv[2] << '\n';
+    BinarisBeKimenet();
+    const std::vector<std::string> argumentumok = Argumentumok(argc, argv);
+    if (argumentumok.empty()) return feldolgozas();
+    if (argumentumok.size() == 2 && argumentumok[0] == "--tablak") {
+        if (tablakIrasa(argumentumok[1])) return 0;
+        std::cerr << "A táblák nem írhatók ide: " << argumentumok[1] << '\n';
         return 1;
     }
     std::cerr << "Használat: keplet-json [--tablak MAPPA]\n";

@@ -3,6 +3,7 @@
 #include <fstream>
 #include <vector>
 
+#include "files/fajlmuvelet.h"
 #include "tables/efemerida.h"
 #include "tables/haztablak.h"
 #include "tables/nyariido.h"
@@ -13,7 +14,7 @@ namespace {
 /// A file of raw little-endian numbers.
 class TSzamFajl {
 public:
-    explicit TSzamFajl(const std::string& fajl) : ki_(fajl, std::ios::binary) {}
+    explicit TSzamFajl(const std::string& fajl) : ki_(FajlUt(fajl), std::ios::binary) {}
 
     void ir(std::int32_t szam) {
         const auto u = static_cast<std::uint32_t>(szam);
@@ -63,7 +64,7 @@ bool nyariIras(const std::string& fajl) {
 }
 
 bool telepulesIras(const std::string& fajl) {
-    std::ofstream ki(fajl, std::ios::binary);
+    std::ofstream ki(FajlUt(fajl), std::ios::binary);
     ki << "nev\tszelesseg\thosszusag\n";
     for (const TTelepules& t : Telepulesek) ki << t.nev << '\t' << t.szelesseg << '\t' << t.hosszusag << '\n';
     return static_cast<bool>(ki.flush());

@@ -11,6 +11,7 @@
 #include "files/aaf.h"
 #include "files/adatellenorzes.h"
 #include "files/csv.h"
+#include "files/fajlmuvelet.h"
 #include "files/kodlap1250.h"
 #include "kvhfajlok.h"
 
@@ -163,7 +164,7 @@ private:
         TFajlNevek nevek;
         std::size_t irt = 0;
         for (const TForrasLap& f : lapok) {
-            const fs::path ut = parancs_.ki / Utvonal(nevek.uj(f.lap.keplet.adat.nev) + ".kvh");
+            const fs::path ut = parancs_.ki / FajlUt(nevek.uj(f.lap.keplet.adat.nev) + ".kvh");
             if (kvhFajl(f, ut)) ++irt;
         }
         return irt;

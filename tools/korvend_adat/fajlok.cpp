@@ -12,10 +12,6 @@
 
 namespace fs = std::filesystem;
 
-fs::path Utvonal(std::string_view utf8) {
-    return fs::path(std::u8string(utf8.begin(), utf8.end()));
-}
-
 std::string UtvonalSzoveg(const fs::path& ut) {
     const std::u8string utf8 = ut.u8string();
     return {utf8.begin(), utf8.end()};

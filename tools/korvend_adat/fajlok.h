@@ -8,9 +8,9 @@
 #include <string_view>
 #include <utility>
 
-/// Files and their names. A name inside the program is UTF-8, on the disk what the system makes of it.
+/// Files and their names.
 
-std::filesystem::path Utvonal(std::string_view utf8);
+/// The way back from `FajlUt`.
 std::string UtvonalSzoveg(const std::filesystem::path& ut);
 
 /// Ending of a file name in small letters, with its dot.

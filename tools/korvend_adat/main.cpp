@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "atalakitas.h"
+#include "parancssor.h"
 
 namespace {
 
@@ -36,7 +37,7 @@ int futas(const std::vector<std::string>& szavak) {
 
 int main(int argc, char** argv) {
     try {
-        return futas({argv + 1, argv + argc});
+        return futas(Argumentumok(argc, argv));
     } catch (const THasznalatHiba& hiba) {
         std::cerr << "korvend-adat: " << hiba.what() << "\nSúgó: korvend-adat --help\n";
         return 2;

@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "fajlok.h"
+#include "files/fajlmuvelet.h"
 
 namespace fs = std::filesystem;
 
@@ -89,8 +90,8 @@ public:
         while (hely_ < szavak_.size()) szo(szavak_[hely_++]);
         if (p_.sugo || p_.verzio) return p_;
         if (utak_.size() != 2) throw THasznalatHiba("két név kell: MIBŐL és MIBE");
-        p_.be = Utvonal(utak_[0]);
-        p_.ki = Utvonal(utak_[1]);
+        p_.be = FajlUt(utak_[0]);
+        p_.ki = FajlUt(utak_[1]);
         if (p_.be.empty() || p_.ki.empty()) throw THasznalatHiba("a név nem lehet üres");
         p_.beFormatum = beFormatum(p_.be, be_);
         p_.kiFormatum = kiFormatum(p_.ki, ki_);

@@ -2,7 +2,7 @@
 # by run, test, package and the CI.
 
 epites="g++ cmake ninja-build qt6-base-dev libssl-dev qt6-multimedia-dev qt6-translations-l10n gstreamer1.0-plugins-base gstreamer1.0-plugins-good cmark-gfm nlohmann-json3-dev fonts-dejavu-core fonts-liberation"
-teszt="tzdata libgtest-dev libbenchmark-dev libnova-dev liberfa-dev libswe-dev poppler-utils clang libclang-rt-14-dev clang-tidy"
+teszt="tzdata libgtest-dev libbenchmark-dev libnova-dev liberfa-dev libswe-dev poppler-utils librsvg2-bin clang libclang-rt-14-dev clang-tidy"
 fuzz="clang libclang-rt-14-dev"
 csomagolas="dpkg-dev file librsvg2-bin lintian desktop-file-utils appstream binutils"
 kereszt="g++-mingw-w64-x86-64-posix dpkg-dev nsis librsvg2-bin icoutils"

@@ -14,6 +14,7 @@
 #include "windows/kepernyo.h"
 #include "windows/legutobbitar.h"
 #include "windows/parbeszed.h"
+#include "windows/programikon.h"
 #include "windows/qszoveg.h"
 #include "windows/tform11_jelszo.h"
 #include "windows/tform1_foablak.h"
@@ -47,6 +48,7 @@ int ProgramFutas(const QStringList& argumentumok) {
     TParbeszed& parbeszed = ablakok.form1.parbeszed();
     if (parancs.fajta == TParancsFajta::ujJelszo) return ablakok.form11.jelszoCsere(parbeszed) ? 0 : 1;
     if (ablakok.form11.elsoFutas()) ablakok.form11.ujJelszoKeres(parbeszed);
+    QApplication::setWindowIcon(programIkon());
     kepernyohozIgazit(ablakok.form1);
     ablakok.form1.show();
     if (!parancs.fajl.empty())

@@ -126,9 +126,7 @@ void TForm1::panelEpites() {
     memo1_ = new QPlainTextEdit(panel1_);
     memo1_->setObjectName("Memo1");
     memo1_->setFocusPolicy(Qt::ClickFocus);
-    QPalette szinek = memo1_->palette();
-    szinek.setColor(QPalette::Base, szinek.color(QPalette::Button));
-    memo1_->setPalette(szinek);
+    memo1_->viewport()->setBackgroundRole(QPalette::Button);
     memo1_->installEventFilter(this);
     memo1_->viewport()->installEventFilter(this);
     memoHely();

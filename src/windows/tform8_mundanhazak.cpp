@@ -6,6 +6,7 @@
 #include "rectify/mundankereses.h"
 #include "tables/szotar.h"
 #include "windows/ablakelhelyezes.h"
+#include "windows/jelzoszin.h"
 #include "windows/keresesfigyelo.h"
 #include "windows/qszoveg.h"
 #include "windows/vezerlok.h"
@@ -164,7 +165,7 @@ void TForm8::verdiktMutatasa(char AnalogiaAllapot) {
     label4szoveg2_->setText(qszoveg(v.szoveg2));
     for (QLabel* felirat : {label3szoveg1_, label4szoveg2_}) {
         QPalette szinek = felirat->palette();
-        szinek.setColor(QPalette::WindowText, v.szin == VerdiktSzin::kek ? Qt::blue : Qt::red);
+        szinek.setColor(QPalette::WindowText, jelzoSzin(v.szin, szinek));
         felirat->setPalette(szinek);
     }
 }

@@ -140,9 +140,19 @@ private slots:
 
     void aPanelenNincsAKerekMenuje() {
         TAtadas t;
+        bool nyilt = false;
+        QTimer ismet;
+        connect(&ismet, &QTimer::timeout, this, [&nyilt] {
+            if (QApplication::activePopupWidget() == nullptr) return;
+            nyilt = true;
+            QApplication::activePopupWidget()->close();
+        });
+        ismet.start(20);
         t.jobbKattintas(*vezerlo<QFrame>(t.a.form1, "Panel1"));
         t.jobbKattintas(*vezerlo<QWidget>(t.a.form1, "StatusBar1"));
-        QVERIFY(QApplication::activePopupWidget() == nullptr);
+        QVERIFY(!nyilt);
+        t.jobbKattintas(t.felulet());
+        QVERIFY(nyilt);
     }
 
     void aKepekFajlba() {

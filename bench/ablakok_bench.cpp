@@ -18,7 +18,7 @@ void NezetRajzolasa(benchmark::State& allas) {
     Allapot& allapot = ablak.allapot();
     allapot.KepletTipus = static_cast<TKepletTipus>(allas.range(0));
     QPixmap felulet(1600, 1000);
-    for ([[maybe_unused]] auto _ : allas) {
+    for (auto _ : allas) {
         felulet.fill(Qt::white);
         AblakGeometria(allapot.Rajz, allapot.Keplet.hazCsucs[1], felulet.width(), felulet.height());
         QPainter festo(&felulet);
@@ -32,7 +32,7 @@ void NyugalmiOrajel(benchmark::State& allas) {
     TAblakok ablakok;
     ablakok.form1.show();
     ablakok.form1.allapot().MostFut = false;
-    for ([[maybe_unused]] auto _ : allas) ablakok.form1.Timer1Timer();
+    for (auto _ : allas) ablakok.form1.Timer1Timer();
 }
 BENCHMARK(NyugalmiOrajel)->Unit(benchmark::kMicrosecond);
 

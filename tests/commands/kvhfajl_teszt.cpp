@@ -156,7 +156,7 @@ TEST_F(TKvh, AzEsemenySzamHataranTulOlvasasiHiba) {
         TKvhRekord r;
         r.esemenySzam = szam;
         const TKvhBajtok b = KvhKodolas(r);
-        irj(std::string(b.begin(), b.end()) + std::string(628U * 30, '\0'));
+        irj(std::string(b.begin(), b.end()) + std::string(std::size_t{628} * 30, '\0'));
         hibasOlvasas(fajl());
     }
 }

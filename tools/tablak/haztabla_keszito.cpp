@@ -118,10 +118,11 @@ TOszlop ferdeTabla() {
 }
 
 std::size_t hazCella(int szelesseg, int ramc, int oszlop) {
-    return static_cast<std::size_t>(((szelesseg - elsoSzelesseg) * 361 + ramc) * 5 + oszlop);
+    return (static_cast<std::size_t>(szelesseg - elsoSzelesseg) * 361 + static_cast<std::size_t>(ramc)) * 5 +
+           static_cast<std::size_t>(oszlop);
 }
 std::size_t ferdeCella(int szelesseg, int sor) {
-    return static_cast<std::size_t>((szelesseg - elsoSzelesseg) * 361 + sor);
+    return static_cast<std::size_t>(szelesseg - elsoSzelesseg) * 361 + static_cast<std::size_t>(sor);
 }
 
 bool iras(const std::string& fajl, const TOszlop& szamok, std::size_t soronkent) {

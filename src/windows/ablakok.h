@@ -1,5 +1,6 @@
 #pragma once
 
+#include "windows/sugok.h"
 #include "windows/tform10_eletesemenyek.h"
 #include "windows/tform11_jelszo.h"
 #include "windows/tform12_primer.h"
@@ -19,6 +20,8 @@
 /// program runs and are only shown and hidden.
 struct TAblakok {
     TAblakok();
+
+    TSugok sugok;  ///< of all that follow
 
     TForm1 form1;
     TForm2 form2{form1.allapot(), form1, &form1};

@@ -7,7 +7,7 @@
 #include "predictive/jelsorok.h"
 #include "windows/qszoveg.h"
 
-TJelSzoveg::TJelSzoveg(QWidget* szulo) : QLabel(szulo) {
+TJelSzoveg::TJelSzoveg(QWidget* szulo) : TJelCimke(szulo) {
     setTextFormat(Qt::PlainText);
     setFocusPolicy(Qt::StrongFocus);  // its text is copied from here
 }

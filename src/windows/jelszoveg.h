@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QLabel>
+#include "windows/jelolvasas.h"
 
 /// A label for a text of symbol letters, which has no words: it is broken into lines between the hits.
-class TJelSzoveg : public QLabel {
+class TJelSzoveg : public TJelCimke {
     Q_OBJECT
 
 public:

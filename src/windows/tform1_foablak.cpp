@@ -23,6 +23,7 @@
 #include "windows/ablakok.h"
 #include "windows/betumappak.h"
 #include "windows/datumformatum.h"
+#include "windows/jelolvasas.h"
 #include "windows/modalisfelul.h"
 #include "windows/qszoveg.h"
 #include "windows/qtvaszon.h"
@@ -90,7 +91,7 @@ void TForm1::panelSorEpites(int sor) {
     constexpr std::array<const char*, 6> csucsFeliratok{"I", "2", "3", "X", "11", "12"};
     const int y = panelSorokTeteje + sor * panelSor.magassag;
     const auto uj = [&](int n, const QRect& hely) {
-        auto* felirat = new QLabel(panel1_);
+        auto* felirat = new TJelCimke(panel1_);
         felirat->setObjectName(QStringLiteral("Label%1").arg(n));
         felirat->setGeometry(hely);
         felirat->setAlignment(Qt::AlignCenter);

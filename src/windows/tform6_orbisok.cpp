@@ -7,6 +7,7 @@
 #include "tables/szotar.h"
 #include "tables/tomb.h"
 #include "windows/ablakelhelyezes.h"
+#include "windows/jelolvasas.h"
 #include "windows/qszoveg.h"
 #include "windows/vezerlok.h"
 
@@ -78,7 +79,7 @@ void TForm6::megmutat() {
 }
 
 void TForm6::cimkeEpites(const QString& szoveg, const QString& betutipus, int x, int y) {
-    auto* cimke = new QLabel(szoveg, this);
+    auto* cimke = new TJelCimke(szoveg, this);
     QFont betu(betutipus);
     betu.setPointSize(alapMeret);
     cimke->setFont(betu);

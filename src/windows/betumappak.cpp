@@ -1,5 +1,7 @@
 #include "windows/betumappak.h"
 
+#include <algorithm>
+
 #include <QDir>
 #include <QFont>
 #include <QFontDatabase>
@@ -18,13 +20,36 @@ std::vector<std::string> betuMappak() {
     return nevek;
 }
 
+namespace {
+
+/// What stands in for a face that is on no system, or not on this one. The labels of the wheel are laid out
+/// for faces of these widths.
+const QStringList& helyettesek(std::string_view nev) {
+    static const QStringList talpatlan{"Arial", "Liberation Sans"};
+    static const QStringList talpas{"Liberation Serif"};
+    static const QStringList nincs;
+    return nev == szovegFont ? talpatlan : nev == mozgasFont ? talpas : nincs;
+}
+
+}  // namespace
+
+/// The list of all families is asked once: a question for one of them looks through the system's aliases.
+QString betuCsalad(std::string_view nev) {
+    static const QStringList csaladok = QFontDatabase::families();
+    const QString sajat = qszoveg(nev);
+    const QStringList& sor = helyettesek(nev);
+    if (sor.isEmpty() || csaladok.contains(sajat)) return sajat;
+    const auto megvan =
+        std::find_if(sor.begin(), sor.end(), [](const QString& h) { return csaladok.contains(h); });
+    return megvan != sor.end() ? *megvan : sajat;
+}
+
 void sajatBetukBetoltese() {
     for (const QString& mappa : sajatBetuMappak())
         for (const QFileInfo& fajl : QDir(mappa).entryInfoList({"*.ttf"}, QDir::Files))
             QFontDatabase::addApplicationFont(fajl.absoluteFilePath());
-    // The text face's name is on no system. The labels of the wheel are laid out for a face of these widths;
-    // where none is there the system's default takes its place.
-    QFont::insertSubstitutions(qszoveg(szovegFont), {"Arial", "Liberation Sans"});
+    // For fonts that are made by the name: where no stand-in is there the system's default takes its place.
+    QFont::insertSubstitutions(qszoveg(szovegFont), helyettesek(szovegFont));
 }
 
 QStringList szimbolumFontok() {

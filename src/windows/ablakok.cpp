@@ -7,7 +7,8 @@
 namespace {
 
 /// The birth as it stands in the fields of the personal-data dialog.
-TSzuletes szuletes(const TForm2& form2) {
+TSzuletes szuletes(TForm2& form2) {
+    form2.elkeszites();
     const TSzemelyiAdatok m = form2.mezok();
     return {m.ido, m.nyariIdo, m.idozona, ivmasodpercre(m.hosszFok, m.hosszPerc)};
 }
@@ -36,7 +37,13 @@ TAblakok::TAblakok() {
         if (form13.isVisible()) form13.futtat();
     };
     // Over the open personal data the birth is what its fields say, over the rectification the chart's.
-    form2.eletesemenyek = [this, eletesemenyek] { eletesemenyek(form2.mezok()); };
+    form2.eletesemenyek = [this, eletesemenyek] {
+        form2.elkeszites();
+        eletesemenyek(form2.mezok());
+    };
     form13.eletesemenyek = [this, eletesemenyek] { eletesemenyek(SzemelyMezok(form1.allapot())); };
-    form12.pontositas = [this] { form13.megmutat(form7.height()); };
+    form12.pontositas = [this] {
+        form7.elkeszites();  // it stands below the stepper, shown or not
+        form13.megmutat(form7.height());
+    };
 }

@@ -1,15 +1,19 @@
 #include "windows/qtvaszon.h"
 
+#include <algorithm>
 #include <cmath>
+#include <functional>
+#include <map>
 #include <utility>
 
 #include <QFontMetrics>
 #include <QGlyphRun>
-#include <QHash>
 #include <QLineF>
 #include <QList>
 #include <QPaintDevice>
+#include <QRawFont>
 
+#include "windows/betumappak.h"
 #include "windows/qszoveg.h"
 
 namespace {
@@ -20,47 +24,71 @@ struct TBetukeszlet {
     double cellaArany;
 };
 
-const TBetukeszlet& betukeszlet(const QString& nev) {
-    static QHash<QString, TBetukeszlet> keszletek;
-    const auto megvan = keszletek.constFind(nev);
-    if (megvan != keszletek.constEnd()) return *megvan;
+const TBetukeszlet& betukeszlet(const std::string& nev) {
+    static std::map<std::string, TBetukeszlet> keszletek;
+    const auto megvan = keszletek.find(nev);
+    if (megvan != keszletek.end()) return megvan->second;
     constexpr int proba = 1000;  // pixels: large enough to be free of hinting
-    QFont betu(nev);
+    QFont betu(betuCsalad(nev));
     betu.setHintingPreference(QFont::PreferNoHinting);
     betu.setPixelSize(proba);
     const QRawFont nyers = QRawFont::fromFont(betu);
     const double arany = (nyers.ascent() + nyers.descent()) / proba;
-    return *keszletek.insert(nev, {nyers, arany > 0 ? arany : 1.0});
+    return keszletek.insert({nev, {nyers, arany > 0 ? arany : 1.0}}).first->second;
 }
 
-/// The face in one size; kept, since its glyph pictures go with it.
-const QRawFont& meretezettBetu(const QString& nev, int magassag) {
-    static QHash<std::pair<QString, int>, QRawFont> betuk;
-    const auto kulcs = std::pair(nev, magassag);
-    const auto megvan = betuk.constFind(kulcs);
-    if (megvan != betuk.constEnd()) return *megvan;
-    const TBetukeszlet& keszlet = betukeszlet(nev);
-    QRawFont betu = keszlet.alap;
-    betu.setPixelSize(magassag / keszlet.cellaArany);
-    return *betuk.insert(kulcs, betu);
-}
-
-/// Glyphs of a text in a row; empty if the face lacks one of its characters.
+/// Glyphs of a text in a row; none if the face lacks one of its characters.
 struct TJelSor {
-    QList<quint32> jelek;
-    QList<QPointF> helyek;
+    QGlyphRun futam;
     double szelesseg = 0;
+    bool megvan = false;
 };
 
 TJelSor jelSor(const QRawFont& betu, const QString& szoveg) {
+    const QList<quint32> jelek = betu.glyphIndexesForString(szoveg);
+    if (jelek.contains(0)) return {};
     TJelSor sor;
-    sor.jelek = betu.glyphIndexesForString(szoveg);
-    if (sor.jelek.contains(0)) return {};
-    for (const QPointF& lepes : betu.advancesForGlyphIndexes(sor.jelek)) {
-        sor.helyek << QPointF(sor.szelesseg, 0);
+    QList<QPointF> helyek;
+    for (const QPointF& lepes : betu.advancesForGlyphIndexes(jelek)) {
+        helyek << QPointF(sor.szelesseg, 0);
         sor.szelesseg += lepes.x();
     }
+    sor.futam.setRawFont(betu);
+    sor.futam.setGlyphIndexes(jelek);
+    sor.futam.setPositions(helyek);
+    sor.megvan = true;
     return sor;
+}
+
+/// Texts kept for one font; those of the wheel are far fewer.
+constexpr std::size_t legtobbSor = 500;
+
+}  // namespace
+
+/// A face in one size; kept, since its glyph pictures go with it, and so are the rows of glyphs drawn with
+/// it.
+struct TMeretezettBetu {
+    QRawFont betu;
+    std::map<std::string, TJelSor, std::less<>> sorok;
+
+    const TJelSor& sor(std::string_view szoveg) {
+        if (const auto megvan = sorok.find(szoveg); megvan != sorok.end()) return megvan->second;
+        if (sorok.size() >= legtobbSor) sorok.clear();
+        return sorok.emplace(szoveg, jelSor(betu, qszoveg(szoveg))).first->second;
+    }
+};
+
+namespace {
+
+TMeretezettBetu& meretezettBetu(const std::string& nev, int magassag) {
+    static std::map<std::pair<std::string, int>, TMeretezettBetu> betuk;
+    const auto [hely, uj] = betuk.try_emplace({nev, magassag});
+    if (uj) {
+        const TBetukeszlet& keszlet = betukeszlet(nev);
+        hely->second.betu = keszlet.alap;
+        hely->second.betu.setPixelSize(magassag / keszlet.cellaArany);
+    }
+    return hely->second;
 }
 
 constexpr double pixelKozep = 0.5;
@@ -79,6 +107,21 @@ QPointF pixelKozepe(const QPoint& hely) {
     return QPointF(hely) + QPointF(pixelKozep, pixelKozep);
 }
 
+/// Distance of a point from a line's nearest point.
+double tavolsag(const QPointF& pont, const QLineF& vonal) {
+    const QPointF irany = vonal.p2() - vonal.p1();
+    const double hossz2 = QPointF::dotProduct(irany, irany);
+    const double t = hossz2 > 0 ? QPointF::dotProduct(pont - vonal.p1(), irany) / hossz2 : 0;
+    return QLineF(pont, vonal.pointAt(std::clamp(t, 0.0, 1.0))).length();
+}
+
+/// Distance of a point from a box, 0 inside.
+double tavolsag(const QPointF& pont, const QRectF& doboz) {
+    const QPointF legkozelebb(std::clamp(pont.x(), doboz.left(), doboz.right()),
+                              std::clamp(pont.y(), doboz.top(), doboz.bottom()));
+    return QLineF(pont, legkozelebb).length();
+}
+
 /// The middle line of a strip, in the direction of its drawing: a pattern begins where its line begins.
 QLineF kozepvonal(const QRectF& sav, const QPoint& irany) {
     const QPointF kozep = sav.center();
@@ -91,9 +134,10 @@ QLineF kozepvonal(const QRectF& sav, const QPoint& irany) {
 
 QFont cellaMagassaguBetu(const QString& nev, int magassag, int dpi) {
     constexpr double pontHuvelyk = 72;
+    const std::string kulcs = szoveg(nev);
     QFont betu(nev);
     betu.setHintingPreference(QFont::PreferNoHinting);
-    betu.setPointSizeF(magassag / betukeszlet(nev).cellaArany * pontHuvelyk / dpi);
+    betu.setPointSizeF(magassag / betukeszlet(kulcs).cellaArany * pontHuvelyk / dpi);
     return betu;
 }
 
@@ -126,11 +170,30 @@ void QtVaszon::tollBeallitas() {
     festo_.setPen(toll_);
 }
 
+/// A circle's filling is left out where its place is known to be white already.
 void QtVaszon::Ellipse(int x1, int y1, int x2, int y2) {
-    festo_.drawEllipse(QRectF(pixelKozepe({x1, y1}), pixelKozepe({x2, y2})).normalized());
+    const QRectF doboz = QRectF(pixelKozepe({x1, y1}), pixelKozepe({x2, y2})).normalized();
+    const bool kor = doboz.width() == doboz.height();
+    const double sugar = doboz.width() / 2;
+    const bool feher = kor && doboz.center() == feherKozep_ && sugar + tollFele() <= feherSugar_;
+    festo_.setBrush(feher ? QBrush() : QBrush(Qt::white));
+    festo_.drawEllipse(doboz);
+    feherKozep_ = doboz.center();
+    feherSugar_ = kor ? sugar - tollFele() : -1;
+}
+
+double QtVaszon::tollFele() const {
+    return std::max(1.0, toll_.widthF()) / 2 + 1;
+}
+
+/// Something is drawn at that distance from the middle of the white circle, which ends before it.
+void QtVaszon::nemFeher(double tavolsag) {
+    feherSugar_ = std::min(feherSugar_, tavolsag);
 }
 
 void QtVaszon::LineTo(int x, int y) {
+    if (feherSugar_ > 0)
+        nemFeher(tavolsag(feherKozep_, QLineF(pixelKozepe(hely_), pixelKozepe({x, y}))) - tollFele());
     const bool fuggoleges = x == hely_.x();
     const bool vizszintes = y == hely_.y();
     if (fuggoleges != vizszintes)
@@ -165,32 +228,31 @@ void QtVaszon::egyenesVonal(const QPoint& vege) {
 
 void QtVaszon::TextOut(int x, int y, std::string_view szoveg) {
     if (szoveg.empty() || magassag_ <= 0) return;
-    const QString qsz = qszoveg(szoveg);
-    const TJelSor sor = jelSor(betu_, qsz);
-    const double szelesseg = sor.jelek.isEmpty() ? TextWidth(szoveg) : sor.szelesseg;
-    kitoltes(egeszPixelre({x * 1.0, y * 1.0, szelesseg, magassag_ * 1.0}, keparany()), Qt::white);
-    const QPointF alapvonal(x, y + betu_.ascent());
-    if (sor.jelek.isEmpty()) {
-        festo_.setFont(tartalekBetu());
-        festo_.drawText(alapvonal, qsz);
+    TMeretezettBetu& betu = meretezett();
+    const TJelSor& sor = betu.sor(szoveg);
+    const double szelesseg = sor.megvan ? sor.szelesseg : TextWidth(szoveg);
+    const QRectF cella(x, y, szelesseg, magassag_);
+    // A glyph may reach out of its cell, but not by the height of the font.
+    if (feherSugar_ > 0)
+        nemFeher(tavolsag(feherKozep_, cella.adjusted(-magassag_, -magassag_, magassag_, magassag_)));
+    kitoltes(egeszPixelre(cella, keparany()), Qt::white);
+    const QPointF alapvonal(x, y + betu.betu.ascent());
+    if (sor.megvan) {
+        festo_.drawGlyphRun(alapvonal, sor.futam);
         return;
     }
-    QGlyphRun futam;
-    futam.setRawFont(betu_);
-    futam.setGlyphIndexes(sor.jelek);
-    futam.setPositions(sor.helyek);
-    festo_.drawGlyphRun(alapvonal, futam);
+    festo_.setFont(tartalekBetu());
+    festo_.drawText(alapvonal, qszoveg(szoveg));
 }
 
 QFont QtVaszon::tartalekBetu() const {
-    return cellaMagassaguBetu(betuNev_, magassag_, festo_.device()->logicalDpiY());
+    return cellaMagassaguBetu(qszoveg(betuNev_), magassag_, festo_.device()->logicalDpiY());
 }
 
 int QtVaszon::TextWidth(std::string_view szoveg) {
     if (magassag_ <= 0) return 0;
-    const QString qsz = qszoveg(szoveg);
-    const TJelSor sor = jelSor(betu_, qsz);
-    if (sor.jelek.isEmpty()) return QFontMetrics(tartalekBetu(), festo_.device()).horizontalAdvance(qsz);
+    const TJelSor& sor = meretezett().sor(szoveg);
+    if (!sor.megvan) return QFontMetrics(tartalekBetu(), festo_.device()).horizontalAdvance(qszoveg(szoveg));
     return qRound(sor.szelesseg);
 }
 
@@ -221,8 +283,14 @@ void QtVaszon::Stilus(TollStilus stilus) {
     tollBeallitas();
 }
 
+/// The face is looked for when a text is drawn with it.
 void QtVaszon::Betu(std::string_view nev, int magassag) {
     magassag_ = magassag;
-    betuNev_ = qszoveg(nev);
-    if (magassag > 0) betu_ = meretezettBetu(betuNev_, magassag);
+    betuNev_ = nev;
+    betu_ = nullptr;
+}
+
+TMeretezettBetu& QtVaszon::meretezett() {
+    if (betu_ == nullptr) betu_ = &meretezettBetu(betuNev_, magassag_);
+    return *betu_;
 }

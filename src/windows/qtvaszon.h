@@ -1,13 +1,17 @@
 #pragma once
 
+#include <string>
+#include <string_view>
+
 #include <QFont>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPen>
-#include <QRawFont>
 #include <QString>
 
 #include "drawing/vaszon.h"
+
+struct TMeretezettBetu;
 
 /// The canvas on a QPainter: black antialiased lines, white fillings, one pixel being one unit of the
 /// painter. A coordinate is the middle of its pixel; horizontal and vertical lines and the boxes of texts
@@ -30,6 +34,10 @@ public:
 private:
     void tollBeallitas();
     void egyenesVonal(const QPoint& vege);
+    /// How far the pen reaches from its line at most, antialiasing included.
+    double tollFele() const;
+    void nemFeher(double tavolsag);
+    TMeretezettBetu& meretezett();
     void kitoltes(const QRectF& doboz, const QColor& szin);
     /// Device pixels in a unit of the painter.
     double keparany() const { return festo_.device()->devicePixelRatioF(); }
@@ -41,8 +49,10 @@ private:
     QPen toll_;
     Qt::PenStyle stilus_ = Qt::SolidLine;
     int magassag_ = 0;
-    QString betuNev_;
-    QRawFont betu_;
+    std::string betuNev_;
+    TMeretezettBetu* betu_ = nullptr;  ///< looked for at the first text
+    QPointF feherKozep_;               ///< about this point all is white
+    double feherSugar_ = -1;           ///< so far; nothing is known where it is not above 0
 };
 
 /// A text as it is drawn, in shapes: from the left end of its base line; its width, and its cell's top to the

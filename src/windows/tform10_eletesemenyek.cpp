@@ -33,9 +33,12 @@ constexpr std::size_t kijeloloOszlopok = 3;
 
 }  // namespace
 
-TForm10::TForm10(Allapot& allapot, FoAblak&, QWidget* fo) : QDialog(fo), allapot_(allapot), fo_(fo) {
+TForm10::TForm10(Allapot& allapot, FoAblak&, QWidget* fo) : TKesobbiAblak(fo), allapot_(allapot), fo_(fo) {
     setObjectName("TForm10");
     setWindowTitle("Életesemények");
+}
+
+void TForm10::epites() {
     QFont kicsi = font();
     kicsi.setFamily(qszoveg(szovegFont));
     kicsi.setPixelSize(11);
@@ -130,6 +133,7 @@ void TForm10::gombok() {
 }
 
 void TForm10::megmutat(std::function<TSzuletes()> szuletes, const TEletesemeny& kezdoHely) {
+    elkeszites();
     szuletes_ = std::move(szuletes);
     masodik_ = allapot_.Esemenyek;
     kijeloles(0);

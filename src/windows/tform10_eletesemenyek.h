@@ -4,7 +4,6 @@
 #include <functional>
 #include <span>
 
-#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -15,10 +14,11 @@
 #include "events/eletesemenyek.h"
 #include "tables/pillanat.h"
 #include "windows/helysegmezo.h"
+#include "windows/kesobbiablak.h"
 #include "windows/parbeszed.h"
 
 /// Life events: the list of up to twenty, and the fields of the one that is typed or selected.
-class TForm10 : public QDialog {
+class TForm10 : public TKesobbiAblak {
     Q_OBJECT
 
 public:
@@ -41,6 +41,7 @@ private slots:
     void SpinEditEv1Change();
 
 private:
+    void epites() override;
     /// A number field with its caption, if it has one of its own; horizontal places in pixels.
     struct TSzamMezo {
         const char* felirat;

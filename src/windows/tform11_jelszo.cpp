@@ -12,23 +12,26 @@
 #include "windows/qszoveg.h"
 
 TForm11::TForm11(Allapot& allapot, FoAblak&, QWidget* fo)
-    : QDialog(fo, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowStaysOnTopHint),
+    : TKesobbiAblak(fo,
+                    Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowStaysOnTopHint),
       programVege([] { QCoreApplication::exit(0); }),
       allapot_(allapot),
       fo_(fo),
-      tar_(TJelszoTar::alapFajl()),
-      edit1_(new QLineEdit(this)) {
+      tar_(TJelszoTar::alapFajl()) {
     setObjectName("TForm11");
     setWindowTitle("Kérem a jelszót!");
+    using Allas = TJelszoTar::Allas;
+    allapot_.JelszoRendben = tar_.allas() == Allas::nincsTar || tar_.allas() == Allas::nincsJelszo;
+}
+
+void TForm11::epites() {
+    edit1_ = new QLineEdit(this);
     edit1_->setObjectName("Edit1");
     edit1_->setEchoMode(QLineEdit::Password);
     edit1_->setMaxLength(jelszoHossz);
     edit1_->setMinimumWidth(200);
     (new QVBoxLayout(this))->addWidget(edit1_);
     connect(edit1_, &QLineEdit::textChanged, this, &TForm11::Edit1Change);
-
-    using Allas = TJelszoTar::Allas;
-    allapot_.JelszoRendben = tar_.allas() == Allas::nincsTar || tar_.allas() == Allas::nincsJelszo;
 }
 
 bool TForm11::ujJelszo(const QString& jelszo) {
@@ -61,6 +64,7 @@ bool TForm11::jelszoCsere(TParbeszed& parbeszed) {
 }
 
 void TForm11::kerdez() {
+    elkeszites();
     {
         const QSignalBlocker blokk(edit1_);
         edit1_->clear();

@@ -2,16 +2,16 @@
 
 #include <functional>
 
-#include <QDialog>
 #include <QLineEdit>
 
 #include "chart/allapot.h"
 #include "chart/foablak.h"
 #include "windows/jelszotar.h"
+#include "windows/kesobbiablak.h"
 #include "windows/parbeszed.h"
 
 /// Password prompt. It has no button: it closes by itself on the last right letter.
-class TForm11 : public QDialog {
+class TForm11 : public TKesobbiAblak {
     Q_OBJECT
 
 public:
@@ -41,10 +41,11 @@ private slots:
     void Edit1Change();
 
 private:
+    void epites() override;
     void kerdez();
 
     Allapot& allapot_;
     QWidget* fo_;
     TJelszoTar tar_;
-    QLineEdit* edit1_;
+    QLineEdit* edit1_ = nullptr;
 };

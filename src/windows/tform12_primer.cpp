@@ -24,15 +24,16 @@ constexpr int memoAlja = memoTetej + 360;
 }  // namespace
 
 TForm12::TForm12(Allapot& allapot, FoAblak&, QWidget* fo)
-    : QDialog(fo, Qt::Dialog | Qt::WindowStaysOnTopHint),
-      allapot_(allapot),
-      fo_(fo),
-      memo1_(new QPlainTextEdit(this)),
-      vege_(ujCimke(this, QStringLiteral("Legfeljebb %1 sor; a lista itt véget ér.").arg(primerLegtobbSor),
-                    {memoBal, memoAlja + 4})) {
+    : TKesobbiAblak(fo, Qt::Dialog | Qt::WindowStaysOnTopHint), allapot_(allapot), fo_(fo) {
     setObjectName("TForm12");
     setWindowTitle("Primer direkció");
     setFixedSize(ablakMeret);
+}
+
+void TForm12::epites() {
+    memo1_ = new QPlainTextEdit(this);
+    vege_ = ujCimke(this, QStringLiteral("Legfeljebb %1 sor; a lista itt véget ér.").arg(primerLegtobbSor),
+                    {memoBal, memoAlja + 4});
     const auto mezo = [this](const char* nev, const char* felirat, int also, int felso, int x,
                              int feliratSzelesseg) {
         ujCimke(this, felirat, {x, 15});
@@ -84,6 +85,7 @@ void TForm12::betukEsFejek() {
 }
 
 void TForm12::megmutat(int kezdoEv) {
+    elkeszites();
     ev_->setValue(kezdoEv);
     ho_->setValue(1);
     nap_->setValue(1);
@@ -96,6 +98,7 @@ void TForm12::megmutat(int kezdoEv) {
 }
 
 void TForm12::futtat() {
+    elkeszites();
     const auto sorok = PrimerFutas(allapot_, {ev_->value(), ho_->value(), nap_->value(), 0, 0, 0});
     memoSorok({{memo1_, sorok}});
     vege_->setVisible(sorok.size() == primerLegtobbSor);

@@ -3,18 +3,18 @@
 #include <array>
 #include <functional>
 
-#include <QDialog>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QSpinBox>
 
 #include "chart/allapot.h"
 #include "chart/foablak.h"
+#include "windows/kesobbiablak.h"
 #include "windows/listamuveletek.h"
 
 /// List of primary directions. It stays open beside the main window and follows the chart while `PrimerFut`
 /// is set.
-class TForm12 : public QDialog {
+class TForm12 : public TKesobbiAblak {
     Q_OBJECT
 
 public:
@@ -33,16 +33,17 @@ private slots:
     void Button_Megsem1Click();
 
 private:
+    void epites() override;
     void betukEsFejek();
     TListaSzoveg lista() const;
 
     Allapot& allapot_;
     QWidget* fo_;
-    QSpinBox* ev_;
-    QSpinBox* ho_;
-    QSpinBox* nap_;
-    QLabel* label8_;
+    QSpinBox* ev_ = nullptr;
+    QSpinBox* ho_ = nullptr;
+    QSpinBox* nap_ = nullptr;
+    QLabel* label8_ = nullptr;
     std::array<QLabel*, 4> fejek_{};
-    QPlainTextEdit* memo1_;
-    QLabel* vege_;  ///< tells that the list may have been cut
+    QPlainTextEdit* memo1_ = nullptr;
+    QLabel* vege_ = nullptr;  ///< tells that the list may have been cut
 };

@@ -53,16 +53,15 @@ double sorMagassag(const QPlainTextEdit& memo) {
 }  // namespace
 
 TForm13::TForm13(Allapot& allapot, FoAblak&, QWidget* fo)
-    : QDialog(fo, Qt::Dialog | Qt::WindowStaysOnTopHint),
-      allapot_(allapot),
-      fo_(fo),
-      spinEdit1_(new THatotavMezo(this)),
-      memo1_(new QPlainTextEdit(this)),
-      memo2_(new QPlainTextEdit(this)),
-      memo3_(new QPlainTextEdit(this)) {
+    : TKesobbiAblak(fo, Qt::Dialog | Qt::WindowStaysOnTopHint), allapot_(allapot), fo_(fo) {
     setObjectName("TForm13");
     setWindowTitle("Pontosítás");
     setMinimumSize(elsoSzelesseg, 240);
+}
+
+void TForm13::epites() {
+    spinEdit1_ = new THatotavMezo(this);
+    for (QPlainTextEdit** memo : {&memo1_, &memo2_, &memo3_}) *memo = new QPlainTextEdit(this);
     hatotavSor();
     memokEpitese();
     gombok();
@@ -139,6 +138,7 @@ void TForm13::lathatatlanVezerlok() {
 
 void TForm13::resizeEvent(QResizeEvent* esemeny) {
     QDialog::resizeEvent(esemeny);
+    if (memo1_ == nullptr) return;  // the contents are not there yet
     elrendezes();
     int bal = szel;
     for (const char* nev : {"Button_Rendben1", "Button_Megsem1", "Button_Eletesemenyek1"}) {
@@ -186,6 +186,7 @@ void TForm13::betuk() {
 }
 
 void TForm13::megmutat(int leptetoMagassag) {
+    elkeszites();
     allapot_.PontositasFut = true;
     allapot_.PrimerFut = false;
     betuk();
@@ -197,6 +198,7 @@ void TForm13::megmutat(int leptetoMagassag) {
 }
 
 void TForm13::futtat() {
+    elkeszites();
     // The same value would still write its text anew, under the user's typing too.
     if (spinEdit1_->value() != allapot_.PontositasHatotav) {
         const QSignalBlocker blokk(spinEdit1_);

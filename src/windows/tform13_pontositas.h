@@ -3,18 +3,18 @@
 #include <array>
 #include <functional>
 
-#include <QDialog>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QSpinBox>
 
 #include "chart/allapot.h"
 #include "chart/foablak.h"
+#include "windows/kesobbiablak.h"
 #include "windows/listamuveletek.h"
 
 /// Rectification by directions: events, hits and candidate times of birth side by side. It stays open beside
 /// the main window and follows the chart while `PontositasFut` is set.
-class TForm13 : public QDialog {
+class TForm13 : public TKesobbiAblak {
     Q_OBJECT
 
 public:
@@ -35,6 +35,7 @@ private slots:
     void Button_Megsem1Click();
 
 private:
+    void epites() override;
     void hatotavSor();
     void memokEpitese();
     void gombok();
@@ -49,9 +50,9 @@ private:
 
     Allapot& allapot_;
     QWidget* fo_;
-    QSpinBox* spinEdit1_;
-    QPlainTextEdit* memo1_;
-    QPlainTextEdit* memo2_;
-    QPlainTextEdit* memo3_;
+    QSpinBox* spinEdit1_ = nullptr;
+    QPlainTextEdit* memo1_ = nullptr;
+    QPlainTextEdit* memo2_ = nullptr;
+    QPlainTextEdit* memo3_ = nullptr;
     std::array<QLabel*, 4> fejek_{};  ///< over the hits
 };

@@ -37,16 +37,16 @@ QSpinBox* kijelzoMezo(QWidget* szulo, const char* nev, int also, int felso) {
 }  // namespace
 
 TForm14::TForm14(Allapot& allapot, FoAblak& ablak, QWidget* fo)
-    : QDialog(fo),
-      allapot_(allapot),
-      ablak_(ablak),
-      fo_(fo),
-      label1_(new QLabel(this)),
-      datumBekero1_(new QLabel(this)),
-      helyseg_(ujHelysegMezo(this, "ComboBoxHelyseg1")),
-      listBox1_(new QListWidget(this)) {
+    : TKesobbiAblak(fo), allapot_(allapot), ablak_(ablak), fo_(fo) {
     setObjectName("TForm14");
     setWindowTitle("Nap-áthaladások");
+}
+
+void TForm14::epites() {
+    label1_ = new QLabel(this);
+    datumBekero1_ = new QLabel(this);
+    helyseg_ = ujHelysegMezo(this, "ComboBoxHelyseg1");
+    listBox1_ = new QListWidget(this);
     label1_->setObjectName("Label1");
     datumBekero1_->setObjectName("Datum_bekero1");
     listaEpitese();
@@ -147,6 +147,7 @@ void TForm14::koordinataMezok(QGridLayout& racs) {
 }
 
 void TForm14::kitoltes(const TVisszateresFajta& fajta, const TPillanat& kezdo) {
+    elkeszites();
     setWindowTitle(qszoveg(fajta.cim.hosszu));
     label1_->setText(fajta.listaCim);
     datumBekero1_->setText("Kezdő dátum:");

@@ -4,7 +4,6 @@
 #include <string>
 #include <vector>
 
-#include <QDialog>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -15,10 +14,11 @@
 #include "chart/foablak.h"
 #include "predictive/visszateresek.h"
 #include "windows/helysegmezo.h"
+#include "windows/kesobbiablak.h"
 
 /// List of returns or Sun transits. Only the list's row and the place are read; the rest is display, to be
 /// read and copied but not changed.
-class TForm14 : public QDialog {
+class TForm14 : public TKesobbiAblak {
     Q_OBJECT
 
 public:
@@ -40,6 +40,7 @@ private slots:
     void ComboBoxHelyseg1Change();
 
 private:
+    void epites() override;
     void listaEpitese();
     void maiNaphoz();
     QGridLayout* mezok();
@@ -49,12 +50,12 @@ private:
     Allapot& allapot_;
     FoAblak& ablak_;
     QWidget* fo_;
-    QLabel* label1_;
-    QLabel* datumBekero1_;
+    QLabel* label1_ = nullptr;
+    QLabel* datumBekero1_ = nullptr;
     std::array<QSpinBox*, 3> datum_{};
     std::array<QLineEdit*, 3> edit_{};
     std::array<QSpinBox*, 4> koordinata_{};
-    HelysegMezo* helyseg_;
-    QListWidget* listBox1_;
+    HelysegMezo* helyseg_ = nullptr;
+    QListWidget* listBox1_ = nullptr;
     int sor_ = 1;
 };

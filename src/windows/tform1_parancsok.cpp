@@ -106,6 +106,7 @@ void TForm1::closeEvent(QCloseEvent* esemeny) {
 }
 
 void TForm1::Radixlepteto1Click() {
+    ablakok_->form7.elkeszites();
     felulKozepre(ablakok_->form7, *this);
     ablakok_->form7.show();
     ablakok_->form7.raise();

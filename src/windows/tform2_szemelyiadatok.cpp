@@ -17,10 +17,9 @@
 #include "windows/qszoveg.h"
 #include "windows/vezerlok.h"
 
-TForm2::TForm2(Allapot& allapot, FoAblak&, QWidget* fo) : QDialog(fo), allapot_(allapot) {
+TForm2::TForm2(Allapot& allapot, FoAblak&, QWidget* fo) : TKesobbiAblak(fo), allapot_(allapot) {
     setObjectName("TForm2");
     setWindowTitle("Személyi adatok");
-    epites();
 }
 
 namespace {
@@ -133,6 +132,7 @@ void TForm2::epites() {
 }
 
 void TForm2::kitoltes(bool ujKeplet) {
+    elkeszites();
     const QSignalBlocker blokk(comboBoxHelyseg1_);
     comboBoxHelyseg1_->listaNovelese();
     mutat(ujKeplet ? UjKepletMezok(allapot_) : SzemelyMezok(allapot_));

@@ -4,7 +4,6 @@
 
 #include <QBoxLayout>
 #include <QButtonGroup>
-#include <QDialog>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -14,9 +13,10 @@
 #include "chart/foablak.h"
 #include "commands/szemelyiadatok.h"
 #include "windows/helysegmezo.h"
+#include "windows/kesobbiablak.h"
 
 /// Personal data: the one dialog where a chart is typed in.
-class TForm2 : public QDialog {
+class TForm2 : public TKesobbiAblak {
     Q_OBJECT
 
 public:
@@ -26,7 +26,7 @@ public:
     /// gazetteer at each filling; a longer list finds the same places.
     void kitoltes(bool ujKeplet);
 
-    /// The fields as they stand.
+    /// The fields as they stand; they have to be made.
     TSzemelyiAdatok mezok() const;
 
     /// What the button "Életesemények" opens.
@@ -40,7 +40,7 @@ private slots:
     void RadioGroupIdovalaszto1Click(int index);
 
 private:
-    void epites();
+    void epites() override;
     void mezokEpitese();
     QGroupBox* idoValaszto();
     QHBoxLayout* gombSor();

@@ -29,9 +29,12 @@ constexpr double alapOrbis = 45;  // days
 }  // namespace
 
 TForm3::TForm3(Allapot& allapot, FoAblak&, QWidget* fo)
-    : QDialog(fo, Qt::Dialog | Qt::WindowStaysOnTopHint), allapot_(allapot), fo_(fo) {
+    : TKesobbiAblak(fo, Qt::Dialog | Qt::WindowStaysOnTopHint), allapot_(allapot), fo_(fo) {
     setObjectName("TForm3");
     setWindowTitle("Tercier direkció");
+}
+
+void TForm3::epites() {
     ujCimke(this, "Esemény dátuma:", {24, 12})->setObjectName("Datum_bekero1");
     ev_ = mezo("SpinEditEv1", "Év:", 1900, 2068, 24);
     ho_ = mezo("SpinEditHo1", "Hó:", 0, 13, 150);
@@ -67,6 +70,7 @@ QSpinBox* TForm3::mezo(const char* nev, const char* felirat, int also, int felso
 }
 
 void TForm3::megmutat() {
+    elkeszites();
     const bool tercier = allapot_.TercierAblak;
     allapot_.TercierOrbisNap = alapOrbis;
     setWindowTitle(tercier ? "Tercier direkció" : "Szolár-ingresszió");

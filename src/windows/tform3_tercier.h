@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include <QDialog>
 #include <QLabel>
 #include <QPushButton>
 #include <QSpinBox>
@@ -11,10 +10,11 @@
 #include "chart/foablak.h"
 #include "tables/pillanat.h"
 #include "windows/jelszoveg.h"
+#include "windows/kesobbiablak.h"
 #include "windows/listamuveletek.h"
 
 /// Date dialog of the tertiary directions and of the solar ingress; `TercierAblak` of the state tells which.
-class TForm3 : public QDialog {
+class TForm3 : public TKesobbiAblak {
     Q_OBJECT
 
 public:
@@ -34,6 +34,7 @@ private slots:
     void SpinEditOrbis1Change();
 
 private:
+    void epites() override;
     QSpinBox* mezo(const char* nev, const char* felirat, int also, int felso, int x);
     void keres();
     void elrendezes(int szovegMagassag);
@@ -44,14 +45,14 @@ private:
 
     Allapot& allapot_;
     QWidget* fo_;
-    QSpinBox* ev_;
-    QSpinBox* ho_;
-    QSpinBox* nap_;
-    QLabel* orbisFelirat_;
-    QSpinBox* orbis_;
-    QLabel* direkcio1_;
-    TJelSzoveg* direkcio2_;
-    QPushButton* rendben_;
-    QPushButton* megsem_;
+    QSpinBox* ev_ = nullptr;
+    QSpinBox* ho_ = nullptr;
+    QSpinBox* nap_ = nullptr;
+    QLabel* orbisFelirat_ = nullptr;
+    QSpinBox* orbis_ = nullptr;
+    QLabel* direkcio1_ = nullptr;
+    TJelSzoveg* direkcio2_ = nullptr;
+    QPushButton* rendben_ = nullptr;
+    QPushButton* megsem_ = nullptr;
     std::string eredmeny_;
 };

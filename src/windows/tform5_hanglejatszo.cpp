@@ -32,9 +32,13 @@ std::string hangFajl(const std::string& nev) {
 
 }  // namespace
 
-TForm5::TForm5(Allapot& allapot, FoAblak&, QWidget* fo) : QDialog(fo), allapot_(allapot), fo_(fo) {
+TForm5::TForm5(Allapot& allapot, FoAblak&, QWidget* fo) : TKesobbiAblak(fo), allapot_(allapot), fo_(fo) {
     setObjectName("TForm5");
     setWindowTitle("Hanglejátszás");
+    setFixedSize(lejatszoMeret);
+}
+
+void TForm5::epites() {
     auto* sor = new QHBoxLayout(this);
     sor->setContentsMargins(0, 0, 0, 0);
     QPushButton* lejatszas = ujGomb(this, "Lejatszas1", "▶");
@@ -44,7 +48,6 @@ TForm5::TForm5(Allapot& allapot, FoAblak&, QWidget* fo) : QDialog(fo), allapot_(
     connect(lejatszas, &QPushButton::clicked, this, [this] { gombra(&TLejatszo::lejatszas); });
     connect(szunet, &QPushButton::clicked, this, [this] { gombra(&TLejatszo::szunet); });
     connect(megallitas, &QPushButton::clicked, this, [this] { gombra(&TLejatszo::megallitas); });
-    setFixedSize(lejatszoMeret);
 }
 
 TLejatszo* TForm5::lejatszo() {

@@ -3,16 +3,16 @@
 #include <functional>
 #include <string>
 
-#include <QDialog>
 #include <QPushButton>
 
 #include "chart/allapot.h"
 #include "chart/foablak.h"
+#include "windows/kesobbiablak.h"
 #include "windows/modulok.h"
 #include "windows/parbeszed.h"
 
 /// Sound player: play, pause and stop for the sound of a chart. It stays open until the user closes it.
-class TForm5 : public QDialog {
+class TForm5 : public TKesobbiAblak {
     Q_OBJECT
 
 public:
@@ -28,6 +28,7 @@ public:
     std::function<THangModul*()> modul = hangModul;
 
 private:
+    void epites() override;
     /// The player, made at the first sound; nullptr where the sound library is missing, which it then says.
     TLejatszo* lejatszo();
     void gombra(void (TLejatszo::*muvelet)());

@@ -52,10 +52,13 @@ constexpr bool vanGomb(int sor, int oszlop) {
 
 }  // namespace
 
-TForm6::TForm6(Allapot& allapot, FoAblak&, QWidget* fo) : QDialog(fo), allapot_(allapot), fo_(fo) {
+TForm6::TForm6(Allapot& allapot, FoAblak&, QWidget* fo) : TKesobbiAblak(fo), allapot_(allapot), fo_(fo) {
     setObjectName("TForm6");
     setWindowTitle("Orbis beállítása");
     setFixedSize(340, 460);
+}
+
+void TForm6::epites() {
     const auto gomb = [this](const char* nev, const QString& felirat, const QRect& hely,
                              void (TForm6::*kezelo)()) {
         auto* uj = ujGomb(this, nev, felirat, hely);
@@ -73,6 +76,7 @@ TForm6::TForm6(Allapot& allapot, FoAblak&, QWidget* fo) : QDialog(fo), allapot_(
 }
 
 void TForm6::megmutat() {
+    elkeszites();
     racsEpites();
     kozepre(*this, *fo_);
     exec();

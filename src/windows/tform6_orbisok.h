@@ -2,15 +2,15 @@
 
 #include <vector>
 
-#include <QDialog>
 #include <QPushButton>
 
 #include "chart/allapot.h"
 #include "chart/foablak.h"
 #include "engine/fenyszogek.h"
+#include "windows/kesobbiablak.h"
 
 /// Orb settings: a button for each cell of `OrbisTabla` that can be edited. A click adds the step.
-class TForm6 : public QDialog {
+class TForm6 : public TKesobbiAblak {
     Q_OBJECT
 
 public:
@@ -28,6 +28,7 @@ private slots:
     void Button_Megsem1Click();
 
 private:
+    void epites() override;
     void racsEpites();
     void racsLebontas();
     void cimkeEpites(const QString& szoveg, const QString& betutipus, int x, int y);
@@ -42,8 +43,8 @@ private:
 
     Allapot& allapot_;
     QWidget* fo_;
-    QPushButton* plusz_;
-    QPushButton* minusz_;
+    QPushButton* plusz_ = nullptr;
+    QPushButton* minusz_ = nullptr;
     std::vector<TCella> cellak_;
     std::vector<QWidget*> cimkek_;
     double lepes_ = 0.5;  ///< degrees a click; outlives the closing of the dialog

@@ -13,9 +13,12 @@ constexpr std::array<const char*, 6> sorFeliratok{"Év", "Hó", "Nap", "óra", "
 
 }  // namespace
 
-TForm7::TForm7(Allapot& allapot, FoAblak&, QWidget* fo) : QDialog(fo) {
+TForm7::TForm7(Allapot& allapot, FoAblak&, QWidget* fo) : TKesobbiAblak(fo), allapot_(allapot) {
     setObjectName("TForm7");
     setWindowTitle("Léptet");
+}
+
+void TForm7::epites() {
     auto* racs = new QGridLayout(this);
     for (int sor = 0; sor < static_cast<int>(sorFeliratok.size()); ++sor)
         racs->addWidget(new QLabel(sorFeliratok[static_cast<std::size_t>(sor)], this), sor, 0);
@@ -28,7 +31,7 @@ TForm7::TForm7(Allapot& allapot, FoAblak&, QWidget* fo) : QDialog(fo) {
         gomb->setFixedWidth(44);
         const auto sor = static_cast<std::size_t>(lepes.mezo);
         racs->addWidget(gomb, static_cast<int>(sor), ++oszlop[sor]);
-        connect(gomb, &QPushButton::clicked, this, [&allapot, &lepes] { Leptetes(allapot, lepes); });
+        connect(gomb, &QPushButton::clicked, this, [this, &lepes] { Leptetes(allapot_, lepes); });
     }
     setMinimumWidth(280);  // the title shows date and time
     adjustSize();

@@ -40,17 +40,13 @@ QString cimke(int haz) {
 }  // namespace
 
 TForm8::TForm8(Allapot& allapot, FoAblak& ablak, QWidget* fo)
-    : QDialog(fo, Qt::Dialog | Qt::WindowStaysOnTopHint),
-      allapot_(allapot),
-      ablak_(ablak),
-      fo_(fo),
-      label1Haz_(new QLabel(this)),
-      label2Rendben_(new QLabel(this)),
-      label3szoveg1_(new QLabel(this)),
-      label4szoveg2_(new QLabel(this)) {
+    : TKesobbiAblak(fo, Qt::Dialog | Qt::WindowStaysOnTopHint), allapot_(allapot), ablak_(ablak), fo_(fo) {
     setObjectName("TForm8");
     setWindowTitle("Mundánházas pontosítás");
     setFixedSize(ablakMeret);
+}
+
+void TForm8::epites() {
     allandoVezerlok();
     new TListaMuveletek(*this, [this] { return lista(false); });
     new TListaMuveletek(
@@ -67,6 +63,8 @@ TListaSzoveg TForm8::lista(bool mindenHaz) const {
 }
 
 void TForm8::allandoVezerlok() {
+    for (QLabel** felirat : {&label1Haz_, &label2Rendben_, &label3szoveg1_, &label4szoveg2_})
+        *felirat = new QLabel(this);
     label1Haz_->setObjectName("Label1Haz");
     label1Haz_->setFont(betu(szovegFont, 13));
     label1Haz_->setGeometry(135, 154, 150, 20);
@@ -121,6 +119,7 @@ void TForm8::cimkeRacs() {
 }
 
 void TForm8::megmutat() {
+    elkeszites();
     hazGombok();
     cimkeRacs();
     MundanNyitas(allapot_);

@@ -4,7 +4,6 @@
 #include <memory>
 #include <vector>
 
-#include <QDialog>
 #include <QLabel>
 #include <QPushButton>
 
@@ -12,11 +11,12 @@
 #include "chart/foablak.h"
 #include "rectify/analogiak.h"
 #include "rectify/mundankereses.h"
+#include "windows/kesobbiablak.h"
 #include "windows/listamuveletek.h"
 
 /// Rectification by mundane houses. It stays open beside the main window and follows the chart with every
 /// tick.
-class TForm8 : public QDialog {
+class TForm8 : public TKesobbiAblak {
     Q_OBJECT
 
 public:
@@ -35,6 +35,7 @@ private slots:
     void Button4BezarClick();
 
 private:
+    void epites() override;
     void allandoVezerlok();
     void hazGombok();
     void cimkeRacs();
@@ -48,10 +49,10 @@ private:
     Allapot& allapot_;
     FoAblak& ablak_;
     QWidget* fo_;
-    QLabel* label1Haz_;
-    QLabel* label2Rendben_;
-    QLabel* label3szoveg1_;
-    QLabel* label4szoveg2_;
+    QLabel* label1Haz_ = nullptr;
+    QLabel* label2Rendben_ = nullptr;
+    QLabel* label3szoveg1_ = nullptr;
+    QLabel* label4szoveg2_ = nullptr;
 
     // Made at each opening, gone when the window closes.
     std::array<std::unique_ptr<QPushButton>, 12> hazGombok_;

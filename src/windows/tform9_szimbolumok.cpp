@@ -8,10 +8,13 @@
 #include "windows/qszoveg.h"
 #include "windows/vezerlok.h"
 
-TForm9::TForm9(Allapot& allapot, FoAblak&, QWidget* fo)
-    : QDialog(fo), allapot_(allapot), fo_(fo), comboBox1_(new QComboBox(this)) {
+TForm9::TForm9(Allapot& allapot, FoAblak&, QWidget* fo) : TKesobbiAblak(fo), allapot_(allapot), fo_(fo) {
     setObjectName("TForm9");
     setWindowTitle("Szimbólumok");
+}
+
+void TForm9::epites() {
+    comboBox1_ = new QComboBox(this);
     comboBox1_->setObjectName("ComboBox1");
     comboBox1_->setEditable(true);
     comboBox1_->setMinimumContentsLength(20);
@@ -28,6 +31,7 @@ TForm9::TForm9(Allapot& allapot, FoAblak&, QWidget* fo)
 }
 
 void TForm9::megmutat() {
+    elkeszites();
     comboBox1_->clear();
     comboBox1_->addItems(szimbolumFontok());
     adjustSize();

@@ -1,13 +1,13 @@
 #pragma once
 
 #include <QComboBox>
-#include <QDialog>
 
 #include "chart/allapot.h"
 #include "chart/foablak.h"
+#include "windows/kesobbiablak.h"
 
 /// Choice of the symbol font among the font files whose names begin with "Astro".
-class TForm9 : public QDialog {
+class TForm9 : public TKesobbiAblak {
     Q_OBJECT
 
 public:
@@ -21,7 +21,8 @@ private slots:
     void Button_Megsem1Click();
 
 private:
+    void epites() override;
     Allapot& allapot_;
     QWidget* fo_;
-    QComboBox* comboBox1_;
+    QComboBox* comboBox1_ = nullptr;
 };

@@ -22,6 +22,31 @@ private slots:
         QCOMPARE(a.form13.windowTitle(), "Pontosítás");
         QCOMPARE(a.form14.windowTitle(), "Nap-áthaladások");
     }
+
+    void aTobbiAblakTartalmaAzElsoMutatasigVar() {
+        TFrissAblakok a;
+        a.orajelek(3);
+        QDialog* const ablakok[]{&a.form2, &a.form3,  &a.form4,  &a.form5,  &a.form6,  &a.form7, &a.form8,
+                                 &a.form9, &a.form10, &a.form11, &a.form12, &a.form13, &a.form14};
+        for (QDialog* ablak : ablakok) {
+            QVERIFY2(ablak->findChildren<QWidget*>().isEmpty(), qPrintable(ablak->objectName()));
+            ablak->show();
+            const auto elso = ablak->findChildren<QWidget*>();
+            QVERIFY2(!elso.isEmpty(), qPrintable(ablak->objectName()));
+            ablak->hide();
+            ablak->show();
+            QCOMPARE(ablak->findChildren<QWidget*>(), elso);
+            ablak->hide();
+        }
+    }
+
+    void aPontositasALeptetoAlaKerulAkkorIsHaAzNemVoltNyitva() {
+        TFrissAblakok a;
+        menu(a.form1, "Primer1");
+        QTest::mouseClick(a.form12.findChild<QPushButton*>("Button_Pontositas1"), Qt::LeftButton);
+        QCOMPARE(a.form7.findChildren<QPushButton*>().size(), 16);
+        QCOMPARE(a.form13.y(), a.form1.y() + a.form7.height() + 30);
+    }
 };
 
 QTEST_MAIN(AblakokTeszt)

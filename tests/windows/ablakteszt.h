@@ -17,10 +17,13 @@
 #include "mintaszemely.h"
 #include "windows/ablakok.h"
 #include "windows/betumappak.h"
+#include "windows/kesobbiablak.h"
 
-/// A control by its name on a window.
+/// A control by its name on a window; of one that has never been shown the contents are made.
 template <typename T>
 T* vezerlo(const QWidget& ablak, const char* nev) {
+    if (const auto* kesobbi = dynamic_cast<const TKesobbiAblak*>(&ablak))
+        const_cast<TKesobbiAblak*>(kesobbi)->elkeszites();
     T* talalat = ablak.findChild<T*>(nev);
     if (talalat == nullptr) qFatal("no control named %s", nev);
     return talalat;

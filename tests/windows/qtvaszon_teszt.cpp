@@ -362,6 +362,61 @@ private slots:
         QCOMPARE(szurke(kep, 12, 12), 90);
     }
 
+    /// Whatever stands in a white circle is gone when a smaller one is drawn about the same middle.
+    void aBelsoKorElfediAmiBenneVan() {
+        const QList<TRajzolas> rajzok{
+            [](QtVaszon&) {},
+            [](QtVaszon& v) {
+                v.MoveTo(35, 60);
+                v.LineTo(60, 62);
+            },
+            [](QtVaszon& v) {
+                v.MoveTo(110, 57);
+                v.LineTo(10, 66);
+            },
+            [](QtVaszon& v) {
+                v.Betu("Liberation Sans", 14);
+                v.TextOut(40, 52, "Mm");
+            },
+            [](QtVaszon& v) { v.Ellipse(20, 55, 66, 65); },
+            [](QtVaszon& v) { v.Ellipse(10, 50, 50, 90); },
+        };
+        for (const int toll : {0, 1, 5}) {
+            for (const TRajzolas& belso : rajzok) {
+                const QImage kep = rajz({120, 120}, 1.5, Qt::red, [&](QtVaszon& v) {
+                    v.Ellipse(10, 10, 110, 110);
+                    belso(v);
+                    v.TollSzelesseg(toll);
+                    v.Ellipse(30, 30, 90, 90);
+                });
+                const QImage minta = rajz({120, 120}, 1.5, Qt::white, [&](QtVaszon& v) {
+                    v.TollSzelesseg(toll);
+                    v.Ellipse(30, 30, 90, 90);
+                });
+                const QRect benne(70, 70, 40, 40);  // a square in the inner circle, device pixels
+                QCOMPARE(kep.copy(benne), minta.copy(benne));
+                QCOMPARE(szurke(kep, 60, 91), 255);
+            }
+        }
+    }
+
+    void azIsmeteltSzovegUgyanAz() {
+        const TRajzolas szoveg = [](QtVaszon& v) {
+            v.Betu("Liberation Sans", 20);
+            v.TextOut(5, 5, "28°58'");
+        };
+        const QImage elso = rajz({100, 30}, 1.25, Qt::white, szoveg);
+        QVERIFY(feketeseg(elso) > 100);
+        QCOMPARE(rajz({100, 30}, 1.25, Qt::white, szoveg), elso);
+        // The same text in another size and another face in between.
+        const QImage mas = rajz({100, 30}, 1.25, Qt::white, [](QtVaszon& v) {
+            v.Betu("Liberation Sans", 12);
+            v.TextOut(5, 5, "28°58'");
+        });
+        QVERIFY(feketeseg(mas) < feketeseg(elso));
+        QCOMPARE(rajz({100, 30}, 1.25, Qt::white, szoveg), elso);
+    }
+
     void aSzovegFeherDobozaACella_data() {
         QTest::addColumn<QString>("nev");
         QTest::addColumn<QString>("szoveg");

@@ -41,7 +41,7 @@ bool nyariIdoJelolt(const QWidget& d) {
     const auto* mezo = vezerlo<QSpinBox>(d, "SpinEditNyariidosz1");
     const bool szines = mezo->findChild<QLineEdit*>()->palette().color(QPalette::Text) !=
                         vezerlo<QSpinBox>(d, "SpinEditMperc1")->palette().color(QPalette::Text);
-    if (szines == mezo->toolTip().isEmpty()) qFatal("colour and tooltip disagree");
+    if (szines != mezo->toolTip().startsWith("Eltér")) qFatal("colour and tooltip disagree");
     return szines;
 }
 

@@ -4,6 +4,8 @@
 #include <QEvent>
 #include <QPalette>
 
+#include "windows/sugok.h"
+
 namespace {
 
 constexpr QRgb vilagosHatteren = 0xFFA80000;
@@ -26,7 +28,8 @@ TMezoJeloles::TMezoJeloles(QWidget& mezo) : QObject(&mezo), mezo_(mezo), sor_(*m
 
 void TMezoJeloles::allit(const QString& miert) {
     const bool uj = !miert.isEmpty();
-    if (uj && !jelolt_) sajatSugo_ = mezo_.toolTip();
+    // A field may be marked before its first showing gives it its tooltip.
+    if (uj && !jelolt_) sajatSugo_ = mezo_.toolTip().isEmpty() ? Sugo(mezo_) : mezo_.toolTip();
     if (uj || jelolt_) mezo_.setToolTip(uj ? miert : sajatSugo_);
     if (uj == jelolt_) return;
     jelolt_ = uj;

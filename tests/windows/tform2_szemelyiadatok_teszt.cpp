@@ -41,7 +41,8 @@ bool nyariIdoJelolt(const QWidget& d) {
     const auto* mezo = vezerlo<QSpinBox>(d, "SpinEditNyariidosz1");
     const bool szines = mezo->findChild<QLineEdit*>()->palette().color(QPalette::Text) !=
                         vezerlo<QSpinBox>(d, "SpinEditMperc1")->palette().color(QPalette::Text);
-    if (szines != mezo->toolTip().startsWith("Eltér")) qFatal("colour and tooltip disagree");
+    const bool sajat = mezo->toolTip() == "Nyári időszámítás: 0 vagy 1 óra";
+    if (szines == sajat) qFatal("colour and tooltip disagree");
     return szines;
 }
 

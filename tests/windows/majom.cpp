@@ -163,7 +163,7 @@ void TMajom::feljegyzes(int sorszam, const QString& mi) {
     for (const char bajt : mi.toStdString() + f.cim + f.statusz[0] + f.statusz[1] + f.statusz[3])
         e_.lenyomat = (e_.lenyomat ^ static_cast<unsigned char>(bajt)) * 0x100000001B3U;
     if (!naplo) return;
-    fprintf(stderr, "%llu/%d %s [%s | %s | %s | %s]\n", static_cast<unsigned long long>(mag_), sorszam,
+    fprintf(stderr, "%llu/%d %016llx %s [%s | %s | %s | %s]\n", static_cast<unsigned long long>(mag_), sorszam, static_cast<unsigned long long>(e_.lenyomat),
             qPrintable(mi), f.statusz[0].c_str(), f.statusz[3].c_str(), f.statusz[1].c_str(), f.cim.c_str());
 }
 

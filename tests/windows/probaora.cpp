@@ -1,5 +1,6 @@
 #include "probaora.h"
 
+#include <algorithm>
 #include <ctime>
 #include <sys/syscall.h>
 #include <sys/time.h>
@@ -48,10 +49,13 @@ extern "C" int gettimeofday(timeval* hova, void*) noexcept {
 }
 
 TProbaOra::TProbaOra(std::int64_t masodperc) {
-    // What began before goes on from where it was.
+    // The toolkit rounds its timers to round times, so that a run has to begin at one. Never back from there:
+    // timers of the toolkit's own may be under way.
+    constexpr std::int64_t kerek = 1000 * masodpercben;
     timespec most{};
     clock_gettime(CLOCK_MONOTONIC, &most);
-    if (!ora.jar) ora.indulas = most.tv_sec * masodpercben + most.tv_nsec;
+    ora.indulas = std::max(ora.indulas, most.tv_sec * masodpercben);
+    ora.indulas += kerek - ora.indulas % kerek;
     ora.jar = true;
     allit(masodperc);
 }

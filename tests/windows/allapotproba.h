@@ -19,18 +19,21 @@ inline QStringList allapotHibai(const Allapot& a, bool hiheto) {
         if (!igaz) hibak << mi;
     };
     const auto kozte = [](auto ertek, auto also, auto felso) { return ertek >= also && ertek <= felso; };
-    const auto fokok = [&](const auto& sor, double felso) {
+    const auto fokok = [&](const auto& sor, double also, double felso) {
         return std::all_of(sor.begin(), sor.end(),
-                           [&](double x) { return std::isfinite(x) && (!hiheto || kozte(x, 0.0, felso)); });
+                           [&](double x) { return std::isfinite(x) && (!hiheto || kozte(x, also, felso)); });
     };
     const TKeplet& k = a.Keplet;
-    kell(fokok(k.bolygo, 360), "longitudes of the bodies");
-    kell(fokok(k.hazCsucs, 361), "cusps");  // 360 and a little above is possible
+    kell(fokok(k.bolygo, 0, 360), "longitudes of the bodies");
+    // Far in the west the sidereal time of the small hours is negative: they read the table's first row
+    // backwards.
+    constexpr double sor = 15;
+    kell(fokok(k.hazCsucs, -sor, 360 + sor), "cusps");
     kell(std::all_of(k.mozgas.begin(), k.mozgas.end(),
                      [](char c) { return c == 'D' || c == 'R' || c == 'S'; }),
          "letters of motion");
-    for (const auto& pontok : a.Rajz.FenyszogPontok) kell(fokok(pontok, 360), "aspect points");
-    for (const auto& sor : a.OrbisTabla) kell(fokok(sor, 360), "orbs");
+    for (const auto& pontok : a.Rajz.FenyszogPontok) kell(fokok(pontok, 0, 360), "aspect points");
+    for (const auto& orbisok : a.OrbisTabla) kell(fokok(orbisok, 0, 360), "orbs");
     kell(kozte(static_cast<int>(a.KepletTipus), 1, 3), "view");
     kell(!hiheto || (kozte(k.pillanat.ora, 0, 23) && kozte(k.pillanat.perc, 0, 59) &&
                      kozte(k.pillanat.mperc, 0, 59)),

@@ -102,6 +102,7 @@ TMajomEredmeny TMajom::fut(int legfeljebb) {
     idozito_.start(0);
     fohurok_.exec();
     idozito_.stop();
+    QApplication::clipboard()->clear();  // a picture in it is as large as all the rest
     if (e_.hibak.isEmpty()) vegVizsgalat();
     QDir::setCurrent(QDir::rootPath());
     return e_;
@@ -151,7 +152,7 @@ void TMajom::lezaras() {
         e_.hibak << "can't be closed: " + nev(*ablak);
         ablak->hide();
     } else if (lezarasok_ % 2 == 1) {
-        QTest::keyClick(ablak, Qt::Key_Escape);
+        leut(Qt::Key_Escape);
     } else {
         ablak->close();
     }
@@ -254,13 +255,21 @@ QString TMajom::kattintas() {
     return mi;
 }
 
+/// Mostly one of those that were pressed least, so that all have their turn.
 QString TMajom::gombnyomas() {
     QWidget* ablak = kezben();
-    auto* gomb = ablak == nullptr ? nullptr : valamelyik<QAbstractButton>(*ablak);
-    if (gomb == nullptr || ablak->windowHandle() == nullptr) return {};
-    const QString mi = QStringLiteral("button %1 of %2").arg(nev(*gomb), nev(*ablak));
+    if (ablak == nullptr || ablak->windowHandle() == nullptr) return {};
+    const auto neve = [ablak](const QWidget& gomb) { return nev(gomb) + " of " + nev(*ablak); };
+    auto* gomb = valamelyik<QAbstractButton>(*ablak);
+    if (gomb == nullptr) return {};
+    for (int i = 0; i < 4; ++i) {
+        auto* masik = valamelyik<QAbstractButton>(*ablak);
+        if (nyomasok_.value(neve(*masik)) < nyomasok_.value(neve(*gomb))) gomb = masik;
+    }
+    const QString mi = neve(*gomb);
+    ++nyomasok_[mi];
     QTest::mouseClick(ablak->windowHandle(), Qt::LeftButton, {}, gomb->mapTo(ablak, gomb->rect().center()));
-    return mi;
+    return "button " + mi;
 }
 
 QString TMajom::mezoKitoltes() {
@@ -270,28 +279,33 @@ QString TMajom::mezoKitoltes() {
     if (mezo == nullptr) return {};
     QString mi = QStringLiteral("field %1 of %2").arg(nev(*mezo->parentWidget()), nev(*ablak));
     QTest::mouseClick(ablak->windowHandle(), Qt::LeftButton, {}, mezo->mapTo(ablak, mezo->rect().center()));
-    if (QWindow* w = fokusz(); w != nullptr) QTest::keyClick(w, Qt::Key_A, Qt::ControlModifier);
+    leut(Qt::Key_A, Qt::ControlModifier);
     const QString szoveg =
         veletlen_.egyszer(2) ? QString::number(veletlen_.koz(-200, 2200)) : majomSzoveg(veletlen_);
     beut(szoveg.left(20));
     return mi;
 }
 
+/// The press may be the end of the window.
+void TMajom::leut(Qt::Key billentyu, Qt::KeyboardModifiers m, const QString& szoveg) {
+    const QPointer<QWindow> ablak(fokusz());
+    if (ablak != nullptr) QTest::sendKeyEvent(QTest::Press, ablak, billentyu, szoveg, m);
+    if (ablak != nullptr) QTest::sendKeyEvent(QTest::Release, ablak, billentyu, szoveg, m);
+}
+
 QString TMajom::billentyu() {
-    QWindow* ablak = fokusz();
-    if (ablak == nullptr) return {};
+    if (fokusz() == nullptr) return {};
     const Qt::Key b = veletlen_.egyik(billentyuk);
     const Qt::KeyboardModifiers m = modositok(veletlen_);
     const QString mi = QStringLiteral("key ") + QKeySequence(b | m).toString();
-    QTest::keyClick(ablak, b, m);
+    leut(b, m, b < Qt::Key_Escape ? QString(QChar(b)) : QString());
     return mi;
 }
 
 void TMajom::beut(const QString& szoveg) {
     for (const QChar c : szoveg) {
-        QWindow* ablak = fokusz();
-        if (ablak == nullptr || vege_) return;
-        QTest::sendKeyEvent(QTest::Click, ablak, Qt::Key_unknown, QString(c), Qt::NoModifier);
+        if (vege_) return;
+        leut(Qt::Key_unknown, Qt::NoModifier, QString(c));
     }
 }
 
@@ -303,7 +317,7 @@ QString TMajom::szovegbeiras() {
 
 QString TMajom::beillesztes() {
     QApplication::clipboard()->setText(majomSzoveg(veletlen_));
-    if (QWindow* ablak = fokusz()) QTest::keyClick(ablak, Qt::Key_V, Qt::ControlModifier);
+    leut(Qt::Key_V, Qt::ControlModifier);
     return "paste";
 }
 
@@ -391,7 +405,7 @@ QString TMajom::valasz() {
     const QWidget* ablak = QApplication::activeModalWidget();
     if (ablak == nullptr || ablak->windowHandle() == nullptr) return {};
     const QString mi = "answer " + nev(*ablak);
-    QTest::keyClick(ablak->windowHandle(), veletlen_.egyszer(3) ? Qt::Key_Escape : Qt::Key_Return);
+    leut(veletlen_.egyszer(3) ? Qt::Key_Escape : Qt::Key_Return);
     return mi;
 }
 
@@ -401,10 +415,9 @@ QString TMajom::tores() {
 
 QString TMajom::jelszo() {
     if (!a_->form11.isVisible() || QApplication::activeModalWidget() != &a_->form11) return {};
-    QTest::keyClick(&a_->form11, Qt::Key_A, Qt::ControlModifier);
+    leut(Qt::Key_A, Qt::ControlModifier);
     for (const char betu : std::string(helyesJelszo))
-        if (auto* mezo = vezerlo<QLineEdit>(a_->form11, "Edit1"); a_->form11.isVisible())
-            QTest::keyClick(mezo, betu);
+        if (a_->form11.isVisible()) leut(Qt::Key_unknown, Qt::NoModifier, QString(QChar(betu)));
     return "password";
 }
 

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <set>
 
+#include <QHash>
 #include <QStringList>
 #include <QTimer>
 
@@ -74,6 +75,7 @@ private:
     /// The window that takes what the user does.
     QWidget* kezben();
     QWindow* fokusz();
+    void leut(Qt::Key billentyu, Qt::KeyboardModifiers m = Qt::NoModifier, const QString& szoveg = {});
     void beut(const QString& szoveg);
     template <typename T>
     T* valamelyik(QWidget& ablak);
@@ -96,6 +98,7 @@ private:
     int cselekvesSzintje_ = 0;  ///< nesting of message loops at the event under way
     bool vege_ = false;
     int lezarasok_ = 0;
-    QList<QAction*> menu_;  ///< in the order in which they come next
+    QList<QAction*> menu_;          ///< in the order in which they come next
+    QHash<QString, int> nyomasok_;  ///< of each button
     TMajomEredmeny e_;
 };

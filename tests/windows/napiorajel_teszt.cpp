@@ -28,8 +28,9 @@ constexpr int alapOrajelek = egyOra;  // unoptimized and checked it takes much l
 constexpr std::int64_t induloIdo = 1'709'596'800;  // 2024-03-05 0:00:00
 
 /// What one moment may need more than another: the length of a text, a letter's picture that was not drawn
-/// before. A fifth of a byte a tick, where the least that could be left behind is many bytes a recompute.
-constexpr qint64 ingadozas = 64 * 1024;
+/// before. It does not depend on how long one waits. In six hours it is a tenth of a byte a tick, or 24 bytes
+/// a full recompute: less than the smallest thing that either could leave behind.
+constexpr qint64 ingadozas = 8 * 1024;
 
 qint64 foglalt() {
     return static_cast<qint64>(__sanitizer_get_current_allocated_bytes != nullptr

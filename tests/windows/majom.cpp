@@ -24,11 +24,10 @@ constexpr const char* helyesJelszo = "ab";
 std::uint64_t futoMag_ = 0;
 int futoEsemeny_ = 0;
 
-/// The store as the run shall find it; it is read when the windows are made.
-bool jelszoElokeszites(TVeletlen& v) {
-    const bool van = v.egyszer(4);
-    TJelszoTar(TJelszoTar::alapFajl()).ment(van ? helyesJelszo : "");
-    return van;
+/// The store as the run shall find it, in a folder of its own; it is read when the windows are made.
+void jelszoElokeszites(TVeletlen& v, const QString& mappa) {
+    qputenv("XDG_CONFIG_HOME", mappa.toUtf8());
+    TJelszoTar(TJelszoTar::alapFajl()).ment(v.egyszer(4) ? helyesJelszo : "");
 }
 
 constexpr Qt::Key billentyuk[]{
@@ -78,8 +77,8 @@ TMajom::TMajom(std::uint64_t mag)
       ora_(induloIdo),
       fajlok_(veletlen_, hihetetlen_),
       parbeszed_(veletlen_, fajlok_),
-      hang_(veletlen_),
-      vanJelszo_(jelszoElokeszites(veletlen_)) {
+      hang_(veletlen_) {
+    jelszoElokeszites(veletlen_, fajlok_.mappa() + "/beallitas");
     futoMag_ = mag;
     futoEsemeny_ = 0;
     QDir::setCurrent(fajlok_.mappa());

@@ -87,7 +87,6 @@ private:
     TMajomFajlok fajlok_;
     TMajomParbeszed parbeszed_;
     TMajomHang hang_;
-    bool vanJelszo_;
     std::unique_ptr<TFrissAblakok> a_;
 
     QTimer idozito_;

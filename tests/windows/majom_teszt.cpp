@@ -9,8 +9,6 @@
 #include <malloc.h>
 #include <unistd.h>
 
-#include <QStandardPaths>
-
 #include "majom.h"
 
 /// What the sanitizers call before they end the program; there is none without them.
@@ -76,7 +74,6 @@ class MajomTeszt : public QObject {
 
 private slots:
     void initTestCase() {
-        QStandardPaths::setTestModeEnabled(true);
         sajatBetukBetoltese();
         elozoKezelo = qInstallMessageHandler(uzenetSzures);
         for (const int szam : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGALRM, SIGTERM})

@@ -92,7 +92,6 @@ private:
     QTimer idozito_;
     QEventLoop fohurok_;
     int legfeljebb_ = 0;
-    int kezdoObjektumok_ = 0;
     bool cselekszik_ = false;
     int cselekvesSzintje_ = 0;  ///< nesting of message loops at the event under way
     bool vege_ = false;

@@ -19,7 +19,7 @@ extern "C" void __sanitizer_set_death_callback(void (*mi)()) __attribute__((weak
 namespace {
 
 constexpr int alapEsemenyek = 5000;
-constexpr int egyFutas = 2500;     ///< events in a run of the program at most
+constexpr int egyFutas = 1000;     ///< events in a run of the program at most
 constexpr int sajatja = 8;         ///< widgets that the toolkit makes once for itself and keeps
 constexpr unsigned turelem = 300;  ///< seconds without a run's end: the program hangs
 

@@ -295,8 +295,8 @@ QString TMajom::mezoKitoltes() {
 /// The press may be the end of the window.
 void TMajom::leut(Qt::Key billentyu, Qt::KeyboardModifiers m, const QString& szoveg) {
     const QPointer<QWindow> ablak(fokusz());
-    if (ablak != nullptr) QTest::sendKeyEvent(QTest::Press, ablak, billentyu, szoveg, m);
-    if (ablak != nullptr) QTest::sendKeyEvent(QTest::Release, ablak, billentyu, szoveg, m);
+    if (ablak != nullptr) QTest::simulateEvent(ablak, true, billentyu, m, szoveg, false);
+    if (ablak != nullptr) QTest::simulateEvent(ablak, false, billentyu, m, szoveg, false);
 }
 
 QString TMajom::billentyu() {

@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr int felsoTav = 30;  // pixels
+constexpr int szokasosFelsoTav = 30;  // pixels
 
 /// Place along one axis: middle of the main window less the half of the window, capped by the main one's
 /// half.
@@ -19,7 +19,7 @@ void kozepre(QWidget& ablak, const QWidget& fo) {
 }
 
 void felulKozepre(QWidget& ablak, const QWidget& fo) {
-    ablak.move(kozepHely(fo.x(), fo.width(), ablak.width()), fo.y() + felsoTav);
+    ablak.move(kozepHely(fo.x(), fo.width(), ablak.width()), fo.y() + szokasosFelsoTav);
 }
 
 void jobbraFent(QWidget& ablak, const QWidget& fo, int felsoTav) {

@@ -10,16 +10,16 @@
 namespace {
 
 QtMessageHandler regi = nullptr;
-bool waylandHianyzik = false;
+bool nincsWayland = false;
 
 void uzenet(QtMsgType fajta, const QMessageLogContext& hol, const QString& szoveg) {
     if (fajta == QtFatalMsg) {
-        std::fprintf(stderr, "%s\n", qPrintable(kijelzoHiba(waylandHianyzik)));
+        std::fprintf(stderr, "%s\n", qPrintable(kijelzoHiba(nincsWayland)));
         std::_Exit(1);
     }
     const std::string_view targy = hol.category != nullptr ? hol.category : "";
     if (targy.starts_with("qt.qpa"))
-        waylandHianyzik |= szoveg.startsWith("Could not find the Qt platform plugin \"wayland");
+        nincsWayland |= szoveg.startsWith("Could not find the Qt platform plugin \"wayland");
     else
         regi(fajta, hol, szoveg);
 }
@@ -33,7 +33,7 @@ QString kijelzoHiba(bool waylandHianyzik) {
 }
 
 TKijelzoOr::TKijelzoOr() {
-    waylandHianyzik = false;
+    nincsWayland = false;
     regi = qInstallMessageHandler(uzenet);
 }
 

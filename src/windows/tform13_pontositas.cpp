@@ -125,7 +125,7 @@ void TForm13::gombok() {
 
 /// Controls for an analysis of the directions: in their places, but never shown and without any action.
 void TForm13::lathatatlanVezerlok() {
-    const auto elrejtett = [this](QWidget* vezerlo, const char* nev, const QRect& hely) {
+    const auto elrejtett = [](QWidget* vezerlo, const char* nev, const QRect& hely) {
         vezerlo->setObjectName(nev);
         vezerlo->setGeometry(hely);
         vezerlo->hide();

@@ -61,7 +61,11 @@ qt_keszites() {
         return 0
     fi
     qt_epites="$gyorstar/epites-$kulcs"
-    qt_forras
+    # A build that was broken off goes on where it was.
+    if [ ! -f "$qt_epites/forras_kesz" ]; then
+        qt_forras
+        touch "$qt_epites/forras_kesz"
+    fi
     qt_beallit
     cmake --build "$qt_epites/build" -j "$magok"
     cmake --install "$qt_epites/build" --strip

@@ -72,6 +72,8 @@ done
 xdotool key Tab
 xdotool type --delay 30 "Szeged"
 kep 04-beirva
+xdotool key Return # takes the place out of the list
+sleep 1
 xdotool key Return
 kep 05-keplet 3
 

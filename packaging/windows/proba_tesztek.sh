@@ -12,15 +12,21 @@ cp -r build/windows/keszlet "$programok"
 cp "$qt/bin/Qt6Test.dll" "$programok"
 find build/windows-tesztek -name '*.exe' -exec cp {} "$programok" \;
 
-# A program's result is in its exit code; its last lines say how many tests there were.
+# A program's result is in its exit code; its last lines say how many tests there were. A program of windows has no output of
+# its own: the toolkit's tests write into a file.
 futtat() {
     nev=$1
+    naplo="$hely/$nev.log"
     shift
-    if (cd "$programok" && timeout 300 wine "./$nev.exe" "$@") >"$hely/$nev.log" 2>&1; then
-        echo "$nev: $(grep -aE '^(Totals|\[  PASSED  \])' "$hely/$nev.log" | tr -d '\r' | tail -n 1)"
+    kod=0
+    (cd "$programok" && timeout 300 wine "./$nev.exe" "$@") >"$naplo" 2>&1 || kod=$?
+    [ ! -f "$programok/$nev.txt" ] || naplo="$programok/$nev.txt"
+    osszeg=$(grep -aE '^(Totals|\[  PASSED  \])' "$naplo" | tr -d '\r' | tail -n 1)
+    if [ "$kod" = 0 ]; then
+        echo "$nev: $osszeg"
     else
-        echo "$nev: exit code $?, $(grep -aE '^(Totals|\[  (PASSED|FAILED)  \]) ' "$hely/$nev.log" | tr -d '\r' | head -n 1)"
-        grep -aE '^FAIL|\[  FAILED  \] [A-Z]' "$hely/$nev.log" | tr -d '\r' | sort -u | sed 's/^/    /'
+        echo "$nev: exit code $kod, $osszeg"
+        grep -aE '^FAIL|\[  FAILED  \] [A-Z]' "$naplo" | tr -d '\r' | sort -u | sed 's/^/    /'
         rossz="$rossz $nev"
     fi
 }
@@ -36,8 +42,11 @@ packaging/windows/egyezik | tail -n 1
 rossz=""
 for program in "$programok"/teszt_*.exe; do
     nev=$(basename "$program" .exe)
-    [ -f "$hely/$nev.log" ] && [ "$hely/$nev.log" -nt "$program" ] && continue
-    case $nev in teszt_keplet_json) continue ;; esac # it drives the program through a shell
-    futtat "$nev"
+    case $nev in
+        teszt_tables | teszt_engine | teszt_chart | teszt_drawing | teszt_files | teszt_predictive | teszt_commands | \
+            teszt_events | teszt_rectify) ;; # done above
+        teszt_keplet_json) ;;                # it drives the program through a shell
+        *) futtat "$nev" -o "$nev.txt,txt" ;;
+    esac
 done
 [ -z "$rossz" ] || echo "Tests of the windows that do not pass under Wine:$rossz"

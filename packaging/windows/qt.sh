@@ -29,6 +29,9 @@ qt_forras() {
     mkdir -p "$qt_epites"
     (cd "$qt_epites" && sajat_apt source -q "qt6-base=$qt_valtozat")
     mv "$qt_epites"/qt6-base-*/ "$qt_epites/forras"
+    # Without OpenGL one place of the platform plug-in still asks for what only OpenGL declares.
+    sed -i '/^static inline bool isSoftwareGl/,/^}/s/^#if QT_CONFIG(dynamicgl)$/#if QT_CONFIG(dynamicgl) \&\& QT_CONFIG(opengl)/' \
+        "$qt_epites/forras/src/plugins/platforms/windows/qwindowswindow.cpp"
 }
 
 # Only what the program uses: core, gui, widgets, printing, the test library for the window tests. Drawing and text are
@@ -58,7 +61,11 @@ qt_keszites() {
         return 0
     fi
     qt_epites="$gyorstar/epites-$kulcs"
-    qt_forras
+    # A build that was broken off goes on where it was.
+    if [ ! -f "$qt_epites/forras_kesz" ]; then
+        qt_forras
+        touch "$qt_epites/forras_kesz"
+    fi
     qt_beallit
     cmake --build "$qt_epites/build" -j "$magok"
     cmake --install "$qt_epites/build" --strip

@@ -10,8 +10,12 @@ namespace {
 
 /// The shared libraries that the process holds; without them where the system does not tell.
 QByteArray konyvtarak() {
+#ifdef Q_OS_WIN
+    return {};
+#else
     QFile terkep("/proc/self/maps");
     return terkep.open(QIODevice::ReadOnly) ? terkep.readAll() : QByteArray();
+#endif
 }
 
 QByteArray azonosKulcs(const char* jelszo, const char* so, int ismetlesek) {

@@ -142,12 +142,14 @@ QFont cellaMagassaguBetu(const QString& nev, int magassag, int dpi) {
 }
 
 TSzovegAlak szovegAlak(const QString& betu, int magassag, const QString& szoveg) {
-    const QRawFont& nyers = meretezettBetu(betu, magassag);
+    const QRawFont& nyers = meretezettBetu(betu.toStdString(), magassag).betu;
     const TJelSor sor = jelSor(nyers, szoveg);
+    const QList<quint32> jelek = sor.futam.glyphIndexes();
+    const QList<QPointF> helyek = sor.futam.positions();
     TSzovegAlak ki{{}, sor.szelesseg, nyers.ascent()};
-    for (qsizetype i = 0; i < sor.jelek.size(); ++i)
-        ki.alak.addPath(nyers.pathForGlyph(sor.jelek[i]).translated(sor.helyek[i]));
-    if (!sor.jelek.isEmpty()) return ki;
+    for (qsizetype i = 0; i < jelek.size(); ++i)
+        ki.alak.addPath(nyers.pathForGlyph(jelek[i]).translated(helyek[i]));
+    if (sor.megvan) return ki;
     constexpr int pixelPont = 72;  // at this resolution a point is a pixel
     const QFont tartalek = cellaMagassaguBetu(betu, magassag, pixelPont);
     QFont pixeles = tartalek;

@@ -432,7 +432,9 @@ void TMajom::allapotVizsgalat() {
     for (const QWidget* ablak : ablakok())
         if (ablak->isVisible()) e_.ablakok.insert(ablak->objectName());
     const Allapot& a = a_->allapot();
-    if (a.VisszaMod) e_.fajtak.insert(QString::fromStdString(a.Feliratok.statusz[0]));
+    // A derived chart's panel tells its kind; in another view it tells that.
+    const QString fajta = QString::fromStdString(a.Feliratok.statusz[0]);
+    if (a.VisszaMod && fajta != "Radix" && fajta != "Mundán" && fajta != "Dekád") e_.fajtak.insert(fajta);
     // A body that stands to the second on its target gives a return of very many hours.
     if (a.VisszaMod && a.Keplet.pillanat.ora > 23) hihetetlen_ = true;
     for (const QString& hiba : allapotHibai(a, !hihetetlen_)) e_.hibak << "out of range: " + hiba;

@@ -28,8 +28,9 @@ constexpr int alapOrajelek = egyOra;  // unoptimized and checked it takes much l
 constexpr std::int64_t induloIdo = 1'709'596'800;  // 2024-03-05 0:00:00
 
 /// What one moment may need more than another: the length of a text, pictures of letters that were not drawn
-/// before; it was 14 kB in a day, most of it in its first hours. A single byte left behind by each tick makes
-/// 84 kB in six hours, the 32 bytes of the smallest text left behind by each full recompute 44 kB in a day.
+/// before; it was 14 kB in a day, half of it in its first nine hours. A single byte left behind by each tick
+/// makes 84 kB in six hours, the 32 bytes of the smallest text left behind by each full recompute 44 kB in a
+/// day.
 constexpr qint64 ingadozas = 32 * 1024;
 
 qint64 foglalt() {

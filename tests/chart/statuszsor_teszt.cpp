@@ -27,4 +27,11 @@ TEST(StatuszSor, AzArmcMasodpercetLevagja) {
     EXPECT_EQ(armcSzoveg(k), "ARMC:  07:00:47");
 }
 
+TEST(StatuszSor, AzEgeszFokPercei) {
+    EXPECT_EQ(koordinataSzoveg(19 * 3600, 47 * 3600), "19°0'K  47°0'É");
+    EXPECT_EQ(koordinataSzoveg(-19 * 3600, -47 * 3600), "19°0'Ny  47°0'D");
+    EXPECT_EQ(koordinataSzoveg(19 * 3600 - 1, 47 * 3600 + 59), "18°59'K  47°0'É");
+    EXPECT_EQ(koordinataSzoveg(19 * 3600 + 60, 47 * 3600 - 60), "19°1'K  46°59'É");
+}
+
 }  // namespace

@@ -114,4 +114,34 @@ TEST(TengelyFenyszogek, AzElozoVonalStilusabanRajzol) {
     EXPECT_TRUE(volt);
 }
 
+/// Aspect lines of the large wheel whose ends are these bodies' places.
+int vonalKozottuk(Allapot& a, double egyik, double masik) {
+    const auto hely = [](double hossz, double& x, double& y) {
+        const double szog = (180 - hossz) * 3.141592653589793 / 180;
+        x = 342 + 194 * std::cos(szog);
+        y = 322 + 194 * std::sin(szog);
+    };
+    double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
+    hely(egyik, x1, y1);
+    hely(masik, x2, y2);
+    int szam = 0;
+    for (const auto& v : csak<TVonalMuvelet>(rajz(a)))
+        szam += std::hypot(v.x1 - x1, v.y1 - y1) < 1 && std::hypot(v.x2 - x2, v.y2 - y2) < 1 ? 1 : 0;
+    return szam;
+}
+
+TEST(Fenyszogek, APlutoSoraEsOszlopaIsMegvan) {
+    // Pluto stands at 327, Neptune at 291, the Sun at 3 degrees.
+    Allapot a = probaKeplet(0);
+    a.FenyszogRadix[10][1] = 'P';
+    EXPECT_EQ(vonalKozottuk(a, 327, 3), 1);
+    EXPECT_EQ(vonalKozottuk(a, 3, 327), 0);
+    EXPECT_EQ(szovegek(rajz(a), "P").size(), 1U);
+    a.FenyszogRadix[9][10] = 'P';
+    EXPECT_EQ(vonalKozottuk(a, 291, 327), 1);
+    a.FenyszogRadix[10][9] = 'P';
+    EXPECT_EQ(vonalKozottuk(a, 327, 291), 1);
+    EXPECT_EQ(szovegek(rajz(a), "P").size(), 3U);
+}
+
 }  // namespace

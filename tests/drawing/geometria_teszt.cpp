@@ -93,4 +93,22 @@ TEST(Geometria, AFekvoLapKozepeMarad) {
     EXPECT_EQ(KisKerekGeometria(r).kisSugar, 0);  // no room below: (2000 - 2000) div 2
 }
 
+TEST(Geometria, AGyurukAranyaiNagySugaron) {
+    // At this size a divisor off by one shows in the pixels.
+    const TSugarak s = GyuruSugarak(30000, false);
+    EXPECT_EQ(s.skala, 30000 - 802);
+    EXPECT_EQ(s.bolygo, 29198 - 2950);  // 2919.8 + 30
+    EXPECT_EQ(s.haz, 3925);
+    EXPECT_EQ(s.belso, 3925 - 254);  // 235.5 + 18, to the even
+    EXPECT_EQ(s.mag, 367);
+    const TSugarak lapon = GyuruSugarak(30000, true);
+    EXPECT_EQ(lapon.skala, 29198);
+    EXPECT_EQ(lapon.bolygo, 29198 - 4425);  // 4379.7 + 45
+    EXPECT_EQ(lapon.haz, 6938);
+    EXPECT_EQ(lapon.belso, 6938 - 869);  // 832.56 + 36
+    EXPECT_EQ(lapon.mag, 607);
+    EXPECT_EQ(TollVastagsag(2, 30000), 200);
+    EXPECT_EQ(TollVastagsag(0, 30000), 0);
+}
+
 }  // namespace

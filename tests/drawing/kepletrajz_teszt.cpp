@@ -78,6 +78,21 @@ TEST(Nezetek, NegyvenotAlattNincsenekKisKerekek) {
     }
 }
 
+TEST(Nezetek, NegyvenotosSugarralMegVannakKisKerekek) {
+    // 432 x 300: the centre is 170, (432 - 320) div 2 is 56, and 0.8 x 56 rounds to 45; at 430 to 44.
+    for (int tipus = 1; tipus <= 3; ++tipus) {
+        Allapot a = probaKeplet();
+        const auto sugaru = [&](int szelesseg, int sugar) {
+            int szam = 0;
+            for (const TKorMuvelet& k : csak<TKorMuvelet>(rajz(a, tipus, szelesseg, 300)))
+                szam += k.x > 300 && k.r == sugar ? 1 : 0;
+            return szam;
+        };
+        EXPECT_EQ(sugaru(432, 45), 2) << tipus;  // the outer circle of each small wheel
+        EXPECT_EQ(sugaru(430, 44), 0) << tipus;
+    }
+}
+
 TEST(DekadNezet, AKisMundanKerekAzElozoRajzSzetteriteset_Mutatja) {
     Allapot a = probaKeplet();
     rajz(a, 1);

@@ -1,6 +1,7 @@
 // Frames of the wheels.
 
 #include <cmath>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -136,6 +137,62 @@ TEST(KisMundanKerek, AKullokEsAJegyek) {
     EXPECT_EQ(nap[1].y, 161 + 8 - 10);
     // Pointers from 120 to 120 / 9 + 5 + 120 with pen 1.
     EXPECT_EQ(vonalak(m, 803, 161, 120, 120 / 9.0 + 125, 1), 10);
+}
+
+/// Directions, in whole degrees clockwise from the right, of the lines that `vonalak` counts; each line must
+/// point away from the centre.
+std::multiset<int> iranyok(const std::vector<TMuvelet>& m, int x, int y, double r1, double r2, int toll) {
+    const auto irany = [&](int px, int py) {
+        const auto fok = static_cast<int>(std::lround(std::atan2(py - y, px - x) * 180 / 3.141592653589793));
+        return (fok + 360) % 360;
+    };
+    std::multiset<int> ki;
+    for (const TVonalMuvelet& v : csak<TVonalMuvelet>(m)) {
+        if (vonalak({v}, x, y, r1, r2, toll) == 0) continue;
+        const int fok = irany(v.x2, v.y2);
+        EXPECT_LE(std::abs(std::remainder(fok - irany(v.x1, v.y1), 360)), 2) << fok;
+        ki.insert(fok);
+    }
+    return ki;
+}
+
+/// Whole directions with a step, from a first one.
+std::multiset<int> lepesek(int elso, int lepes) {
+    std::multiset<int> ki;
+    for (int fok = 0; fok < 360; fok += lepes) ki.insert((elso + fok) % 360);
+    return ki;
+}
+
+TEST(Keretek, ATizenketKulloIranyaHarmincFokonkent) {
+    Allapot a = probaKeplet(100);
+    EXPECT_EQ(iranyok(rajz(a, 2), 342, 322, 37, 258, 1), lepesek(0, 30));     // Mundán
+    EXPECT_EQ(iranyok(rajz(a, 3), 342, 322, 25, 258, 1), lepesek(0, 30));     // Dekád
+    EXPECT_EQ(iranyok(rajz(a, 1), 803, 161, 106.7, 135, 2), lepesek(0, 30));  // small Mundán
+    EXPECT_EQ(iranyok(rajz(a, 1), 803, 483, 16, 135, 1), lepesek(0, 30));     // small Dekád
+}
+
+TEST(Keretek, AzOsztasokEsAHazakIranyaAzAszcendenstol) {
+    // The Ascendant at 100 stands at the left, 180: Aries 0 stands at 280, and longitudes grow anticlockwise.
+    Allapot a = probaKeplet(100);
+    const auto m = rajz(a, 1);
+    EXPECT_EQ(iranyok(m, 342, 322, 249, 253, 1), lepesek(0, 1));
+    EXPECT_EQ(iranyok(m, 342, 322, 249, 255, 1), lepesek(0, 5));
+    EXPECT_EQ(iranyok(m, 342, 322, 249, 258, 1), lepesek(0, 10));
+    EXPECT_EQ(iranyok(m, 342, 322, 249, 280, 3), lepesek(10, 30));
+    EXPECT_EQ(iranyok(m, 342, 322, 37, 249, 1), lepesek(0, 30));
+    a = probaKeplet(103);
+    EXPECT_EQ(iranyok(rajz(a, 1), 342, 322, 249, 258, 1), lepesek(3, 10));
+    EXPECT_EQ(iranyok(rajz(a, 1), 342, 322, 249, 280, 3), lepesek(13, 30));
+    // Unequal houses: each line at its own cusp.
+    a = probaKeplet(100);
+    a.Keplet.hazCsucs[2] = 123;
+    a.Keplet.hazCsucs[8] = 303;
+    std::multiset<int> hazak = lepesek(0, 30);
+    hazak.erase(150);
+    hazak.erase(330);
+    hazak.insert(180 - 23);
+    hazak.insert(360 - 23);
+    EXPECT_EQ(iranyok(rajz(a, 1), 342, 322, 37, 249, 1), hazak);
 }
 
 }  // namespace

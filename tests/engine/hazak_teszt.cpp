@@ -149,4 +149,14 @@ TEST(Hazak, ANegativCsillagidoSoraKorbeer) {
     EXPECT_EQ(csucsok(26, 0, 0, 171000), csucsok(2, 0, 0, 171000));
 }
 
+TEST(Hazak, ASzaznyolcvanFokosCsucsSzemkoztjeNulla) {
+    // Sidereal time 12 h is the start of Libra on the meridian, 0 h that of Aries.
+    const THazcsucsok delben = csucsok(12, 0, 0, fok(47));
+    EXPECT_EQ(delben[10], 180);
+    EXPECT_EQ(delben[4], 0);
+    const THazcsucsok ejfelkor = csucsok(0, 0, 0, fok(47));
+    EXPECT_EQ(ejfelkor[10], 0);
+    EXPECT_EQ(ejfelkor[4], 180);
+}
+
 }  // namespace

@@ -59,4 +59,19 @@ TEST(IngresszioParok, AHatarokonNincsTalalat) {
     EXPECT_EQ(IngresszioParok(tavolsagok, szog), " AMB CMD");
 }
 
+TEST(Ingresszio, AParokAzEvSzogebenEsNemMellette) {
+    // Every day of a year: the whole text, by the distances that the search leaves.
+    for (int nap = 0; nap < 365; nap += 7) {
+        Allapot a = szuletes();
+        const std::string szoveg = IngresszioKeres(a, szuletesnap, napokkal(szuletesnap, nap), "Szeged");
+        const double szog = nap * 2 <= 365 ? nap * 360 / 365.0 : 360 - nap * 360 / 365.0;
+        std::string vart;
+        for (int i = 1; i <= 10; ++i)
+            for (int j = i; j <= 10; ++j)
+                if (std::abs(a.Munka.Elteresek[i][j] - szog) < 180 / 365.0)
+                    vart += {' ', static_cast<char>('A' + i - 1), 'M', static_cast<char>('A' + j - 1)};
+        EXPECT_EQ(szoveg, vart) << nap;
+    }
+}
+
 }  // namespace

@@ -3,6 +3,7 @@
 #include "engine/keszlet.h"
 #include "iranyteszt.h"
 #include "predictive/ingresszio.h"
+#include "predictive/natalis.h"
 #include "predictive/tercier.h"
 
 namespace {
@@ -25,6 +26,20 @@ TEST(Natalis, ASzuletesMaradAKepletPillanata) {
         EXPECT_EQ(a.Keplet.helyseg, "Pécs");
         EXPECT_EQ(a.Keplet.hazCsucs, kep);
     }
+}
+
+/// The birth place gives the sidereal time and the latitude, whatever place is on screen.
+TEST(Natalis, ASzuletesHelyevelSzamolEsNemAKepernyoevel) {
+    const Allapot szeged = szuletes();
+    Allapot a = szuletesiKeplet(szuletesnap, "Pécs");
+    ASSERT_NE(a.Keplet.hosszusag, szeged.Keplet.hosszusag);
+    NatalisBolygok(a, szuletesnap, "Szeged");
+    EXPECT_EQ(a.Keplet.hosszusag, szeged.Keplet.hosszusag);
+    EXPECT_EQ(a.Keplet.szelesseg, szeged.Keplet.szelesseg);
+    EXPECT_EQ(a.Keplet.armcOra, szeged.Keplet.armcOra);
+    EXPECT_EQ(a.Keplet.armcPerc, szeged.Keplet.armcPerc);
+    EXPECT_EQ(a.Keplet.armcMperc, szeged.Keplet.armcMperc);
+    EXPECT_EQ(a.Keplet.helyseg, "Pécs");
 }
 
 }  // namespace

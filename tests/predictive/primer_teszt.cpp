@@ -268,4 +268,21 @@ TEST(SolarHaz, ASolarKepletHazai) {
     EXPECT_GT(hazak.size(), 8U);  // a quarter of a day a year: the Sun goes round the houses
 }
 
+TEST(Primer, ARektaszcenzioEgyFordulattalKerulAKorbe) {
+    EXPECT_EQ(rektKorbe(21600), 0);
+    EXPECT_EQ(rektKorbe(21600.5), 0.5);
+    EXPECT_EQ(rektKorbe(21599.5), 21599.5);
+    EXPECT_EQ(rektKorbe(0), 0);
+    EXPECT_EQ(rektKorbe(-0.5), 21599.5);
+    EXPECT_EQ(rektKorbe(-21600), 0);
+}
+
+TEST(Primer, AzAszcendensFerdeAszcenziojaAKorVegenNulla) {
+    // A Midheaven at 16200 minutes: the sum with 5400 is the whole circle and counts as 0.
+    const TFerdeTabla ferde = FerdeSor(47 * 3600);
+    EXPECT_EQ(IranyitottPontok(16200, 0, ferde, 359)[dAsc], 0);
+    EXPECT_EQ(IranyitottPontok(16200, 0, ferde, 360)[dAsc], 0);
+    EXPECT_EQ(IranyitottPontok(16200 - 60, 60, ferde, 360)[dAsc], 0);
+}
+
 }  // namespace

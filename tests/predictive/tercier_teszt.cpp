@@ -125,4 +125,20 @@ TEST(Tercier, AVerdiktekSzovegei) {
     EXPECT_STREQ(ingresszioVerdikt.uresKep, "Nincs szolár-ingresszió!");
 }
 
+TEST(OrbisAblak, AVegeiAKorbeEsnek) {
+    EXPECT_EQ(OrbisAblak(359, 1).felso, 0);
+    EXPECT_EQ(OrbisAblak(358.5, 1).felso, 359.5);
+    EXPECT_EQ(OrbisAblak(359.5, 1).felso, 0.5);
+    EXPECT_EQ(OrbisAblak(1, 1).also, 0);
+    EXPECT_EQ(OrbisAblak(0.5, 1).also, 359.5);
+}
+
+TEST(TercierTalalat, AFelsoHatarNullaFok) {
+    const TOrbisAblak ablak = OrbisAblak(359, 1);
+    EXPECT_TRUE(TercierTalalat(0, ablak));
+    EXPECT_TRUE(TercierTalalat(358, ablak));
+    EXPECT_FALSE(TercierTalalat(0.1, ablak));
+    EXPECT_FALSE(TercierTalalat(357.9, ablak));
+}
+
 }  // namespace

@@ -370,4 +370,23 @@ TEST(LegkozelebbiSor, ElotteVagyUtanaAKozelebbi) {
     EXPECT_EQ(LegkozelebbiSor(v, {2060, 1, 1, 0, 0, 0}), 3);
 }
 
+TEST(Visszateresek, ARetrogradNapLepesNelkulEgyEgeszKor) {
+    // Saturn's first such day past the half of the circle.
+    constexpr std::size_t szaturnusz = 4;
+    int nap = 1;
+    const auto a = [&] { return static_cast<double>(Efemerida[nap].szaturnusz_hossz); };
+    while (Efemerida[nap].mozgas[szaturnusz] != 'R' || a() <= 648000 ||
+           Efemerida[nap + 1].szaturnusz_hossz != Efemerida[nap].szaturnusz_hossz)
+        ++nap;
+    const TEfemeridaNap& allo = Efemerida[nap];
+    Allapot k = szuletes({allo.ev, allo.ho, allo.nap, 12, 0, 0});
+    JulianszambolDatum(nap + julianszamAlap + 1, k.RadixPillanat);  // the search begins the day before
+    // The way is the whole circle: half of it is noon, all of it the next midnight.
+    VisszateresKereses(k, RevolucioFajta(7), a() - 648000);
+    EXPECT_EQ(k.Visszateresek.sorok[1].pillanat, (TPillanat{allo.ev, allo.ho, allo.nap, 12, 0, 0}));
+    EXPECT_EQ(k.Visszateresek.sorok[1].mozgas, 'R');
+    VisszateresKereses(k, RevolucioFajta(7), a());
+    EXPECT_EQ(k.Visszateresek.sorok[1].pillanat, (TPillanat{allo.ev, allo.ho, allo.nap, 24, 0, 0}));
+}
+
 }  // namespace

@@ -16,6 +16,13 @@ struct TKetAblak {
     }
 };
 
+/// Puts the main window where no dialog has to be moved to stay on the tests' screen of 800 by 800.
+void kepernyore(TForm1& fo) {
+    fo.resize(760, 600);
+    fo.move(20, 12);
+    QApplication::processEvents();
+}
+
 }  // namespace
 
 class AblakElhelyezesTeszt : public QObject {
@@ -57,6 +64,52 @@ private slots:
         a.kicsi.resize(300, 900);
         jobbraLent(a.kicsi, a.fo, 18);
         QCOMPARE(a.kicsi.y(), 80 - 18);
+    }
+
+    void aDialogusokAFoablakKozepen() {
+        TFrissAblakok a;
+        szuletes(a);
+        kepernyore(a.form1);
+        const auto kozepen = [&](QWidget& d) {
+            const QRect fo(a.form1.pos(), a.form1.size());
+            QCOMPARE(d.pos(), QPoint(fo.x() + fo.width() / 2 - std::min(d.width(), fo.width()) / 2,
+                                     fo.y() + fo.height() / 2 - std::min(d.height(), fo.height()) / 2));
+            d.hide();
+        };
+        for (const char* pont :
+             {"Szemely_adatok1", "Uj1", "Tercier1", "Szolaringresszio11", "Orbisok1", "Lunar1", "AscPers1"}) {
+            bool volt = false;
+            valasz([&](QWidget& d) {
+                kozepen(d);
+                volt = true;
+            });
+            menu(a.form1, pont);
+            QVERIFY2(volt, pont);
+        }
+        valasz(kozepen);
+        a.form2.eletesemenyek();
+    }
+
+    void aTobbiAblakAFoablakSzelehez() {
+        TFrissAblakok a;
+        szuletes(a);
+        kepernyore(a.form1);
+        const QRect fo(a.form1.pos(), a.form1.size());
+        const auto jobbra = [&](const QWidget& ablak, int y) {
+            QCOMPARE(ablak.pos(), QPoint(fo.x() + fo.width() - ablak.width(), y));
+        };
+        valasz([&](QWidget& d) {
+            jobbra(d, fo.y() + 30);
+            d.hide();
+        });
+        menu(a.form1, "Szimbolumok1");
+        menu(a.form1, "Mundnhzaspontosts1");
+        jobbra(a.form8, fo.y() + fo.height() - 20 - a.form8.height());
+        menu(a.form1, "Primer1");
+        jobbra(a.form12, fo.y() + fo.height() - 18 - a.form12.height());
+        kattint(a.form12, "Button_Pontositas1");
+        QCOMPARE(a.form13.width(), 369);
+        jobbra(a.form13, fo.y() + a.form7.height() + 30);
     }
 
     /// The windows use them as told.

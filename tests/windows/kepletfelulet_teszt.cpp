@@ -115,6 +115,47 @@ private slots:
         QCOMPARE(a.felszin(), vart);
     }
 
+    void aKertFestesASajatMutatasUtanIsMegjon() {
+        KepletFelulet felulet;
+        felulet.resize(100, 80);
+        felulet.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&felulet));
+        QApplication::processEvents();
+        int keresek = 0;
+        connect(&felulet, &KepletFelulet::festesKeres, this, [&] { ++keresek; });
+        felulet.megmutat();
+        QApplication::processEvents();
+        QCOMPARE(keresek, 0);
+        felulet.ervenytelenit();
+        felulet.megmutat();
+        QCOMPARE(keresek, 0);  // shown as it stands; the paint comes with the next turn
+        QApplication::processEvents();
+        QCOMPARE(keresek, 1);
+        felulet.megmutat();
+        QApplication::processEvents();
+        QCOMPARE(keresek, 1);
+    }
+
+    void aFestesKozbeniMutatasNemFestUjra() {
+        QTest::failOnWarning(QRegularExpression("ecursive repaint"));
+        KepletFelulet felulet;
+        felulet.resize(100, 80);
+        int keresek = 0;
+        connect(&felulet, &KepletFelulet::festesKeres, this, [&] {
+            ++keresek;
+            felulet.rajzol([](QtVaszon& vaszon) { vaszon.Ellipse(10, 10, 40, 40); });
+            felulet.megmutat();
+        });
+        felulet.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&felulet));
+        QApplication::processEvents();
+        const int elso = keresek;
+        QVERIFY(elso >= 1);
+        felulet.update();
+        QApplication::processEvents();
+        QCOMPARE(keresek, elso + 1);
+    }
+
     void aSzimbolumValtasNemHagyMaradekot() {
         TJaroAblakok a;
         const QImage elobb = a.felszin();

@@ -311,6 +311,18 @@ private slots:
         });
     }
 
+    void aHelysegListaAzEgeszTabla() {
+        TKetEsemeny a;
+        a.szerkeszt([](QWidget& d) {
+            const auto* lista = vezerlo<QComboBox>(d, "ComboBoxHelyseg1");
+            QCOMPARE(lista->count(), 3138);
+            for (const char* nev : {"Budapest", "Szeged", "Pécs", "Róma", "Wadowice"})
+                QVERIFY2(lista->findText(nev) >= 0, nev);
+            QVERIFY(lista->completer() != nullptr);
+            kattint(d, "Button_Megsem2");
+        });
+    }
+
     void aHosszuSzovegekElfernek() {
         TKetEsemeny a;
         a.szerkeszt([](QWidget& d) {

@@ -1,5 +1,5 @@
-#include <QFile>
 #include <QDate>
+#include <QFile>
 #include <QGroupBox>
 #include <QListWidget>
 #include <QRadioButton>
@@ -279,6 +279,40 @@ private slots:
             }
             QCOMPARE(rend, (QStringList{"ListBox1", "ComboBoxHelyseg1", "Button_Rendben1", "Button_Megsem1",
                                         "ListBox1"}));
+            kattint(d, "Button_Megsem1");
+        });
+    }
+
+    void aKijelzoMezokMindentMegmutatnak() {
+        // What a chart file may hold: any 32 bits as coordinates, and days from the table's first on.
+        TSzuletettKeplet a;
+        a.allapot().Keplet.hosszusag = INT32_MIN;
+        a.allapot().Keplet.szelesseg = INT32_MAX;
+        a.allapot().RadixPillanat = {1900, 1, 2, 12, 0, 0};
+        megnyit(a, "Szolar1", [](QWidget& d) {
+            // 2147483648 = 596523 x 3600 + 14 x 60 + 8
+            QCOMPARE(ertek(d, "SpinEditHosszFok1"), -596523);
+            QCOMPARE(ertek(d, "SpinEditHosszPerc1"), -14);
+            QCOMPARE(ertek(d, "SpinEditSzelFok1"), 596523);
+            QCOMPARE(ertek(d, "SpinEditSzelPerc1"), 14);
+            QCOMPARE(ertek(d, "SpinEditEv1"), 1900);
+            QCOMPARE(ertek(d, "SpinEditHo1"), 1);
+            QCOMPARE(ertek(d, "SpinEditNap1"), 1);
+            QCOMPARE(vezerlo<QLineEdit>(d, "Edit2")->text(), "1");
+            QCOMPARE(vezerlo<QLineEdit>(d, "Edit3")->text(), "1");
+            kattint(d, "Button_Megsem1");
+        });
+        a.allapot().Keplet.hosszusag = -(180 * 3600 + 59 * 60);
+        a.allapot().Keplet.szelesseg = -59 * 60;
+        a.allapot().RadixPillanat = {2078, 1, 1, 12, 0, 0};
+        megnyit(a, "Szolar1", [](QWidget& d) {
+            QCOMPARE(ertek(d, "SpinEditHosszFok1"), -180);
+            QCOMPARE(ertek(d, "SpinEditHosszPerc1"), -59);
+            QCOMPARE(ertek(d, "SpinEditSzelFok1"), 0);
+            QCOMPARE(ertek(d, "SpinEditSzelPerc1"), -59);
+            QCOMPARE(ertek(d, "SpinEditEv1"), 2077);
+            QCOMPARE(ertek(d, "SpinEditHo1"), 12);
+            QCOMPARE(ertek(d, "SpinEditNap1"), 31);
             kattint(d, "Button_Megsem1");
         });
     }

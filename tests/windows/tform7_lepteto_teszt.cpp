@@ -28,6 +28,31 @@ private slots:
         QVERIFY(napSzama(a.allapot().Keplet.pillanat) >= elobb + 3);
     }
 
+    void aGombokRendjeSoronkentBalrolJobbra() {
+        TFrissAblakok a;
+        kattint(a.form1, "PanelButton4Leptet");
+        const QList<QStringList> sorok{
+            {"Button1evp", "Button2evm"},
+            {"Button3hop", "Button4hom"},
+            {"Button5napp", "Button6napm"},
+            {"Button7orap", "Button8oram"},
+            {"Button9percp", "Button10percm", "Button11percpp", "Button12percmm"},
+            {"Button13mpercp", "Button14mpercm", "Button15mpercpp", "Button16mpercmm"}};
+        int felette = -1;
+        for (const QStringList& sor : sorok) {
+            const int y = vezerlo<QPushButton>(a.form7, qPrintable(sor[0]))->y();
+            QVERIFY2(y > felette, qPrintable(sor[0]));
+            felette = y;
+            int balra = -1;
+            for (const QString& nev : sor) {
+                const auto* gomb = vezerlo<QPushButton>(a.form7, qPrintable(nev));
+                QCOMPARE(gomb->y(), y);
+                QVERIFY2(gomb->x() > balra, qPrintable(nev));
+                balra = gomb->x();
+            }
+        }
+    }
+
     void aHelyeFelulKozepen() {
         TFrissAblakok a;
         a.oraIndul();

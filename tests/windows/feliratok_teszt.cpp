@@ -1,0 +1,309 @@
+// What stands on the windows: titles, captions beside the fields, buttons, and the fields' ranges.
+
+#include <QGroupBox>
+#include <QListWidget>
+#include <QRadioButton>
+
+#include "ablakteszt.h"
+
+namespace {
+
+struct TFelirat {
+    const char* nev;
+    const char* felirat;
+};
+
+struct THatar {
+    const char* nev;
+    int also;
+    int felso;
+};
+
+QRect hely(const QWidget& ablak, const QWidget& w) {
+    return {w.mapTo(&ablak, QPoint()), w.size()};
+}
+
+/// Caption of a field: of the visible labels that begin left of it in its row, the nearest.
+QString mezoFelirat(const QWidget& ablak, const char* nev) {
+    const QRect mezo = hely(ablak, *vezerlo<QWidget>(ablak, nev));
+    QString legkozelebb;
+    int balra = -1;
+    for (const auto* felirat : ablak.findChildren<QLabel*>()) {
+        const QRect r = hely(ablak, *felirat);
+        const bool egySor = r.top() <= mezo.center().y() && mezo.center().y() <= r.bottom() + 4;
+        if (!felirat->isVisible() || felirat->text().isEmpty() || !egySor) continue;
+        if (r.left() >= mezo.left() || r.left() <= balra) continue;
+        balra = r.left();
+        legkozelebb = felirat->text();
+    }
+    return legkozelebb.remove('&');
+}
+
+template <std::size_t N>
+void mezoFeliratok(QWidget& ablak, const TFelirat (&vart)[N]) {
+    ablak.show();
+    QApplication::processEvents();
+    for (const auto& [nev, felirat] : vart)
+        QCOMPARE(nev + (": " + mezoFelirat(ablak, nev)), nev + QString(": ") + felirat);
+    ablak.hide();
+}
+
+template <std::size_t N>
+void gombFeliratok(const QWidget& ablak, const TFelirat (&vart)[N]) {
+    for (const auto& [nev, felirat] : vart)
+        QCOMPARE(vezerlo<QPushButton>(ablak, nev)->text().remove('&'), QString(felirat));
+}
+
+template <std::size_t N>
+void hatarok(const QWidget& ablak, const THatar (&vart)[N]) {
+    for (const auto& [nev, also, felso] : vart) {
+        const auto* mezo = vezerlo<QSpinBox>(ablak, nev);
+        QVERIFY2(mezo->minimum() == also && mezo->maximum() == felso, nev);
+    }
+}
+
+/// Whether a window has each of these labels, as often as it stands here.
+void cimkek(QWidget& ablak, const QStringList& vart) {
+    dynamic_cast<TKesobbiAblak&>(ablak).elkeszites();
+    QStringList megvan;
+    for (const auto* felirat : ablak.findChildren<QLabel*>()) megvan << felirat->text().remove('&');
+    for (const QString& felirat : vart) QVERIFY2(megvan.removeOne(felirat), qPrintable(felirat));
+}
+
+}  // namespace
+
+class FeliratokTeszt : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { sajatBetukBetoltese(); }
+
+    void azAblakokCimei() {
+        const TFrissAblakok a;
+        const std::pair<const QWidget*, const char*> cimek[]{{&a.form2, "Személyi adatok"},
+                                                             {&a.form3, "Tercier direkció"},
+                                                             {&a.form4, "Szolárrev"},
+                                                             {&a.form5, "Hanglejátszás"},
+                                                             {&a.form6, "Orbis beállítása"},
+                                                             {&a.form7, "Léptet"},
+                                                             {&a.form8, "Mundánházas pontosítás"},
+                                                             {&a.form9, "Szimbólumok"},
+                                                             {&a.form10, "Életesemények"},
+                                                             {&a.form11, "Kérem a jelszót!"},
+                                                             {&a.form12, "Primer direkció"},
+                                                             {&a.form13, "Pontosítás"},
+                                                             {&a.form14, "Nap-áthaladások"}};
+        for (const auto& [ablak, cim] : cimek) QCOMPARE(ablak->windowTitle(), QString(cim));
+    }
+
+    void aSzemelyiAdatok() {
+        TFrissAblakok a;
+        mezoFeliratok(a.form2, {{"EditNev1", "Név:"},
+                                {"SpinEditEv1", "Év:"},
+                                {"SpinEditHo1", "Hó:"},
+                                {"SpinEditNap1", "Nap:"},
+                                {"SpinEditOra1", "Óra:"},
+                                {"SpinEditPerc1", "Perc:"},
+                                {"SpinEditMperc1", "Mp:"},
+                                {"ComboBoxHelyseg1", "Helység:"},
+                                {"SpinEditIdozona1", "Időzóna (+/K, -/Ny):"},
+                                {"SpinEditNyariidosz1", "Nyári idősz. (0/1):"},
+                                {"SpinEditHosszFok1", "fok:"},
+                                {"SpinEditHosszPerc1", "perc:"},
+                                {"SpinEditSzelFok1", "fok:"},
+                                {"SpinEditSzelPerc1", "perc:"}});
+        cimkek(a.form2, {"Hosszúság (+/K, -/Ny):", "Szélesség (+/É, -/D):", "Jegyzet:"});
+        gombFeliratok(a.form2, {{"Button_Rendben1", "Rendben"},
+                                {"Button_Megsem1", "Mégsem"},
+                                {"Button_Eletesemenyek1", "Életesemények"}});
+        hatarok(a.form2, {{"SpinEditEv1", 1900, 2068},
+                          {"SpinEditHo1", 1, 12},
+                          {"SpinEditNap1", 1, 31},
+                          {"SpinEditOra1", 0, 23},
+                          {"SpinEditPerc1", 0, 59},
+                          {"SpinEditMperc1", 0, 59},
+                          {"SpinEditIdozona1", -12, 12},
+                          {"SpinEditNyariidosz1", 0, 1},
+                          {"SpinEditHosszFok1", -180, 180},
+                          {"SpinEditHosszPerc1", 0, 59},
+                          {"SpinEditSzelFok1", -180, 180},
+                          {"SpinEditSzelPerc1", 0, 59}});
+    }
+
+    void azIdovalaszto() {
+        TFrissAblakok a;
+        for (const QWidget* ablak : {static_cast<QWidget*>(&a.form2), static_cast<QWidget*>(&a.form14)}) {
+            const auto* csoport = vezerlo<QGroupBox>(*ablak, "RadioGroupIdovalaszto1");
+            QCOMPARE(csoport->title().remove('&'), "Idő-választó");
+            QStringList feliratok;
+            for (const auto* radio : csoport->findChildren<QRadioButton*>())
+                feliratok << radio->text().remove('&');
+            QCOMPARE(feliratok,
+                     (QStringList{"Zóna idő (ZN)", "Helyi középidő (LMT)", "Greenwich-i középidő (GMT)"}));
+        }
+    }
+
+    void aTercierEsAzIngresszio() {
+        TFrissAblakok a;
+        mezoFeliratok(a.form3, {{"SpinEditEv1", "Év:"}, {"SpinEditHo1", "Hó:"}, {"SpinEditNap1", "Nap:"}});
+        valasz([](QWidget& d) {
+            QCOMPARE(mezoFelirat(d, "SpinEditOrbis1"), "Orbis napokban:");
+            QCOMPARE(vezerlo<QWidget>(d, "SpinEditOrbis1")->pos(), QPoint(152, 88));
+            QCOMPARE(vezerlo<QWidget>(d, "Orbis_napokban1")->pos(), QPoint(24, 88));
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Tercier1");
+        QCOMPARE(cimke(a.form3, "Datum_bekero1"), "Esemény dátuma:");
+        gombFeliratok(a.form3, {{"Button_Rendben1", "Rendben"}, {"Button_Megsem1", "Mégsem"}});
+        hatarok(a.form3, {{"SpinEditEv1", 1900, 2068},
+                          {"SpinEditHo1", 0, 13},
+                          {"SpinEditNap1", 0, 32},
+                          {"SpinEditOrbis1", 1, 99}});
+    }
+
+    void azOrbisok() {
+        TFrissAblakok a;
+        vezerlo<QPushButton>(a.form6, "Button_plusz1");
+        gombFeliratok(a.form6, {{"Button_plusz1", "+0.5"},
+                                {"Button_minusz2", "-0.5"},
+                                {"Button_vissza3", "Előzö beállítás"},
+                                {"Button_vissza4", "Induló beállítás"},
+                                {"Button_Rendben1", "Rendben"},
+                                {"Button_Megsem1", "Mégsem"}});
+    }
+
+    void aLepteto() {
+        TFrissAblakok a;
+        gombFeliratok(a.form7, {{"Button1evp", "+"},
+                                {"Button2evm", "-"},
+                                {"Button3hop", "+"},
+                                {"Button4hom", "-"},
+                                {"Button5napp", "+"},
+                                {"Button6napm", "-"},
+                                {"Button7orap", "+"},
+                                {"Button8oram", "-"},
+                                {"Button9percp", "+"},
+                                {"Button10percm", "-"},
+                                {"Button11percpp", "++"},
+                                {"Button12percmm", "--"},
+                                {"Button13mpercp", "+"},
+                                {"Button14mpercm", "-"},
+                                {"Button15mpercpp", "++"},
+                                {"Button16mpercmm", "--"}});
+        mezoFeliratok(a.form7, {{"Button1evp", "Év"},
+                                {"Button3hop", "Hó"},
+                                {"Button5napp", "Nap"},
+                                {"Button7orap", "óra"},
+                                {"Button9percp", "perc"},
+                                {"Button13mpercp", "mperc"}});
+    }
+
+    void aMundanhazak() {
+        TFrissAblakok a;
+        menu(a.form1, "Mundnhzaspontosts1");
+        gombFeliratok(a.form8, {{"Button1Keresesm", "Keresés -"},
+                                {"Button2Keresesp", "Keresés +"},
+                                {"Button3Vissza", "Vissza"},
+                                {"Button4Bezar", "Bezár"},
+                                {"BMundan1", " I"},
+                                {"BMundan2", " 2"},
+                                {"BMundan3", " 3"},
+                                {"BMundan4", "IV"},
+                                {"BMundan5", " 5"},
+                                {"BMundan6", " 6"},
+                                {"BMundan7", "VII"},
+                                {"BMundan8", " 8"},
+                                {"BMundan9", " 9"},
+                                {"BMundan10", " X"},
+                                {"BMundan11", "11"},
+                                {"BMundan12", "12"}});
+        QCOMPARE(cimke(a.form8, "Label1Haz"), " I. Házak");
+        const QStringList sorok{" I-es Mundánház:  ",   "Ház ura:",       "Házura jegyben:", "Házura házban:",
+                                "Házura együttáll:",    "Házban állnak:", "Fényszögpárok:",  "",
+                                " I-es Horizontház:  ", "Ház ura:",       "Házura jegyben:", "Házura házban:",
+                                "Házura együttáll:",    "Házban állnak:", "Fényszögpárok:"};
+        for (int sor = 1; sor <= 15; ++sor)
+            QCOMPARE(cimke(a.form8, qPrintable(QStringLiteral("LMundan_%1_1").arg(sor))), sorok[sor - 1]);
+    }
+
+    void aSzimbolumok() {
+        const TFrissAblakok a;
+        gombFeliratok(a.form9, {{"Button_Rendben1", "Rendben"}, {"Button_Megsem1", "Mégsem"}});
+    }
+
+    void azEletesemenyek() {
+        TFrissAblakok a;
+        mezoFeliratok(a.form10, {{"Edit_Eletesemenyek1", "Életesemény:"},
+                                 {"Edit_Hazanalogiak1", "Házanalógiák:"},
+                                 {"SpinEditEv1", "Év:"},
+                                 {"SpinEditHo1", "Hó:"},
+                                 {"SpinEditNap1", "Nap:"},
+                                 {"SpinEditOra1", "Óra:"},
+                                 {"SpinEditPerc1", "Perc:"},
+                                 {"SpinEditMperc1", "Mp:"},
+                                 {"ComboBoxHelyseg1", "Solar-évforduló helye:"},
+                                 {"LabelSolarNap1", "Solar-Nap:"}});
+        // The heads of the list beside the captions of the fields.
+        cimkek(a.form10,
+               {"Életesemény:", "Életesemény:", "Házanalógiák:", "Házanalógiák:", "Esemény ideje (GMT):",
+                "Solar-évforduló helye:", "Solar-évforduló helye:", "Solar-Nap:", "Solar-Nap:"});
+        hatarok(a.form10, {{"SpinEditIdozona1", -12, 12},
+                           {"SpinEditNyariidosz1", 0, 1},
+                           {"SpinEditHosszFok1", -180, 180},
+                           {"SpinEditHosszPerc1", 0, 59},
+                           {"SpinEditSzelPerc1", 0, 59}});
+    }
+
+    void azEletesemenyekFejeiASajatOszlopukFelett() {
+        TFrissAblakok a;
+        a.form10.show();
+        const QList<std::pair<const char*, int>> fejek{{"Életesemény:", 2},
+                                                       {"Házanalógiák:", 3},
+                                                       {"Esemény ideje (GMT):", 4},
+                                                       {"Solar-évforduló helye:", 10},
+                                                       {"Solar-Nap:", 14}};
+        for (const auto& [felirat, oszlop] : fejek) {
+            const auto* elsoSor =
+                vezerlo<QLabel>(a.form10, qPrintable(QStringLiteral("LEletes_1_%1").arg(oszlop)));
+            int felette = 0;
+            for (const auto* fej : a.form10.findChildren<QLabel*>())
+                felette += fej->text() == felirat && fej->x() == elsoSor->x() && fej->y() < elsoSor->y();
+            QVERIFY2(felette == 1, felirat);
+        }
+    }
+
+    void aPrimerDirekciok() {
+        TFrissAblakok a;
+        mezoFeliratok(a.form12,
+                      {{"SpinEditEv1", "Kezdő év:"}, {"SpinEditHo1", "hó:"}, {"SpinEditNap1", "nap:"}});
+        cimkek(a.form12, {"Solar-Nap:", "dMC:", "cMC:", "dAsc:", "cAsc:"});
+        gombFeliratok(a.form12, {{"Button_Rendben1", "Rendben"},
+                                 {"Button_Megsem1", "Mégsem"},
+                                 {"Button_Pontositas1", "Pontosítás"}});
+        hatarok(a.form12, {{"SpinEditEv1", 1900, 2068}, {"SpinEditHo1", 1, 12}, {"SpinEditNap1", 1, 31}});
+    }
+
+    void aPontositas() {
+        TFrissAblakok a;
+        mezoFeliratok(a.form13, {{"SpinEdit1", "Direkciós hatótávolság:   0,"}});
+        cimkek(a.form13, {"dMc", "cMc", "dAsc", "cAsc", "Direkció-elemzés:"});
+        gombFeliratok(a.form13, {{"Button_Rendben1", "Rendben"},
+                                 {"Button_Megsem1", "Mégsem"},
+                                 {"Button_Eletesemenyek1", "Életesemények"},
+                                 {"Button_Elemzes1", "1"},
+                                 {"Button_Elemzesp1", "+"},
+                                 {"Button_Elemzesm2", "-"}});
+        hatarok(a.form13, {{"SpinEdit1", 1, 99}});
+        a.form13.show();
+        for (const char* rejtett : {"Label6", "Button_Elemzes1", "Button_Elemzesp1", "Button_Elemzesm2"})
+            QVERIFY2(!vezerlo<QWidget>(a.form13, rejtett)->isVisible(), rejtett);
+    }
+
+    void aVisszateresek() {
+        const TFrissAblakok a;
+        gombFeliratok(a.form14, {{"Button_Rendben1", "Rendben"}, {"Button_Megsem1", "Mégsem"}});
+    }
+};
+
+QTEST_MAIN(FeliratokTeszt)
+#include "feliratok_teszt.moc"

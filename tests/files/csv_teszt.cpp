@@ -213,6 +213,13 @@ TEST(Csv, ARosszSorATobbitNemAllitjaMeg) {
     EXPECT_EQ(ki.jelentesek.size(), 4U);
 }
 
+TEST(Csv, AzUresSorKimaradSzoNelkul) {
+    const auto ki = CsvOlvasas(fejlec + "\n,,,,,,,,,,,,,\n  , ,\n" + kovacs + "\n,,\n");
+    ASSERT_EQ(ki.lapok.size(), 1U);
+    EXPECT_EQ(ki.lapok[0].keplet.sor, 4);
+    EXPECT_TRUE(ki.jelentesek.empty());
+}
+
 TEST(Csv, ARosszEsemenyMagabanMaradKi) {
     const auto ki = CsvOlvasas(fejlec + ",1. esemeny,1. ev,2. esemeny,2. ev,2. ho,2. nap,2. ora,2. perc\n" +
                                kovacs + ",rossz,2000,jó,2000,1,2,3,4\n");

@@ -34,6 +34,8 @@ TEST(Primer, AFerdeSorKetSzelessegKozott) {
     // Outside the band the weight runs beyond 0..1.
     const double novekedes = FerdeAszcenzioTabla[1][90] - FerdeAszcenzioTabla[0][90];
     EXPECT_DOUBLE_EQ(FerdeSor(40 * 3600)[90], FerdeAszcenzioTabla[0][90] - 2 * novekedes);
+    const double felul = FerdeAszcenzioTabla[18][90] - FerdeAszcenzioTabla[17][90];
+    EXPECT_DOUBLE_EQ(FerdeSor(62 * 3600)[90], FerdeAszcenzioTabla[18][90] + 2 * felul);
     EXPECT_DOUBLE_EQ(t[360], 21600);
 }
 

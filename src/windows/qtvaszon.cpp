@@ -63,6 +63,9 @@ TJelSor jelSor(const QRawFont& betu, const QString& szoveg) {
 /// Texts kept for one font; those of the wheel are far fewer.
 constexpr std::size_t legtobbSor = 500;
 
+/// Faces in one size kept; a window that is drawn at many sizes goes through hundreds, each needs nine.
+constexpr std::size_t legtobbBetu = 60;
+
 }  // namespace
 
 /// A face in one size; kept, since its glyph pictures go with it, and so are the rows of glyphs drawn with
@@ -82,6 +85,7 @@ namespace {
 
 TMeretezettBetu& meretezettBetu(const std::string& nev, int magassag) {
     static std::map<std::pair<std::string, int>, TMeretezettBetu> betuk;
+    if (betuk.size() >= legtobbBetu) betuk.clear();
     const auto [hely, uj] = betuk.try_emplace({nev, magassag});
     if (uj) {
         const TBetukeszlet& keszlet = betukeszlet(nev);

@@ -83,16 +83,15 @@ struct TMeretezettBetu {
 
 namespace {
 
-TMeretezettBetu& meretezettBetu(const std::string& nev, int magassag) {
-    static std::map<std::pair<std::string, int>, TMeretezettBetu> betuk;
+std::shared_ptr<TMeretezettBetu> meretezettBetu(const std::string& nev, int magassag) {
+    static std::map<std::pair<std::string, int>, std::shared_ptr<TMeretezettBetu>> betuk;
+    if (const auto megvan = betuk.find({nev, magassag}); megvan != betuk.end()) return megvan->second;
     if (betuk.size() >= legtobbBetu) betuk.clear();
-    const auto [hely, uj] = betuk.try_emplace({nev, magassag});
-    if (uj) {
-        const TBetukeszlet& keszlet = betukeszlet(nev);
-        hely->second.betu = keszlet.alap;
-        hely->second.betu.setPixelSize(magassag / keszlet.cellaArany);
-    }
-    return hely->second;
+    const TBetukeszlet& keszlet = betukeszlet(nev);
+    const auto uj = std::make_shared<TMeretezettBetu>();
+    uj->betu = keszlet.alap;
+    uj->betu.setPixelSize(magassag / keszlet.cellaArany);
+    return betuk.insert({{nev, magassag}, uj}).first->second;
 }
 
 constexpr double pixelKozep = 0.5;
@@ -146,13 +145,13 @@ QFont cellaMagassaguBetu(const QString& nev, int magassag, int dpi) {
 }
 
 TSzovegAlak szovegAlak(const QString& betu, int magassag, const QString& szoveg) {
-    TMeretezettBetu& keszlet = meretezettBetu(::szoveg(betu), magassag);
-    const TJelSor& sor = keszlet.sor(::szoveg(szoveg));
-    TSzovegAlak ki{{}, sor.szelesseg, keszlet.betu.ascent()};
+    const std::shared_ptr<TMeretezettBetu> keszlet = meretezettBetu(::szoveg(betu), magassag);
+    const TJelSor& sor = keszlet->sor(::szoveg(szoveg));
+    TSzovegAlak ki{{}, sor.szelesseg, keszlet->betu.ascent()};
     const QList<quint32> jelek = sor.futam.glyphIndexes();
     const QList<QPointF> helyek = sor.futam.positions();
     for (qsizetype i = 0; i < jelek.size(); ++i)
-        ki.alak.addPath(keszlet.betu.pathForGlyph(jelek[i]).translated(helyek[i]));
+        ki.alak.addPath(keszlet->betu.pathForGlyph(jelek[i]).translated(helyek[i]));
     if (sor.megvan) return ki;
     constexpr int pixelPont = 72;  // at this resolution a point is a pixel
     const QFont tartalek = cellaMagassaguBetu(betu, magassag, pixelPont);
@@ -297,6 +296,6 @@ void QtVaszon::Betu(std::string_view nev, int magassag) {
 }
 
 TMeretezettBetu& QtVaszon::meretezett() {
-    if (betu_ == nullptr) betu_ = &meretezettBetu(betuNev_, magassag_);
+    if (betu_ == nullptr) betu_ = meretezettBetu(betuNev_, magassag_);
     return *betu_;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -50,9 +51,9 @@ private:
     Qt::PenStyle stilus_ = Qt::SolidLine;
     int magassag_ = 0;
     std::string betuNev_;
-    TMeretezettBetu* betu_ = nullptr;  ///< looked for at the first text
-    QPointF feherKozep_;               ///< about this point all is white
-    double feherSugar_ = -1;           ///< so far; nothing is known where it is not above 0
+    std::shared_ptr<TMeretezettBetu> betu_;  ///< looked for at the first text
+    QPointF feherKozep_;                     ///< about this point all is white
+    double feherSugar_ = -1;                 ///< so far; nothing is known where it is not above 0
 };
 
 /// A text as it is drawn, in shapes: from the left end of its base line; its width, and its cell's top to the

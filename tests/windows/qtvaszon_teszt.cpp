@@ -118,6 +118,22 @@ class QtVaszonTeszt : public QObject {
     Q_OBJECT
 
 private slots:
+    void aVaszonBetujeMarad_HaKozbenSokMasMeretKell() {
+        QImage kep(100, 100, QImage::Format_RGB32);
+        const auto rajz = [&](bool kozben) {
+            kep.fill(Qt::white);
+            QPainter festo(&kep);
+            QtVaszon vaszon(festo);
+            vaszon.Betu("Astro Symbols", 40);
+            vaszon.TextOut(5, 5, "A");
+            for (int meret = 10; kozben && meret < 200; ++meret) szovegAlak("Astro Symbols", meret, "B");
+            vaszon.TextOut(50, 5, "C");
+            festo.end();
+            return kep.copy();
+        };
+        QCOMPARE(rajz(true), rajz(false));
+    }
+
     void initTestCase() { sajatBetukBetoltese(); }
 
     void azEgyenesVonalEgeszPixeleketFed_data() {

@@ -136,6 +136,30 @@ TEST(SzemelyiAdatok, AzUjKepletMezoiAHelySajatErtekei) {
     EXPECT_EQ(a.Szemely.idoTipus, TIdoTipus::ZN);
 }
 
+TEST(SzemelyiAdatok, AKezbenLevoKepletMezoi) {
+    Allapot a;
+    a.Szemely.nev = "Kovács Éva";
+    a.Szemely.jegyzet = "jegyzet";
+    a.Szemely.beirt = {1999, 7, 1, 1, 2, 3};
+    a.Keplet.pillanat = {2001, 1, 2, 3, 4, 5};
+    a.Keplet.helyseg = "Nincs ilyen hely";
+    a.Keplet.idozona = -3;
+    a.Keplet.nyariIdo = 1;
+    a.Keplet.hosszusag = 72586;  // 20°9'46''
+    a.Keplet.szelesseg = 166440;
+    const TSzemelyiAdatok m = SzemelyMezok(a);
+    EXPECT_EQ(m.nev, "Kovács Éva");
+    EXPECT_EQ(m.jegyzet, "jegyzet");
+    EXPECT_EQ(m.ido, (TPillanat{1999, 7, 1, 1, 2, 3}));
+    EXPECT_EQ(m.helyseg, "Nincs ilyen hely");
+    EXPECT_EQ(m.idozona, -3);
+    EXPECT_EQ(m.nyariIdo, 1);
+    EXPECT_EQ(m.hosszFok, 20);
+    EXPECT_EQ(m.hosszPerc, 9);
+    EXPECT_EQ(m.szelFok, 46);
+    EXPECT_EQ(m.szelPerc, 14);
+}
+
 constexpr int nincsValasztas = -1, zona = 0, helyi = 1, greenwichi = 2;
 
 TSzemelyiAdatok nyaron(int nyariIdo) {

@@ -83,6 +83,16 @@ TEST(Geometria, NyomtatasnalAKisKerekekAlulEgymasMellett) {
     EXPECT_EQ(k.kis2Y, k.kis1Y);
 }
 
+TEST(Geometria, AParatlanLapMaradekaFele) {
+    TRajz r;
+    r.nyomtatasMod = true;
+    LapGeometria(r, 2000, 2401);
+    const TKisKerekek k = KisKerekGeometria(r);
+    EXPECT_EQ(k.kisSugar, 160);  // (2401 - 2000) div 2 is 200
+    EXPECT_EQ(k.kis1Y, 2401 - 200 - 100);
+    EXPECT_EQ(k.kis1X, 500);
+}
+
 TEST(Geometria, AFekvoLapKozepeMarad) {
     TRajz r;
     r.nyomtatasMod = true;

@@ -210,6 +210,8 @@ TEST(VisszateresKeplet, EgyIvperccelKeletreEsEszakraNyariIdoNelkul) {
     EXPECT_EQ(k.hosszusag, 65691);
     EXPECT_EQ(k.pillanat.ora, (a.Visszateresek.sorok[31].pillanat.ora + 1) % 24);
     EXPECT_NEAR(k.bolygo[1], hossz({1975, 7, 21, 5, 4, 9}, 1), 1.0 / 3600);
+    for (int i = 1; i <= 10; ++i)  // all bodies stand where they are at the return, not at the birth
+        EXPECT_NEAR(k.bolygo[i], hossz(a.Visszateresek.sorok[31].pillanat, i), 1e-9) << i;
 
     THazcsucsok csucsok;
     std::int32_t nap = k.julianszam, ora = 0, perc = 0;

@@ -224,7 +224,7 @@ private slots:
         QTest::failOnWarning(QRegularExpression("ecursive repaint"));
         TJaroAblakok a;
         for (const char* nezet : nezetek) {
-            for (const std::size_t kepernyo : {1, 2, 3, 0}) {
+            for (const std::size_t kepernyo : {1U, 2U, 3U, 0U}) {
                 menu(a.form1, nezet);
                 const QSize elobb = a.felulet().size();
                 a.atvisz(kepernyo);

@@ -12,7 +12,6 @@
 
 namespace {
 
-const char* const kerek = "Felulet";
 
 /// Two charts in files, a window with the clock running.
 struct TKivulrol {

@@ -122,7 +122,7 @@ private slots:
                 kattint(d, "Button_Megsem2");
             });
         }
-        a.szerkeszt([&a](QWidget& d) {
+        a.szerkeszt([](QWidget& d) {
             leut(Qt::Key_Return);
             leut(Qt::Key_Return);
             kattint(d, "Button_Rendben2");

@@ -129,8 +129,8 @@ private:
             o.felsoAblakok, mallinfo2().uordblks / 1024);
     }
 
-    /// The events reach nearly everything that there is; what they miss is another with each compiler, which may
-    /// evaluate arguments in another order. Of other seeds' few events it is not sure.
+    /// The events reach nearly everything that there is; what they miss is another with each compiler, which
+    /// may evaluate arguments in another order. Of other seeds' few events it is not sure.
     static void bejaras(const TOsszes& o) {
         QVERIFY(o.ablakok.size() >= 11);  // of the fourteen; nothing opens the fourth
         QVERIFY(o.pontok.size() >= 40);

@@ -91,8 +91,8 @@ inline constexpr TSugoSor sugoSorok[]{
     {"TForm13", "Memo2", "A direkciók eseményenként"},
     {"TForm13", "Memo3", "A születési idők eseményenként"},
 
-    {"TForm14", "Edit1", "Óra"},
-    {"TForm14", "Edit2", "Perc"},
-    {"TForm14", "Edit3", "Másodperc"},
+    {"TForm14", "Edit1", "A kezdő dátum éve"},
+    {"TForm14", "Edit2", "A kezdő dátum hónapja"},
+    {"TForm14", "Edit3", "A kezdő dátum napja"},
     {"TForm14", "ListBox1", "Az áthaladások"},
 };

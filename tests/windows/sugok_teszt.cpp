@@ -99,6 +99,14 @@ private slots:
                  "Kettős kattintás: Rendben. M: a mai naphoz legközelebbi sor.");
     }
 
+    void aVisszateresekMasodikSoraIsAKezdoDatum() {
+        TFrissAblakok a;
+        a.form14.show();
+        QCOMPARE(olvasott(vezerlo<QLineEdit>(a.form14, "Edit1")), "A kezdő dátum éve");
+        QCOMPARE(olvasott(vezerlo<QLineEdit>(a.form14, "Edit2")), "A kezdő dátum hónapja");
+        QCOMPARE(olvasott(vezerlo<QLineEdit>(a.form14, "Edit3")), "A kezdő dátum napja");
+    }
+
     void azOrbistablaCellaiNevukonSzolnak() {
         TFrissAblakok a;
         const auto nyitva = [&] {

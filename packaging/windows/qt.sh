@@ -38,8 +38,10 @@ qt_forras() {
 # Qt's own, with the libraries it brings, so that nothing but Windows itself is needed. direct2d and directwrite are both
 # off, as the last link fails with one of them alone.
 qt_beallit() {
+    # A copy, as a build that goes on may do so from another folder of the project.
+    cp "$windows/mingw.cmake" "$qt_epites/mingw.cmake"
     cmake -S "$qt_epites/forras" -B "$qt_epites/build" -G Ninja \
-        -DCMAKE_TOOLCHAIN_FILE="$windows/mingw.cmake" -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX="$qt_epites/kesz" \
+        -DCMAKE_TOOLCHAIN_FILE="$qt_epites/mingw.cmake" -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX="$qt_epites/kesz" \
         -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR="/usr/lib/$(g++ -print-multiarch)/cmake" \
         -DQT_QMAKE_TARGET_MKSPEC=win32-g++ -DBUILD_SHARED_LIBS=ON \
         -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF -DQT_BUILD_BENCHMARKS=OFF -DQT_BUILD_DOCS=OFF \

@@ -22,7 +22,7 @@ void NezetRajzolasa(benchmark::State& allas) {
         felulet.fill(Qt::white);
         AblakGeometria(allapot.Rajz, allapot.Keplet.hazCsucs[1], felulet.width(), felulet.height());
         QPainter festo(&felulet);
-        QtVaszon vaszon(festo);
+        QtVaszon vaszon(festo, TLap::feher);
         KepletRajz(vaszon, allapot);
     }
 }

@@ -10,6 +10,7 @@
 #include <QPdfWriter>
 
 #include "drawing/svgvaszon.h"
+#include "windows/betukeszlet.h"
 #include "windows/qszoveg.h"
 #include "windows/qtvaszon.h"
 

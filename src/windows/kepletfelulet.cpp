@@ -11,9 +11,9 @@ KepletFelulet::KepletFelulet(QWidget* parent) : QWidget(parent) {
 
 namespace {
 
-void rajzolas(QPixmap& kep, const std::function<void(QtVaszon&)>& rajz) {
+void rajzolas(QPixmap& kep, TLap lap, const std::function<void(QtVaszon&)>& rajz) {
     QPainter festo(&kep);
-    QtVaszon vaszon(festo);
+    QtVaszon vaszon(festo, lap);
     rajz(vaszon);
 }
 
@@ -35,21 +35,21 @@ void masolas(QPixmap& hova, QPixmap& honnan, const QRegion& resz, double arany) 
 }  // namespace
 
 void KepletFelulet::rajzol(const std::function<void(QtVaszon&)>& rajz) {
-    if (!kep_.isNull()) rajzolas(kep_, rajz);
+    if (!kep_.isNull()) rajzolas(kep_, TLap::barmilyen, rajz);
 }
 
 void KepletFelulet::ujrarajzol(const QRegion& resz, const std::function<void(QtVaszon&)>& rajz) {
     if (kep_.isNull()) return;
     if (QRegion(rect()).subtracted(resz).subtracted(childrenRegion()).isEmpty()) {
         torol();
-        rajzolas(kep_, rajz);
+        rajzolas(kep_, TLap::feher, rajz);
         return;
     }
     // Drawn elsewhere and copied: what is drawn in a part only has its antialiased edges rounded differently.
     QPixmap uj(kep_.size());
     uj.setDevicePixelRatio(kep_.devicePixelRatio());
     uj.fill(Qt::white);
-    rajzolas(uj, rajz);
+    rajzolas(uj, TLap::feher, rajz);
     masolas(kep_, uj, resz, kep_.devicePixelRatio());
 }
 

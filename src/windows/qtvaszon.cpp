@@ -2,97 +2,16 @@
 
 #include <algorithm>
 #include <cmath>
-#include <functional>
-#include <map>
-#include <utility>
+#include <limits>
 
 #include <QFontMetrics>
-#include <QGlyphRun>
 #include <QLineF>
-#include <QList>
 #include <QPaintDevice>
-#include <QRawFont>
 
-#include "windows/betumappak.h"
+#include "windows/betukeszlet.h"
 #include "windows/qszoveg.h"
 
 namespace {
-
-/// A face as the system finds it, and the height of its character cell for a font of one pixel.
-struct TBetukeszlet {
-    QRawFont alap;
-    double cellaArany;
-};
-
-const TBetukeszlet& betukeszlet(const std::string& nev) {
-    static std::map<std::string, TBetukeszlet> keszletek;
-    const auto megvan = keszletek.find(nev);
-    if (megvan != keszletek.end()) return megvan->second;
-    constexpr int proba = 1000;  // pixels: large enough to be free of hinting
-    QFont betu(betuCsalad(nev));
-    betu.setHintingPreference(QFont::PreferNoHinting);
-    betu.setPixelSize(proba);
-    const QRawFont nyers = QRawFont::fromFont(betu);
-    const double arany = (nyers.ascent() + nyers.descent()) / proba;
-    return keszletek.insert({nev, {nyers, arany > 0 ? arany : 1.0}}).first->second;
-}
-
-/// Glyphs of a text in a row; none if the face lacks one of its characters.
-struct TJelSor {
-    QGlyphRun futam;
-    double szelesseg = 0;
-    bool megvan = false;
-};
-
-TJelSor jelSor(const QRawFont& betu, const QString& szoveg) {
-    const QList<quint32> jelek = betu.glyphIndexesForString(szoveg);
-    if (jelek.contains(0)) return {};
-    TJelSor sor;
-    QList<QPointF> helyek;
-    for (const QPointF& lepes : betu.advancesForGlyphIndexes(jelek)) {
-        helyek << QPointF(sor.szelesseg, 0);
-        sor.szelesseg += lepes.x();
-    }
-    sor.futam.setRawFont(betu);
-    sor.futam.setGlyphIndexes(jelek);
-    sor.futam.setPositions(helyek);
-    sor.megvan = true;
-    return sor;
-}
-
-/// Texts kept for one font; those of the wheel are far fewer.
-constexpr std::size_t legtobbSor = 500;
-
-/// Faces in one size kept; a window that is drawn at many sizes goes through hundreds, each needs nine.
-constexpr std::size_t legtobbBetu = 60;
-
-}  // namespace
-
-/// A face in one size; kept, since its glyph pictures go with it, and so are the rows of glyphs drawn with
-/// it.
-struct TMeretezettBetu {
-    QRawFont betu;
-    std::map<std::string, TJelSor, std::less<>> sorok;
-
-    const TJelSor& sor(std::string_view szoveg) {
-        if (const auto megvan = sorok.find(szoveg); megvan != sorok.end()) return megvan->second;
-        if (sorok.size() >= legtobbSor) sorok.clear();
-        return sorok.emplace(szoveg, jelSor(betu, qszoveg(szoveg))).first->second;
-    }
-};
-
-namespace {
-
-std::shared_ptr<TMeretezettBetu> meretezettBetu(const std::string& nev, int magassag) {
-    static std::map<std::pair<std::string, int>, std::shared_ptr<TMeretezettBetu>> betuk;
-    if (const auto megvan = betuk.find({nev, magassag}); megvan != betuk.end()) return megvan->second;
-    if (betuk.size() >= legtobbBetu) betuk.clear();
-    const TBetukeszlet& keszlet = betukeszlet(nev);
-    const auto uj = std::make_shared<TMeretezettBetu>();
-    uj->betu = keszlet.alap;
-    uj->betu.setPixelSize(magassag / keszlet.cellaArany);
-    return betuk.insert({{nev, magassag}, uj}).first->second;
-}
 
 constexpr double pixelKozep = 0.5;
 
@@ -135,34 +54,8 @@ QLineF kozepvonal(const QRectF& sav, const QPoint& irany) {
 
 }  // namespace
 
-QFont cellaMagassaguBetu(const QString& nev, int magassag, int dpi) {
-    constexpr double pontHuvelyk = 72;
-    const std::string kulcs = szoveg(nev);
-    QFont betu(nev);
-    betu.setHintingPreference(QFont::PreferNoHinting);
-    betu.setPointSizeF(magassag / betukeszlet(kulcs).cellaArany * pontHuvelyk / dpi);
-    return betu;
-}
-
-TSzovegAlak szovegAlak(const QString& betu, int magassag, const QString& szoveg) {
-    const std::shared_ptr<TMeretezettBetu> keszlet = meretezettBetu(::szoveg(betu), magassag);
-    const TJelSor& sor = keszlet->sor(::szoveg(szoveg));
-    TSzovegAlak ki{{}, sor.szelesseg, keszlet->betu.ascent()};
-    const QList<quint32> jelek = sor.futam.glyphIndexes();
-    const QList<QPointF> helyek = sor.futam.positions();
-    for (qsizetype i = 0; i < jelek.size(); ++i)
-        ki.alak.addPath(keszlet->betu.pathForGlyph(jelek[i]).translated(helyek[i]));
-    if (sor.megvan) return ki;
-    constexpr int pixelPont = 72;  // at this resolution a point is a pixel
-    const QFont tartalek = cellaMagassaguBetu(betu, magassag, pixelPont);
-    QFont pixeles = tartalek;
-    pixeles.setPixelSize(qMax(1, qRound(tartalek.pointSizeF())));
-    ki.alak.addText(0, 0, pixeles, szoveg);
-    ki.szelesseg = QFontMetricsF(pixeles).horizontalAdvance(szoveg);
-    return ki;
-}
-
-QtVaszon::QtVaszon(QPainter& festo) : festo_(festo), toll_(Qt::black, 1) {
+QtVaszon::QtVaszon(QPainter& festo, TLap lap) : festo_(festo), toll_(Qt::black, 1) {
+    if (lap == TLap::feher) feherSugar_ = std::numeric_limits<double>::infinity();
     festo_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     festo_.setBrush(Qt::white);
     tollBeallitas();
@@ -171,8 +64,17 @@ QtVaszon::QtVaszon(QPainter& festo) : festo_(festo), toll_(Qt::black, 1) {
 void QtVaszon::tollBeallitas() {
     const bool vastag = toll_.widthF() > 1;
     toll_.setStyle(vastag ? Qt::SolidLine : stilus_);
-    toll_.setCapStyle(vastag ? Qt::RoundCap : Qt::FlatCap);
+    toll_.setCapStyle(!vastag ? Qt::FlatCap : szogletes() ? Qt::SquareCap : Qt::RoundCap);
     festo_.setPen(toll_);
+}
+
+/// With square ends a sloped line is drawn ten times faster than with round ones.
+bool QtVaszon::szogletes() const {
+    return vonalSzelesseg() * keparany() <= legszelesebbSzogletes;
+}
+
+double QtVaszon::vonalSzelesseg() const {
+    return toll_.isCosmetic() ? 1 / keparany() : toll_.widthF();
 }
 
 /// A circle's filling is left out where its place is known to be white already.
@@ -180,7 +82,8 @@ void QtVaszon::Ellipse(int x1, int y1, int x2, int y2) {
     const QRectF doboz = QRectF(pixelKozepe({x1, y1}), pixelKozepe({x2, y2})).normalized();
     const bool kor = doboz.width() == doboz.height();
     const double sugar = doboz.width() / 2;
-    const bool feher = kor && doboz.center() == feherKozep_ && sugar + tollFele() <= feherSugar_;
+    const bool feher = kor && (std::isinf(feherSugar_) || doboz.center() == feherKozep_) &&
+                       sugar + tollFele() <= feherSugar_;
     festo_.setBrush(feher ? QBrush() : QBrush(Qt::white));
     festo_.drawEllipse(doboz);
     feherKozep_ = doboz.center();
@@ -219,11 +122,10 @@ void QtVaszon::kitoltes(const QRectF& doboz, const QColor& szin) {
 /// even width would be grey along both edges.
 void QtVaszon::egyenesVonal(const QPoint& vege) {
     const double arany = keparany();
-    const double szelesseg = toll_.isCosmetic() ? 1 / arany : toll_.widthF();
-    const double fel = szelesseg / 2;
+    const double fel = vonalSzelesseg() / 2;
     const QRectF helye = QRectF(pixelKozepe(hely_), pixelKozepe(vege)).normalized();
     const QRectF sav = egeszPixelre(helye.adjusted(-fel, -fel, fel, fel), arany);
-    if (szelesseg * arany > legszelesebbSzogletes)
+    if (!szogletes())
         festo_.drawLine(pixelKozepe(hely_), pixelKozepe(vege));
     else if (toll_.style() == Qt::SolidLine)
         kitoltes(sav, toll_.color());

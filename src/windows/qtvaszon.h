@@ -14,13 +14,17 @@
 
 struct TMeretezettBetu;
 
+/// What is known of a surface before it is drawn on.
+enum class TLap { barmilyen, feher };
+
 /// The canvas on a QPainter: black antialiased lines, white fillings, one pixel being one unit of the
 /// painter. A coordinate is the middle of its pixel; horizontal and vertical lines and the boxes of texts
 /// stand on whole device pixels. Pens wider than one pixel draw solid, the styles are for hairlines.
 class QtVaszon : public Vaszon {
 public:
     /// @param festo  active; it must outlive the canvas
-    explicit QtVaszon(QPainter& festo);
+    /// @param lap  a white surface saves the fillings of circles where nothing is drawn yet
+    explicit QtVaszon(QPainter& festo, TLap lap = TLap::barmilyen);
 
     void Ellipse(int x1, int y1, int x2, int y2) override;
     void MoveTo(int x, int y) override { hely_ = {x, y}; }
@@ -35,6 +39,10 @@ public:
 private:
     void tollBeallitas();
     void egyenesVonal(const QPoint& vege);
+    /// The pen's width in units of the painter.
+    double vonalSzelesseg() const;
+    /// The pen is so narrow that round ends can't be told from square ones.
+    bool szogletes() const;
     /// How far the pen reaches from its line at most, antialiasing included.
     double tollFele() const;
     void nemFeher(double tavolsag);
@@ -55,18 +63,3 @@ private:
     QPointF feherKozep_;                     ///< about this point all is white
     double feherSugar_ = -1;                 ///< so far; nothing is known where it is not above 0
 };
-
-/// A text as it is drawn, in shapes: from the left end of its base line; its width, and its cell's top to the
-/// base line.
-struct TSzovegAlak {
-    QPainterPath alak;
-    double szelesseg = 0;
-    double alapvonal = 0;
-};
-
-/// @param magassag  of the character cell, above 0
-TSzovegAlak szovegAlak(const QString& betu, int magassag, const QString& szoveg);
-
-/// A font whose character cell, ascent and descent together, is so many pixels high.
-/// @param dpi  resolution of the device that it is used on
-QFont cellaMagassaguBetu(const QString& nev, int magassag, int dpi);

@@ -7,9 +7,9 @@
 #include "predictive/primer.h"
 #include "tables/szotar.h"
 #include "windows/ablakelhelyezes.h"
+#include "windows/betukeszlet.h"
 #include "windows/memosorok.h"
 #include "windows/qszoveg.h"
-#include "windows/qtvaszon.h"
 #include "windows/vezerlok.h"
 
 namespace {

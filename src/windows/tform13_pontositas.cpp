@@ -15,9 +15,9 @@
 #include "tables/szotar.h"
 #include "tables/szoveg.h"
 #include "windows/ablakelhelyezes.h"
+#include "windows/betukeszlet.h"
 #include "windows/memosorok.h"
 #include "windows/qszoveg.h"
-#include "windows/qtvaszon.h"
 #include "windows/szammezo.h"
 #include "windows/vezerlok.h"
 

@@ -21,6 +21,7 @@
 #include "tables/helyhatarok.h"
 #include "tables/szotar.h"
 #include "windows/ablakok.h"
+#include "windows/betukeszlet.h"
 #include "windows/betumappak.h"
 #include "windows/datumformatum.h"
 #include "windows/jelolvasas.h"

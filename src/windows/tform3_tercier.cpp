@@ -10,8 +10,8 @@
 #include "predictive/olvashato.h"
 #include "predictive/tercier.h"
 #include "windows/ablakelhelyezes.h"
+#include "windows/betukeszlet.h"
 #include "windows/qszoveg.h"
-#include "windows/qtvaszon.h"
 #include "windows/vezerlok.h"
 
 namespace {

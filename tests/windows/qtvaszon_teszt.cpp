@@ -14,6 +14,7 @@
 #include <QTest>
 #include <QTransform>
 
+#include "windows/betukeszlet.h"
 #include "windows/betumappak.h"
 #include "windows/qtvaszon.h"
 
@@ -414,6 +415,63 @@ private slots:
                 QCOMPARE(szurke(kep, 60, 91), 255);
             }
         }
+    }
+
+    /// On a surface known to be white the first circle needs no filling; the picture is the same, whatever
+    /// has been drawn before the circle.
+    void aFeherLaponUgyanazARajz() {
+        const QList<TRajzolas> elobb{
+            [](QtVaszon&) {},
+            [](QtVaszon& v) {
+                v.MoveTo(2, 60);
+                v.LineTo(118, 66);
+            },
+            [](QtVaszon& v) {
+                v.Betu("Liberation Sans", 14);
+                v.TextOut(40, 52, "Mm");
+            },
+            [](QtVaszon& v) { v.Ellipse(20, 55, 66, 65); },
+            [](QtVaszon& v) { v.Ellipse(10, 50, 50, 90); },
+        };
+        for (const int toll : {0, 1, 5}) {
+            for (const TRajzolas& elso : elobb) {
+                const auto kep = [&](TLap lap) {
+                    QImage kesz(QSize(180, 180), QImage::Format_RGB32);
+                    kesz.setDevicePixelRatio(1.5);
+                    kesz.fill(Qt::white);
+                    QPainter festo(&kesz);
+                    QtVaszon v(festo, lap);
+                    elso(v);
+                    v.TollSzelesseg(toll);
+                    v.Ellipse(30, 30, 90, 90);
+                    v.Ellipse(40, 40, 80, 80);
+                    mindenfele(v);
+                    festo.end();
+                    return kesz;
+                };
+                QCOMPARE(kep(TLap::feher), kep(TLap::barmilyen));
+            }
+        }
+    }
+
+    /// No difference that an eye would see: what square ends have more than round ones is a pixel or two.
+    void aKeskenyFerdeVonalVegeSzogletes() {
+        const auto ferde = [](QtVaszon& v, int toll) {
+            v.TollSzelesseg(toll);
+            v.MoveTo(20, 20);
+            v.LineTo(44, 38);  // 30 units long
+        };
+        for (const int toll : {2, 4, 8}) {
+            const double kapott =
+                feketeseg(rajz({70, 60}, 1, Qt::white, [&](QtVaszon& v) { ferde(v, toll); }));
+            QVERIFY2(std::abs(kapott - toll * (30.0 + toll)) < 1.5, qPrintable(QString::number(kapott)));
+        }
+        constexpr int szeles = 9;  // wider than eight device pixels: half a circle at each end
+        const double kerek = feketeseg(rajz({70, 60}, 1, Qt::white, [&](QtVaszon& v) { ferde(v, szeles); }));
+        QVERIFY(std::abs(kerek - (szeles * 30 + M_PI * szeles * szeles / 4)) < 1.5);
+        // Twice as many device pixels: five units are wide already.
+        const double ketszer = feketeseg(rajz({70, 60}, 2, Qt::white, [&](QtVaszon& v) { ferde(v, 5); })) / 4;
+        QVERIFY(std::abs(ketszer - (5 * 30 + M_PI * 25 / 4)) < 1);
     }
 
     void azIsmeteltSzovegUgyanAz() {

@@ -40,14 +40,22 @@ QString szuroKiterjesztese(const QString& szuro) {
     return minta.match(szuro).captured(1);
 }
 
-QString fajlValasztas(QFileDialog& dialogus, const QString& szuro) {
-    dialogus.setNameFilter(szuro);
-    return dialogus.exec() == QDialog::Accepted ? dialogus.selectedFiles().value(0) : QString();
+/// File dialogs are the system's there, not the toolkit's.
+bool rendszerDialogusok() {
+    return QGuiApplication::platformName() == "windows";
 }
 
-/// Charts to show at the dialog's side. The dialogs of Windows keep a list of their own.
+QString fajlValasztas(QFileDialog& dialogus, const QString& szuro) {
+    dialogus.setNameFilter(szuro);
+    const bool rendben = dialogus.exec() == QDialog::Accepted;
+    // The system's own dialog may leave its window without the keyboard.
+    if (rendszerDialogusok()) dialogus.parentWidget()->activateWindow();
+    return rendben ? dialogus.selectedFiles().value(0) : QString();
+}
+
+/// Charts to show at the dialog's side. The system's dialogs keep a list of their own.
 QStringList legutobbiFajlok(const TLegutobbiTar* tar) {
-    if (tar == nullptr || QGuiApplication::platformName() == "windows") return {};
+    if (tar == nullptr || rendszerDialogusok()) return {};
     return tar->fajlok();
 }
 

@@ -40,22 +40,14 @@ QString szuroKiterjesztese(const QString& szuro) {
     return minta.match(szuro).captured(1);
 }
 
-/// File dialogs are the system's there, not the toolkit's.
-bool rendszerDialogusok() {
-    return QGuiApplication::platformName() == "windows";
-}
-
 QString fajlValasztas(QFileDialog& dialogus, const QString& szuro) {
     dialogus.setNameFilter(szuro);
-    const bool rendben = dialogus.exec() == QDialog::Accepted;
-    // The system's own dialog may leave its window without the keyboard.
-    if (rendszerDialogusok()) dialogus.parentWidget()->activateWindow();
-    return rendben ? dialogus.selectedFiles().value(0) : QString();
+    return dialogus.exec() == QDialog::Accepted ? dialogus.selectedFiles().value(0) : QString();
 }
 
-/// Charts to show at the dialog's side. The system's dialogs keep a list of their own.
+/// Charts to show at the dialog's side. The dialogs of Windows keep a list of their own.
 QStringList legutobbiFajlok(const TLegutobbiTar* tar) {
-    if (tar == nullptr || rendszerDialogusok()) return {};
+    if (tar == nullptr || QGuiApplication::platformName() == "windows") return {};
     return tar->fajlok();
 }
 

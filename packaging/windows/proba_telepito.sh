@@ -24,6 +24,10 @@ ablakra_var() {
     hiba "no window of the program"
     return 1
 }
+# Wine gives the keyboard to no window when a file dialog closes; a user would click into the program's.
+elore() {
+    xdotool windowactivate --sync "$(xdotool search --onlyvisible --class korvend.exe | head -n 1)"
+}
 # Ends the program by its menu's key; the question is answered with yes.
 kilep() {
     xdotool key ctrl+q
@@ -88,6 +92,7 @@ echo "{\"op\":\"kvh_olvas\",\"fajl\":\"$iratok/Kiss Anna.kvh\"}" | "$keplet_json
     grep '"nev":"Kiss Anna","pillanat":\[1975,7,21,6,4,9\]' || hiba "the chart reads otherwise here"
 
 echo "It is printed into a PDF file"
+elore
 xdotool key ctrl+p
 sleep 2
 xdotool type --delay 30 "Kiss Anna"
@@ -98,6 +103,7 @@ kep 08-pdf-helye
 xdotool key Return
 sleep 4
 pdf=$(find "$iratok" -name '*.pdf' | head -n 1)
+elore
 if [ -n "$pdf" ]; then
     pdftoppm -r 100 -png -singlefile "$pdf" "$kepek/09-nyomat"
     pdffonts "$pdf"

@@ -47,6 +47,14 @@ regi_kulcs() {
     wine reg query "$1" >/dev/null 2>&1
 }
 
+# The classes of a user are those of Windows' desktop; Wine's knows the machine's only, so they are copied there.
+gep_tarsitas() {
+    parancs=$(wine reg query 'HKCU\Software\Classes\Korvend.Keplet\shell\open\command' /ve | tr -d '\r' |
+        sed -n 's/^.*REG_SZ *//p')
+    wine reg add 'HKLM\Software\Classes\.kvh' /ve /d Korvend.Keplet /f >/dev/null
+    wine reg add 'HKLM\Software\Classes\Korvend.Keplet\shell\open\command' /ve /d "$parancs" /f >/dev/null
+}
+
 echo "Silent install"
 wine "$telepito" /S || hiba "the installer gives $?"
 van "$mappa/korvend.exe"
@@ -116,7 +124,8 @@ echo "Written here, opened there by its file: double click"
 itteni="$iratok/Őrült Ágnes.kvh"
 echo "{\"op\":\"kvh_ir\",\"fajl\":\"$itteni\",\"nev\":\"Őrült Ágnes\",\"pillanat\":[1962,10,3,14,25,0],\"idozona\":1,\"nyariIdo\":0,\"helyseg\":\"Győr\",\"hosszusag\":63480,\"szelesseg\":171660,\"jegyzet\":\"\",\"hang\":\"\",\"esemenyek\":[]}" |
     "$keplet_json" | grep -q '"meret":628' || hiba "the chart can't be written"
-wine start /unix "$itteni" >/dev/null 2>&1
+gep_tarsitas
+timeout 60 wine start /unix "$itteni" >/dev/null 2>&1
 ablakra_var && echo "Start under Wine to the first window: $ido ms"
 kep 10-tarsitas 4
 kilep

@@ -4,7 +4,11 @@
 cmake -G Ninja -S . -B build/windows-tesztek -DCMAKE_BUILD_TYPE=Release \
     -DCMAKE_TOOLCHAIN_FILE="$windows/mingw.cmake" -DQt6_DIR="$qt/lib/cmake/Qt6" -DQT_HOST_PATH=/usr \
     -DQT_HOST_PATH_CMAKE_DIR="/usr/lib/$(g++ -print-multiarch)/cmake" -DKORVEND_BENCH=OFF >/dev/null
-cmake --build build/windows-tesztek -j "$magok" | tail -n 1
+cmake --build build/windows-tesztek -j "$magok" >"$hely/epites.log" || {
+    tail -n 20 "$hely/epites.log"
+    echo "The tests can't be built for Windows" >&2
+    exit 1
+}
 
 programok="$hely/programok"
 rm -rf "$programok"

@@ -182,15 +182,21 @@ private slots:
         t.p.fajl = "/nincs/x.svg";
         menu(t.a.form1, "KepSvg1");
         QCOMPARE(t.p.uzenetek, QStringList{"A fájl nem írható:\n/nincs/x.svg"});
+    }
+
+#ifndef Q_OS_WIN
+    void aTeliLemezenNemMaradKeptoredek() {
+        TAtadas t;
         const QTemporaryDir mappa;
         t.p.fajl = mappa.filePath("x.png");
         {
             const TTeliLemez teli(1000);
             menu(t.a.form1, "KepPng1");
         }
-        QCOMPARE(t.p.uzenetek.size(), 2);
+        QCOMPARE(t.p.uzenetek.size(), 1);
         QVERIFY(QDir(mappa.path()).entryList(QDir::Files | QDir::Hidden).isEmpty());
     }
+#endif
 
     void aKiirtTalalatokIsAVagolapra() {
         TAtadas t;

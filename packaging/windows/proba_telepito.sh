@@ -55,6 +55,7 @@ gep_tarsitas() {
     wine reg add 'HKLM\Software\Classes\Korvend.Keplet\shell\open\command' /ve /d "$parancs" /f >/dev/null
 }
 
+rm -rf "$beallitas" # what the tests have left
 echo "Silent install"
 wine "$telepito" /S || hiba "the installer gives $?"
 van "$mappa/korvend.exe"

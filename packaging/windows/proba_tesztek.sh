@@ -23,7 +23,7 @@ futtat() {
     naplo="$hely/$nev.log"
     shift
     kod=0
-    (cd "$programok" && timeout 300 wine "./$nev.exe" "$@") >"$naplo" 2>&1 || kod=$?
+    (cd "$programok" && timeout 120 wine "./$nev.exe" "$@") >"$naplo" 2>&1 || kod=$?
     [ ! -f "$programok/$nev.txt" ] || naplo="$programok/$nev.txt"
     osszeg=$(grep -aE '^(Totals|\[  PASSED  \])' "$naplo" | tr -d '\r' | tail -n 1)
     if [ "$kod" = 0 ]; then

@@ -286,10 +286,17 @@ TEST_F(TKvh, AmitAProgramIrUgyanazJonVissza) {
         for (int i = 1; i <= a.Esemenyek.EsemenyDb; ++i) {
             const int oldal = szam(0, 1) == 0 ? -1 : 1;
             a.Esemenyek.esemenyek[i] = {
-                szoveg(32),          szoveg(255),   szam(1900, 2068), szam(1, 12),
-                szam(1, 31),         szam(0, 23),   szam(0, 59),      szam(0, 59),
-                szoveg(32),          szam(-12, 12), szam(0, 1),       oldal * szam(0, 180),
-                oldal * szam(0, 59), szam(0, 60),   szam(0, 59),      szam(0, 12)};
+                szoveg(32),
+                szoveg(255),
+                {szam(1900, 2068), szam(1, 12), szam(1, 31), szam(0, 23), szam(0, 59), szam(0, 59)},
+                szoveg(32),
+                szam(-12, 12),
+                szam(0, 1),
+                oldal * szam(0, 180),
+                oldal * szam(0, 59),
+                szam(0, 60),
+                szam(0, 59),
+                szam(0, 12)};
         }
         ASSERT_FALSE(KepletMentes(a, fajl()));
         Allapot b;

@@ -224,7 +224,7 @@ T* TMajom::valamelyik(QWidget& ablak) {
 
 QString TMajom::orajel() {
     const int szam = veletlen_.koz(1, 6);
-    ora_.telik(std::int64_t{orajelEzredmasodperc} * szam);
+    ora_.telik(orajelEzredmasodperc * szam);
     for (int i = 0; i < szam; ++i) a_->form1.Timer1Timer();
     return QStringLiteral("%1 ticks").arg(szam);
 }
@@ -251,7 +251,7 @@ QString TMajom::kattintas() {
     } else {
         QTest::mousePress(ide, gomb, m, hely);
         if (ide != nullptr && fajta < 9) QTest::mouseMove(ide, masik);
-        ora_.telik(std::int64_t{fajta} * 100);  // held down
+        ora_.telik(fajta * 100);  // held down
         QApplication::processEvents();
         if (ide != nullptr) QTest::mouseRelease(ide, gomb, m, fajta < 9 ? masik : hely);
     }

@@ -270,16 +270,14 @@ TEST_F(TKvh, AmitAProgramIrUgyanazJonVissza) {
         for (int i = szam(0, hossz); i > 0; --i) s += betuk[static_cast<std::size_t>(szam(0, 12))];
         return s;
     };
-    const auto pillanat = [&]() -> TPillanat {
-        return {szam(1900, 2068), szam(1, 12), szam(1, 31), szam(0, 23), szam(0, 59), szam(0, 59)};
-    };
     for (int kor = 0; kor < 200; ++kor) {
         Allapot a;
         a.Szemely.nev = szoveg(32);
         a.Szemely.jegyzet = szoveg(255);
         a.Szemely.hangJel = szoveg(255);
         a.Keplet.helyseg = szoveg(32);
-        a.Keplet.pillanat = pillanat();
+        a.Keplet.pillanat = {szam(1900, 2068), szam(1, 12), szam(1, 31),
+                             szam(0, 23),      szam(0, 59), szam(0, 59)};
         a.Keplet.idozona = szam(-12, 12);
         a.Keplet.nyariIdo = szam(0, 1);
         a.Keplet.hosszusag = szam(-648000, 648000);
@@ -287,9 +285,11 @@ TEST_F(TKvh, AmitAProgramIrUgyanazJonVissza) {
         a.Esemenyek.EsemenyDb = szam(0, 20);
         for (int i = 1; i <= a.Esemenyek.EsemenyDb; ++i) {
             const int oldal = szam(0, 1) == 0 ? -1 : 1;
-            a.Esemenyek.esemenyek[i] = {szoveg(32),    szoveg(255), pillanat(),           szoveg(32),
-                                        szam(-12, 12), szam(0, 1),  oldal * szam(0, 180), oldal * szam(0, 59),
-                                        szam(0, 60),   szam(0, 59), szam(0, 12)};
+            a.Esemenyek.esemenyek[i] = {
+                szoveg(32),          szoveg(255),   szam(1900, 2068), szam(1, 12),
+                szam(1, 31),         szam(0, 23),   szam(0, 59),      szam(0, 59),
+                szoveg(32),          szam(-12, 12), szam(0, 1),       oldal * szam(0, 180),
+                oldal * szam(0, 59), szam(0, 60),   szam(0, 59),      szam(0, 12)};
         }
         ASSERT_FALSE(KepletMentes(a, fajl()));
         Allapot b;

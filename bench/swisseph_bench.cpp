@@ -26,8 +26,10 @@ struct TMoment {
 /// Far apart, so that neither side finds its last answer again.
 const std::vector<TMoment>& momentumok() {
     static const std::vector<TMoment> mind = [] {
+        constexpr std::int32_t db = 1000;
         std::vector<TMoment> uj;
-        for (std::int32_t i = 0; i < 1000; ++i) uj.push_back({2415021 + i * 7919 % 65000, i * 7919 % 86400});
+        uj.reserve(db);
+        for (std::int32_t i = 0; i < db; ++i) uj.push_back({2415021 + i * 7919 % 65000, i * 7919 % 86400});
         return uj;
     }();
     return mind;

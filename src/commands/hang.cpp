@@ -18,6 +18,6 @@ std::string HangFajlKeres(const std::string& nev, const std::vector<std::string>
                           const std::function<bool(const std::string&)>& fajlVan) {
     if (nev.find_first_of("/\\") != std::string::npos) return {};
     for (const std::string& mappa : mappak)
-        if (const std::string fajl = mappa + nev + ".mpe"; fajlVan(fajl)) return fajl;
+        if (std::string fajl = mappa + nev + ".mpe"; fajlVan(fajl)) return fajl;
     return {};
 }

@@ -23,7 +23,7 @@ constexpr double szemkozt(double csucs) {
 }  // namespace
 
 THazHely HazHely(std::int32_t armcOra, std::int32_t armcPerc, double armcMperc) {
-    const std::int64_t m = std::int64_t{armcOra} * 60 + armcPerc / 4 * 4;
+    const std::int64_t m = std::int64_t{armcOra} * 60 + std::int64_t{armcPerc} / 4 * 4;
     const std::int64_t egesz = std::int64_t{armcOra} * 3600 + std::int64_t{armcPerc} * 60 - m * 60;
     return {kormaradek(m / 4, 360), static_cast<double>(egesz) + armcMperc};
 }

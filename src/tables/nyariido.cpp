@@ -82,8 +82,8 @@ int NyariIdoE(std::int32_t julianszam, std::int32_t ora, std::int32_t perc, std:
     for (const TNyariIdoszak& i : NyariIdoszakok) {
         if (julianszam < i.kezdoNap) return 0;
         if (julianszam > i.kezdoNap && julianszam < i.vegeNap) return 1;
-        if (julianszam == i.kezdoNap && masodperc >= i.kezdoOra * 3600) return 1;
-        if (julianszam == i.vegeNap && masodperc < i.vegeOra * 3600) return 1;
+        if (julianszam == i.kezdoNap && masodperc >= std::int64_t{i.kezdoOra} * 3600) return 1;
+        if (julianszam == i.vegeNap && masodperc < std::int64_t{i.vegeOra} * 3600) return 1;
     }
     return 0;
 }

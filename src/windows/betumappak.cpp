@@ -58,7 +58,7 @@ const QStringList& helyettesek(std::string_view nev) {
 /// The list of all families is asked once: a question for one of them looks through the system's aliases.
 QString betuCsalad(std::string_view nev) {
     static const QStringList csaladok = QFontDatabase::families();
-    const QString sajat = qszoveg(nev);
+    QString sajat = qszoveg(nev);
     const QStringList& sor = helyettesek(nev);
     if (sor.isEmpty() || csaladok.contains(sajat)) return sajat;
     const auto megvan =

@@ -24,6 +24,6 @@ QStringList sajatModulMappak() {
 
 QString kezikonyvFajl() {
     for (const QString& mappa : helyek("doc", "doc/korvend"))
-        if (const QString fajl = mappa + "/kezikonyv.html"; QFileInfo::exists(fajl)) return fajl;
+        if (QString fajl = mappa + "/kezikonyv.html"; QFileInfo::exists(fajl)) return fajl;
     return {};
 }

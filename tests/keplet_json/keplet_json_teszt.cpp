@@ -234,8 +234,8 @@ TEST(KepletJson, ADirekciokEsAzIngresszio) {
     const std::string sajatNap = szeged + R"(, "esemeny": [1975, 7, 21])";
     const TJson tercier =
         valasz(R"({"op": "tercier", "orbis_nap": 99, )" + szeged + R"(, "esemeny": [1980, 7, 21]})");
-    const bool ures = tercier["TercierSzoveg"] == "";
-    EXPECT_EQ(tercier["TercierHazSzoveg"] == "", ures);
+    const bool ures = tercier["TercierSzoveg"].get<std::string>().empty();
+    EXPECT_EQ(tercier["TercierHazSzoveg"].get<std::string>().empty(), ures);
     EXPECT_EQ(tercier["verdikt"], ures ? "Nincs direkció!" : "Van direkció!");
     EXPECT_EQ(valasz(R"({"op": "ingresszio", )" + sajatNap + "}")["verdikt"], "Van inresszió!");
     const TJson primer = valasz(R"({"op": "primer", "kezdo": [2000, 1, 1], )" + szeged + "}");

@@ -48,7 +48,7 @@ TJson pillanat(int elsoEv = 1900, int utolsoEv = 2070) {
 std::string helyseg() {
     if (esely(3)) return valaszt<std::string>({"Nincs ilyen", "budapest", "Ő", ""});
     std::string nev;
-    while (nev.empty()) nev = Telepulesek[szam(1, 3000)].nev;
+    while (nev.empty()) nev = Telepulesek[static_cast<std::size_t>(szam(1, 3000))].nev;
     return nev;
 }
 

@@ -13,7 +13,8 @@
 
 #include "majom.h"
 
-/// What the sanitizers call before they end the program; there is none without them.
+/// What the sanitizers call before they end the program; there is none without them. The name is theirs.
+// NOLINTNEXTLINE(clang-diagnostic-reserved-identifier)
 extern "C" void __sanitizer_set_death_callback(void (*mi)()) __attribute__((weak));
 
 namespace {

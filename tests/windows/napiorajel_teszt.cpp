@@ -11,6 +11,8 @@
 #include "probaora.h"
 
 /// Bytes in use as the sanitizer counts them, which has an allocator of its own; there is none without it.
+/// The name is the sanitizer's.
+// NOLINTNEXTLINE(clang-diagnostic-reserved-identifier)
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes() __attribute__((weak));
 
 namespace {

@@ -120,6 +120,21 @@ TEST(Primer, AzArcNelkuliPontokARadixTengelyei) {
     EXPECT_NEAR(p[cAsc], a.Keplet.hazCsucs[1], 0.15);
 }
 
+/// The run's table of oblique ascensions ends with column 359: past it the Ascendant is read towards 0.
+TEST(Primer, AFutasAzUtolsoOszlopFolottNullaFeleOlvas) {
+    Allapot a = szuletes();
+    const TFerdeTabla ferde = FerdeSor(a.Keplet.szelesseg);
+    const double iv = (kezdoNap - a.Keplet.julianszam) * PrimerKulcs / 60;
+    const double t = ferde[359] + 10;
+    a.Keplet.hazCsucs[10] = RektToEkl(rektKorbe(t - 5400 - iv)) / 60;
+    for (auto& sor : a.Rajz.FenyszogPontok) sor.tolt(100);
+    a.Rajz.FenyszogPontok[3][8] = 359 + (t - ferde[359]) / (0 - ferde[359]);
+    const auto sorok = PrimerFutas(a, kezdo);
+    ASSERT_EQ(sorok.size(), 1U);
+    EXPECT_TRUE(sorok[0].starts_with("2000.01.01.   ")) << sorok[0];
+    EXPECT_TRUE(sorok[0].ends_with(std::string(32, ' ') + "CR")) << sorok[0];
+}
+
 TEST(Primer, ANegyOszlopBehuzasaEsASorAlakja) {
     const std::size_t behuzas[]{5, 20, 32, 46};
     for (std::size_t oszlop = 0; oszlop < 4; ++oszlop) {

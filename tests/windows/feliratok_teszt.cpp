@@ -96,6 +96,21 @@ private slots:
         for (const auto& [ablak, cim] : cimek) QCOMPARE(ablak->windowTitle(), QString(cim));
     }
 
+    void aFoablakAzElsoOrajelElott() {
+        TFrissAblakok a;
+        QCOMPARE(a.form1.windowTitle(), QString());
+        gombFeliratok(a.form1, {{"PanelButton2_Most", "Állj"},
+                                {"PanelButton3_Valt", "Mundán"},
+                                {"PanelButton4Leptet", "Léptet"},
+                                {"PanelButton5Orbis", "Orbis"},
+                                {"PanelButton6MHP", "MHP"},
+                                {"PanelButton7Tercier", "Tercier"}});
+        const QStringList nevek{"A", "B", "C", "D", "E", "F", "G",  "H",
+                                "I", "J", "I", "2", "3", "X", "11", "12"};
+        for (int sor = 0; sor < nevek.size(); ++sor)
+            QCOMPARE(cimke(a.form1, qPrintable(QStringLiteral("Label%1").arg(3 * sor + 1))), nevek[sor]);
+    }
+
     void aSzemelyiAdatok() {
         TFrissAblakok a;
         mezoFeliratok(a.form2, {{"EditNev1", "Név:"},

@@ -128,6 +128,22 @@ TEST(AafIdo, JulianNapbolZonaNelkulAHosszusagSzerint) {
     EXPECT_TRUE(e.kozol("idozona"));
 }
 
+// In 2000 summer time ends on October 29 at 3:00 of its own clock, 1:00 UT.
+TEST(AafIdo, JulianNapbolANyariIdoVegeANyariOraSzerint) {
+    TAafIdopont nyari = idopont("*", "*", "2451846.53125", "1he00", "*");  // 0:45 UT
+    nyari.hazai = true;
+    const auto elotte = megold(nyari);
+    ASSERT_TRUE(elotte.p);
+    EXPECT_EQ(elotte.p->nyariIdo, 1);
+    EXPECT_EQ(elotte.p->pillanat, (TPillanat{2000, 10, 29, 2, 45, 0}));
+    TAafIdopont teli = idopont("*", "*", "2451846.5625", "1he00", "*");  // 1:30 UT
+    teli.hazai = true;
+    const auto utana = megold(teli);
+    ASSERT_TRUE(utana.p);
+    EXPECT_EQ(utana.p->nyariIdo, 0);
+    EXPECT_EQ(utana.p->pillanat, (TPillanat{2000, 10, 29, 2, 30, 0}));
+}
+
 TEST(AafIdo, PillanatNelkulHiba) {
     EXPECT_EQ(megold(idopont("21.7.1975", "*", "*", "1he", "0")).hiba, "ido: ismeretlen");
     EXPECT_EQ(megold(idopont("*", "6:04", "*", "1he", "0")).hiba, "datum: ismeretlen");

@@ -152,6 +152,26 @@ TEST(Primer, ANegyOszlopBehuzasaEsASorAlakja) {
     }
 }
 
+/// The Sun's house in the solar chart before each line's day; 55 years see it in all twelve.
+TEST(Primer, ASorAzUtolsoSolarNapHazaval) {
+    const std::array<std::string, 13> jelek{"",    "w", "2", "3", "wv", "5", "6",
+                                            "vww", "8", "9", "x", "11", "12"};
+    const Allapot minta = szuletes();
+    std::set<int> hazak;
+    for (int ev = 1976; ev <= 2030; ++ev) {
+        const TPillanat eleje{ev, 1, 1, 0, 0, 0};
+        const auto sorok = PrimerFutas(egyPont(pontok(minta, napSzama(eleje) - kezdoNap)[dMC]), eleje);
+        ASSERT_FALSE(sorok.empty()) << ev;  // later another column may come there too
+        const int haz =
+            SolarHaz(minta.Keplet.bolygo, napSzama(eleje), minta.Keplet.hosszusag, minta.Keplet.szelesseg);
+        ASSERT_TRUE(haz >= 1 && haz <= 12) << ev;
+        EXPECT_EQ(sorok[0], std::to_string(ev) + ".01.01.   " + jelek[static_cast<std::size_t>(haz)] +
+                                std::string(5, ' ') + "CR");
+        hazak.insert(haz);
+    }
+    EXPECT_EQ(hazak.size(), 12U);
+}
+
 TEST(Primer, KetNaponAtBenneMaradoPontEgySor) {
     // Half-way between two days' places both windows hold the point.
     const Allapot minta = szuletes();
@@ -227,7 +247,7 @@ TEST(Primer, AHuszonkettedikSorUtanANapTobbiOszlopaSem) {
 TEST(Primer, A3661NapUtanNincsKereses) {
     const Allapot minta = szuletes();
     EXPECT_EQ(PrimerFutas(egyPont(pontok(minta, 3660)[dMC]), kezdo).size(), 1U);
-    EXPECT_EQ(PrimerFutas(egyPont(pontok(minta, 3663)[dMC]), kezdo).size(), 0U);
+    EXPECT_EQ(PrimerFutas(egyPont(pontok(minta, 3661)[dMC]), kezdo).size(), 0U);
 }
 
 TEST(Primer, ASzuletesElottiKezdetNegativIv) {

@@ -8,6 +8,7 @@
 
 #include "kezteszt.h"
 #include "windows/helysegmezo.h"
+#include "windows/helysegmodell.h"
 #include "windows/vezerlok.h"
 
 namespace {
@@ -297,6 +298,13 @@ private slots:
         QCOMPARE(mezo.itemText(nevek - 1), "Zubogy");
         mezo.setItemText(0, "Más");  // the list can only be read
         QCOMPARE(mezo.itemText(0), "Aba");
+    }
+
+    void aSoroknakNincsAlsoSora() {
+        HelysegModell modell;
+        modell.noveles();
+        QCOMPARE(modell.rowCount(), 3138);
+        QCOMPARE(modell.rowCount(modell.index(0)), 0);
     }
 
     void legfeljebbHarminckettoKarakter() {

@@ -35,6 +35,18 @@ private slots:
         QVERIFY(!a.form8.isVisible());
     }
 
+    void azEscapeLenyomasaSzamitAFelengedeseNem() {
+        TFrissAblakok a;
+        TKeresesFigyelo figyelo(a.form8);
+        const TPillanat p{2000, 1, 1, 0, 0, 0};
+        QTest::keyRelease(&a.form1, Qt::Key_Escape);  // pressed before the search
+        QVERIFY(figyelo.tovabb(p));
+        QTest::keyPress(&a.form1, Qt::Key_Left);
+        QVERIFY(figyelo.tovabb(p));
+        QTest::keyPress(&a.form1, Qt::Key_Escape);
+        QVERIFY(!figyelo.tovabb(p));
+    }
+
     /// Not at every step: painting a title takes longer than a day's search.
     void aCimCsakIdonkentValtozik() {
         TFrissAblakok a;

@@ -422,8 +422,22 @@ private slots:
     }
 
     void aVisszateresek() {
-        const TFrissAblakok a;
+        TFrissAblakok a;
         gombFeliratok(a.form14, {{"Button_Rendben1", "Rendben"}, {"Button_Megsem1", "Mégsem"}});
+        mezoFeliratok(a.form14, {{"ComboBoxHelyseg1", "Helység:"}});
+        a.form14.show();
+        QApplication::processEvents();
+        const QRect lista = hely(a.form14, *vezerlo<QWidget>(a.form14, "ListBox1"));
+        int balra = lista.right();
+        for (const auto& [szam, szoveg] :
+             {std::pair("SpinEditEv1", "Edit1"), std::pair("SpinEditHo1", "Edit2"),
+              std::pair("SpinEditNap1", "Edit3")}) {
+            const QRect felso = hely(a.form14, *vezerlo<QWidget>(a.form14, szam));
+            const QRect also = hely(a.form14, *vezerlo<QWidget>(a.form14, szoveg));
+            QVERIFY2(felso.left() > balra && also.left() == felso.left() && also.top() > felso.bottom(),
+                     szoveg);
+            balra = felso.left();
+        }
     }
 };
 

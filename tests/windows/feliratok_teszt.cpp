@@ -275,6 +275,10 @@ private slots:
                                 {"BMundan10", " X"},
                                 {"BMundan11", "11"},
                                 {"BMundan12", "12"}});
+        int hazGombok = 0;
+        for (const auto* gomb : a.form8.findChildren<QPushButton*>())
+            hazGombok += gomb->objectName().startsWith("BMundan");
+        QCOMPARE(hazGombok, 12);
         QCOMPARE(cimke(a.form8, "Label1Haz"), " I. Házak");
         const QStringList sorok{" I-es Mundánház:  ",   "Ház ura:",       "Házura jegyben:", "Házura házban:",
                                 "Házura együttáll:",    "Házban állnak:", "Fényszögpárok:",  "",

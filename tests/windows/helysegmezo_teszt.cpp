@@ -232,6 +232,14 @@ private slots:
         QCOMPARE(d.mezo.currentText(), "Őriszentpéter");
     }
 
+    /// From a text that can mean no place an arrow key leads to a place all the same.
+    void aNyilAzErtelmetlenSzovegrolIsHelyreVisz() {
+        TProbaDialogus d("Szeged");
+        beut("xyzw");
+        leut(Qt::Key_Down);
+        QVERIFY(d.mezo.findText(d.mezo.currentText(), Qt::MatchExactly) >= 0);
+    }
+
     void aListaAHelynelNyilik() {
         TProbaDialogus d("Szeged");
         for (const char* nev : {"Szeged", "Zubogy", "Aba", "Őriszentpéter"}) {

@@ -37,6 +37,18 @@ TEST(Fenyszogek, ABetuAVonalKozepen) {
     EXPECT_EQ(r[0].y, 322 + 97 - 6);
 }
 
+TEST(Fenyszogek, ABetuFerdeVonalKozepenIs) {
+    Allapot a = probaKeplet(0);
+    a.Keplet.bolygo[1] = 30;
+    a.Keplet.bolygo[2] = 120;
+    a.FenyszogRadix[1][2] = 'R';
+    const auto r = szovegek(rajz(a), "R");
+    ASSERT_EQ(r.size(), 1U);
+    // The points are (-168.01, 97) and (97, 168.01) from the centre, their middle (-35.50, 132.50); offset 6.
+    EXPECT_EQ(r[0].x, 300);
+    EXPECT_EQ(r[0].y, 449);
+}
+
 TEST(Fenyszogek, FenyszogNelkulNincsBetuEsAStilusFolytonos) {
     Allapot a = probaKeplet();
     for (const auto& v : csak<TVonalMuvelet>(rajz(a))) EXPECT_EQ(v.stilus, 0);

@@ -92,6 +92,21 @@ TEST(AafIdo, AJulianNapADatumotIsAtviszi) {
     EXPECT_EQ(elozo.p->pillanat, (TPillanat{1975, 7, 20, 23, 0, 0}));
 }
 
+// Summer time is 0, 1 or 2 hours: a clock that is further ahead is wrong. A chart knows one hour; the second
+// goes to its zone.
+TEST(AafIdo, AzOrabolLegfeljebbKetOraNyariIdo) {
+    const auto ketto = megold(idopont("21.7.1975", "8:04:09", "2442614.711215", "1he00", "*"));
+    ASSERT_TRUE(ketto.p);
+    EXPECT_EQ(ketto.p->nyariIdo, 1);
+    EXPECT_EQ(ketto.p->idozona, 2);
+    EXPECT_EQ(ketto.p->pillanat, (TPillanat{1975, 7, 21, 8, 4, 9}));
+    const auto harom = megold(idopont("21.7.1975", "9:04:09", "2442614.711215", "1he00", "*"));
+    ASSERT_TRUE(harom.p);
+    EXPECT_EQ(harom.p->nyariIdo, 0);
+    EXPECT_EQ(harom.p->pillanat, (TPillanat{1975, 7, 21, 6, 4, 9}));
+    EXPECT_TRUE(harom.kozol("eltér"));
+}
+
 TEST(AafIdo, JulianNapbolOraidoNelkul) {
     for (const auto& i : {idopont("*", "*", "2442614.711215", "1he00", "1"),
                           idopont("21.7.1975", "*", "2442614.711215", "1he00", "1"),
@@ -111,6 +126,22 @@ TEST(AafIdo, JulianNapbolZonaNelkulAHosszusagSzerint) {
     EXPECT_EQ(e.p->idozona, -5);
     EXPECT_EQ(e.p->pillanat, (TPillanat{1975, 7, 21, 0, 4, 9}));
     EXPECT_TRUE(e.kozol("idozona"));
+}
+
+// In 2000 summer time ends on October 29 at 3:00 of its own clock, 1:00 UT.
+TEST(AafIdo, JulianNapbolANyariIdoVegeANyariOraSzerint) {
+    TAafIdopont nyari = idopont("*", "*", "2451846.53125", "1he00", "*");  // 0:45 UT
+    nyari.hazai = true;
+    const auto elotte = megold(nyari);
+    ASSERT_TRUE(elotte.p);
+    EXPECT_EQ(elotte.p->nyariIdo, 1);
+    EXPECT_EQ(elotte.p->pillanat, (TPillanat{2000, 10, 29, 2, 45, 0}));
+    TAafIdopont teli = idopont("*", "*", "2451846.5625", "1he00", "*");  // 1:30 UT
+    teli.hazai = true;
+    const auto utana = megold(teli);
+    ASSERT_TRUE(utana.p);
+    EXPECT_EQ(utana.p->nyariIdo, 0);
+    EXPECT_EQ(utana.p->pillanat, (TPillanat{2000, 10, 29, 2, 30, 0}));
 }
 
 TEST(AafIdo, PillanatNelkulHiba) {

@@ -120,6 +120,21 @@ TEST(Primer, AzArcNelkuliPontokARadixTengelyei) {
     EXPECT_NEAR(p[cAsc], a.Keplet.hazCsucs[1], 0.15);
 }
 
+/// The run's table of oblique ascensions ends with column 359: past it the Ascendant is read towards 0.
+TEST(Primer, AFutasAzUtolsoOszlopFolottNullaFeleOlvas) {
+    Allapot a = szuletes();
+    const TFerdeTabla ferde = FerdeSor(a.Keplet.szelesseg);
+    const double iv = (kezdoNap - a.Keplet.julianszam) * PrimerKulcs / 60;
+    const double t = ferde[359] + 10;
+    a.Keplet.hazCsucs[10] = RektToEkl(rektKorbe(t - 5400 - iv)) / 60;
+    for (auto& sor : a.Rajz.FenyszogPontok) sor.tolt(100);
+    a.Rajz.FenyszogPontok[3][8] = 359 + (t - ferde[359]) / (0 - ferde[359]);
+    const auto sorok = PrimerFutas(a, kezdo);
+    ASSERT_EQ(sorok.size(), 1U);
+    EXPECT_TRUE(sorok[0].starts_with("2000.01.01.   ")) << sorok[0];
+    EXPECT_TRUE(sorok[0].ends_with(std::string(32, ' ') + "CR")) << sorok[0];
+}
+
 TEST(Primer, ANegyOszlopBehuzasaEsASorAlakja) {
     const std::size_t behuzas[]{5, 20, 32, 46};
     for (std::size_t oszlop = 0; oszlop < 4; ++oszlop) {
@@ -135,6 +150,26 @@ TEST(Primer, ANegyOszlopBehuzasaEsASorAlakja) {
                     (std::stoi(haz) >= 2 && std::stoi(haz) <= 12))
             << haz;
     }
+}
+
+/// The Sun's house in the solar chart before each line's day; 55 years see it in all twelve.
+TEST(Primer, ASorAzUtolsoSolarNapHazaval) {
+    const std::array<std::string, 13> jelek{"",    "w", "2", "3", "wv", "5", "6",
+                                            "vww", "8", "9", "x", "11", "12"};
+    const Allapot minta = szuletes();
+    std::set<int> hazak;
+    for (int ev = 1976; ev <= 2030; ++ev) {
+        const TPillanat eleje{ev, 1, 1, 0, 0, 0};
+        const auto sorok = PrimerFutas(egyPont(pontok(minta, napSzama(eleje) - kezdoNap)[dMC]), eleje);
+        ASSERT_FALSE(sorok.empty()) << ev;  // later another column may come there too
+        const int haz =
+            SolarHaz(minta.Keplet.bolygo, napSzama(eleje), minta.Keplet.hosszusag, minta.Keplet.szelesseg);
+        ASSERT_TRUE(haz >= 1 && haz <= 12) << ev;
+        EXPECT_EQ(sorok[0], std::to_string(ev) + ".01.01.   " + jelek[static_cast<std::size_t>(haz)] +
+                                std::string(5, ' ') + "CR");
+        hazak.insert(haz);
+    }
+    EXPECT_EQ(hazak.size(), 12U);
 }
 
 TEST(Primer, KetNaponAtBenneMaradoPontEgySor) {
@@ -212,7 +247,7 @@ TEST(Primer, AHuszonkettedikSorUtanANapTobbiOszlopaSem) {
 TEST(Primer, A3661NapUtanNincsKereses) {
     const Allapot minta = szuletes();
     EXPECT_EQ(PrimerFutas(egyPont(pontok(minta, 3660)[dMC]), kezdo).size(), 1U);
-    EXPECT_EQ(PrimerFutas(egyPont(pontok(minta, 3663)[dMC]), kezdo).size(), 0U);
+    EXPECT_EQ(PrimerFutas(egyPont(pontok(minta, 3661)[dMC]), kezdo).size(), 0U);
 }
 
 TEST(Primer, ASzuletesElottiKezdetNegativIv) {

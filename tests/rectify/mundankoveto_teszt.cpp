@@ -74,6 +74,26 @@ TEST_F(TMundanKovetoTeszt, ANyariIdoHatarainIs) {
         }
 }
 
+/// A moment written past the day's ends is asked of the table as it stands: before midnight of a day that
+/// changes at 0:00 it has not changed yet.
+TEST_F(TMundanKovetoTeszt, ANyariIdoANapSzelenTuliIdokreIs) {
+    constexpr TPillanat tulrol[]{{0, 0, 0, -1, 0, 0}, {0, 0, 0, 0, -1, 0}, {0, 0, 0, 0, 0, -1}};
+    for (const TPillanat& nap : {TPillanat{1954, 5, 23, 0, 0, 0}, TPillanat{1980, 4, 6, 0, 0, 0},
+                                 TPillanat{1980, 9, 28, 0, 0, 0}, TPillanat{1983, 3, 27, 0, 0, 0}}) {
+        const int julianszam = napSzama(nap);
+        for (int n = 0; n < 200; ++n) {
+            TMundanHely h = hely();
+            h.nyariIdo.reset();
+            for (const TPillanat& p : tulrol) {
+                TMundanLanc lanc;
+                MundanLanc(julianszam, p.ora, p.perc, p.mperc, h, OrbisAlap, lanc);
+                TMundanKoveto k(h, OrbisAlap);
+                ASSERT_EQ(k.allapot(julianszam, p.ora, p.perc, p.mperc), Analogiak(lanc).AnalogiaAllapot);
+            }
+        }
+    }
+}
+
 /// The search's rule read plainly, each moment by a chart of its own.
 struct TSimaKereses {
     const TMundanHely& hely;

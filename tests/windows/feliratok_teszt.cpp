@@ -3,6 +3,7 @@
 #include <QGroupBox>
 #include <QListWidget>
 #include <QRadioButton>
+#include <QStyle>
 
 #include "ablakteszt.h"
 
@@ -62,6 +63,48 @@ void hatarok(const QWidget& ablak, const THatar (&vart)[N]) {
     }
 }
 
+/// Whether a control is one that a user sees as a piece of its own: a field with its buttons is one.
+bool onallo(const QWidget& w) {
+    if (!w.isVisible()) return false;
+    if (const auto* felirat = qobject_cast<const QLabel*>(&w)) return !felirat->text().trimmed().isEmpty();
+    const QWidget* szulo = w.parentWidget();
+    if (qobject_cast<const QAbstractSpinBox*>(szulo) != nullptr ||
+        qobject_cast<const QComboBox*>(szulo) != nullptr)
+        return false;
+    return qobject_cast<const QAbstractButton*>(&w) != nullptr ||
+           qobject_cast<const QLineEdit*>(&w) != nullptr ||
+           qobject_cast<const QAbstractSpinBox*>(&w) != nullptr ||
+           qobject_cast<const QComboBox*>(&w) != nullptr ||
+           qobject_cast<const QPlainTextEdit*>(&w) != nullptr ||
+           qobject_cast<const QListWidget*>(&w) != nullptr;
+}
+
+/// Where a control is seen: of a caption its letters alone.
+QRect latszik(const QWidget& ablak, const QWidget& w) {
+    const auto* felirat = qobject_cast<const QLabel*>(&w);
+    if (felirat == nullptr) return hely(ablak, w);
+    return QStyle::alignedRect(Qt::LeftToRight, felirat->alignment(), felirat->sizeHint(), hely(ablak, w));
+}
+
+/// The controls of a shown window keep clear of each other and of its edges.
+void szabadon(QWidget& ablak) {
+    QList<const QWidget*> vezerlok;
+    for (const auto* w : ablak.findChildren<QWidget*>())
+        if (w->window() == &ablak && onallo(*w)) vezerlok << w;
+    QVERIFY(!vezerlok.isEmpty());
+    for (qsizetype i = 0; i < vezerlok.size(); ++i) {
+        const QRect r = latszik(ablak, *vezerlok[i]);
+        const auto nev = [](const QWidget* w) {
+            const auto* felirat = qobject_cast<const QLabel*>(w);
+            return w->objectName() + (felirat != nullptr ? felirat->text() : QString());
+        };
+        const QString itt = ablak.objectName() + ": " + nev(vezerlok[i]);
+        QVERIFY2(ablak.rect().contains(r), qPrintable(itt));
+        for (qsizetype j = 0; j < i; ++j)
+            QVERIFY2(!r.intersects(latszik(ablak, *vezerlok[j])), qPrintable(itt + ", " + nev(vezerlok[j])));
+    }
+}
+
 /// Whether a window has each of these labels, as often as it stands here.
 void cimkek(QWidget& ablak, const QStringList& vart) {
     dynamic_cast<TKesobbiAblak&>(ablak).elkeszites();
@@ -94,6 +137,21 @@ private slots:
                                                              {&a.form13, "Pontosítás"},
                                                              {&a.form14, "Nap-áthaladások"}};
         for (const auto& [ablak, cim] : cimek) QCOMPARE(ablak->windowTitle(), QString(cim));
+    }
+
+    void aFoablakAzElsoOrajelElott() {
+        TFrissAblakok a;
+        QCOMPARE(a.form1.windowTitle(), QString());
+        gombFeliratok(a.form1, {{"PanelButton2_Most", "Állj"},
+                                {"PanelButton3_Valt", "Mundán"},
+                                {"PanelButton4Leptet", "Léptet"},
+                                {"PanelButton5Orbis", "Orbis"},
+                                {"PanelButton6MHP", "MHP"},
+                                {"PanelButton7Tercier", "Tercier"}});
+        const QStringList nevek{"A", "B", "C", "D", "E", "F", "G",  "H",
+                                "I", "J", "I", "2", "3", "X", "11", "12"};
+        for (int sor = 0; sor < nevek.size(); ++sor)
+            QCOMPARE(cimke(a.form1, qPrintable(QStringLiteral("Label%1").arg(3 * sor + 1))), nevek[sor]);
     }
 
     void aSzemelyiAdatok() {
@@ -217,6 +275,10 @@ private slots:
                                 {"BMundan10", " X"},
                                 {"BMundan11", "11"},
                                 {"BMundan12", "12"}});
+        int hazGombok = 0;
+        for (const auto* gomb : a.form8.findChildren<QPushButton*>())
+            hazGombok += gomb->objectName().startsWith("BMundan");
+        QCOMPARE(hazGombok, 12);
         QCOMPARE(cimke(a.form8, "Label1Haz"), " I. Házak");
         const QStringList sorok{" I-es Mundánház:  ",   "Ház ura:",       "Házura jegyben:", "Házura házban:",
                                 "Házura együttáll:",    "Házban állnak:", "Fényszögpárok:",  "",
@@ -299,9 +361,87 @@ private slots:
             QVERIFY2(!vezerlo<QWidget>(a.form13, rejtett)->isVisible(), rejtett);
     }
 
+    void aVezerlokNemFedikEgymast() {
+        TFrissAblakok a;
+        for (QWidget* ablak :
+             QWidgetList{&a.form2, &a.form7, &a.form9, &a.form10, &a.form11, &a.form13, &a.form14}) {
+            ablak->show();
+            QApplication::processEvents();
+            szabadon(*ablak);
+            ablak->hide();
+        }
+        menu(a.form1, "Mundnhzaspontosts1");
+        szabadon(a.form8);
+        menu(a.form1, "Primer1");
+        szabadon(a.form12);
+        for (const char* parancs : {"Orbisok1", "Tercier1"}) {
+            valasz([](QWidget& d) {
+                szabadon(d);
+                kattint(d, "Button_Megsem1");
+            });
+            menu(a.form1, parancs);
+        }
+    }
+
+    void azEletesemenyekOszlopaiMegadottHelyen() {
+        const QList<int> oszlopok{7, 22, 180, 290, 318, 333, 348, 363, 378, 410, 520, 538, 556, 574, 632};
+        TFrissAblakok a;
+        a.form10.show();
+        for (int sor = 1; sor <= 20; ++sor)
+            for (int i = 0; i < oszlopok.size(); ++i) {
+                const QString nev = QStringLiteral("LEletes_%1_%2").arg(sor).arg(i + 1);
+                QVERIFY2(vezerlo<QLabel>(a.form10, qPrintable(nev))->x() == oszlopok[i], qPrintable(nev));
+            }
+    }
+
+    void azOrbisokRacsaMegadottHelyen() {
+        TFrissAblakok a;
+        valasz([](QWidget& d) {
+            for (auto* gomb : d.findChildren<QPushButton*>()) {
+                const QStringList resz = gomb->objectName().split('_');
+                if (resz[0] != "BOrbis") continue;
+                const int r = resz[1].toInt() - 1;
+                const int c = resz[2].toInt() - 1;
+                QCOMPARE(gomb->geometry(), QRect(295 - 32 * (8 - c), 140 - 26 * (3 - r), 30, 24));
+                QCOMPARE(gomb->font().pointSize(), 10);
+                QVERIFY(r > 1 || c == 0 || c == 3 || c == 4 || c == 5 || c == 8);
+            }
+            const QString bolygok = "ABCDEFGHIJ";
+            const QString fenyszogek = "MNOPRSTVW";
+            QStringList megvan;
+            for (const auto* jel : d.findChildren<QLabel*>()) {
+                QCOMPARE(jel->font().pointSize(), 10);
+                megvan << QStringLiteral("%1 %2 %3").arg(jel->text()).arg(jel->x()).arg(jel->y());
+            }
+            QStringList vart{"Asc 12 65", "MC 12 91"};
+            for (int i = 0; i < 10; ++i) vart << QStringLiteral("%1 12 %2").arg(bolygok[i]).arg(26 * i + 117);
+            for (int i = 0; i < 9; ++i)
+                vart << QStringLiteral("%1 %2 42").arg(fenyszogek[i]).arg(32 * i + 45);
+            megvan.sort();
+            vart.sort();
+            QCOMPARE(megvan, vart);
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Orbisok1");
+    }
+
     void aVisszateresek() {
-        const TFrissAblakok a;
+        TFrissAblakok a;
         gombFeliratok(a.form14, {{"Button_Rendben1", "Rendben"}, {"Button_Megsem1", "Mégsem"}});
+        mezoFeliratok(a.form14, {{"ComboBoxHelyseg1", "Helység:"}});
+        a.form14.show();
+        QApplication::processEvents();
+        const QRect lista = hely(a.form14, *vezerlo<QWidget>(a.form14, "ListBox1"));
+        int balra = lista.right();
+        for (const auto& [szam, szoveg] :
+             {std::pair("SpinEditEv1", "Edit1"), std::pair("SpinEditHo1", "Edit2"),
+              std::pair("SpinEditNap1", "Edit3")}) {
+            const QRect felso = hely(a.form14, *vezerlo<QWidget>(a.form14, szam));
+            const QRect also = hely(a.form14, *vezerlo<QWidget>(a.form14, szoveg));
+            QVERIFY2(felso.left() > balra && also.left() == felso.left() && also.top() > felso.bottom(),
+                     szoveg);
+            balra = felso.left();
+        }
     }
 };
 

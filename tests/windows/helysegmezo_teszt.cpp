@@ -8,6 +8,7 @@
 
 #include "kezteszt.h"
 #include "windows/helysegmezo.h"
+#include "windows/helysegmodell.h"
 #include "windows/vezerlok.h"
 
 namespace {
@@ -231,6 +232,14 @@ private slots:
         QCOMPARE(d.mezo.currentText(), "Őriszentpéter");
     }
 
+    /// From a text that can mean no place an arrow key leads to a place all the same.
+    void aNyilAzErtelmetlenSzovegrolIsHelyreVisz() {
+        TProbaDialogus d("Szeged");
+        beut("xyzw");
+        leut(Qt::Key_Down);
+        QVERIFY(d.mezo.findText(d.mezo.currentText(), Qt::MatchExactly) >= 0);
+    }
+
     void aListaAHelynelNyilik() {
         TProbaDialogus d("Szeged");
         for (const char* nev : {"Szeged", "Zubogy", "Aba", "Őriszentpéter"}) {
@@ -297,6 +306,13 @@ private slots:
         QCOMPARE(mezo.itemText(nevek - 1), "Zubogy");
         mezo.setItemText(0, "Más");  // the list can only be read
         QCOMPARE(mezo.itemText(0), "Aba");
+    }
+
+    void aSoroknakNincsAlsoSora() {
+        HelysegModell modell;
+        modell.noveles();
+        QCOMPARE(modell.rowCount(), 3138);
+        QCOMPARE(modell.rowCount(modell.index(0)), 0);
     }
 
     void legfeljebbHarminckettoKarakter() {

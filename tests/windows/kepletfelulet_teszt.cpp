@@ -205,6 +205,28 @@ private slots:
         QCOMPARE(a.felszin(), a.tisztaRajz());
     }
 
+    void aReszlegesUjrarajzolasAReszenUjAzonKivulRegi() {
+        KepletFelulet felulet;
+        felulet.resize(100, 100);
+        felulet.show();
+        QApplication::processEvents();
+        const auto vonal = [](int y) {
+            return [y](QtVaszon& v) {
+                v.MoveTo(5, y);
+                v.LineTo(95, y);
+            };
+        };
+        felulet.ujrarajzol(felulet.rect(), vonal(20));
+        felulet.ujrarajzol(QRect(0, 0, 50, 100), vonal(70));
+        const QImage kep = felulet.kep().toImage();
+        const auto szurke = [&](int x, int y) {
+            const double arany = kep.devicePixelRatio();
+            return qGray(kep.pixel(static_cast<int>((x + 0.5) * arany), static_cast<int>((y + 0.5) * arany)));
+        };
+        QVERIFY(szurke(30, 20) > 192 && szurke(30, 70) < 64);
+        QVERIFY(szurke(80, 20) < 64 && szurke(80, 70) > 192);
+    }
+
     void aRairtSzovegAKovetkezoRajzolasigAll() {
         TJaroAblakok a;
         valasz([](QWidget& d) { kattint(d, "Button_Rendben1"); });

@@ -35,6 +35,35 @@ private slots:
         QVERIFY(!a.form8.isVisible());
     }
 
+    void azEscapeLenyomasaSzamitAFelengedeseNem() {
+        TFrissAblakok a;
+        TKeresesFigyelo figyelo(a.form8);
+        const TPillanat p{2000, 1, 1, 0, 0, 0};
+        QTest::keyRelease(&a.form1, Qt::Key_Escape);  // pressed before the search
+        QVERIFY(figyelo.tovabb(p));
+        QTest::keyPress(&a.form1, Qt::Key_Left);
+        QVERIFY(figyelo.tovabb(p));
+        QTest::keyPress(&a.form1, Qt::Key_Escape);
+        QVERIFY(!figyelo.tovabb(p));
+    }
+
+    /// Not at every step: painting a title takes longer than a day's search.
+    void aCimCsakIdonkentValtozik() {
+        TFrissAblakok a;
+        TKeresesFigyelo figyelo(a.form8);
+        const TPillanat p{2000, 1, 1, 0, 0, 0};
+        const QString nincsIras = "-";
+        const auto lep = [&] {
+            a.form8.setWindowTitle(nincsIras);
+            figyelo.tovabb(p);
+            return a.form8.windowTitle() != nincsIras;
+        };
+        QVERIFY(QTest::qWaitFor(lep));
+        bool kihagyta = false;
+        for (int proba = 0; proba < 100 && !kihagyta; ++proba) kihagyta = !lep();
+        QVERIFY(kihagyta);
+    }
+
     void kozbenNincsParancsDeAzAblakokElnek() {
         TFrissAblakok a;
         szuletes(a);

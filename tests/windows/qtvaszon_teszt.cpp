@@ -417,6 +417,18 @@ private slots:
         }
     }
 
+    /// A flat ellipse is white along its axis only, so that what is drawn over it is filled anew.
+    void azEllipszisNemFeherKor() {
+        for (const QRect& masodik : {QRect(30, 30, 60, 60), QRect(30, 20, 60, 80)}) {
+            const QImage kep = rajz({120, 120}, 1, Qt::red, [&](QtVaszon& v) {
+                v.Ellipse(10, 50, 110, 70);
+                v.Ellipse(masodik.x(), masodik.y(), masodik.x() + masodik.width(),
+                          masodik.y() + masodik.height());
+            });
+            for (const int y : {35, 45, 60, 75, 85}) QCOMPARE(szurke(kep, 60, y), 255);
+        }
+    }
+
     /// On a surface known to be white the first circle needs no filling; the picture is the same, whatever
     /// has been drawn before the circle.
     void aFeherLaponUgyanazARajz() {

@@ -45,6 +45,33 @@ private slots:
         QVERIFY(!a.form12.isVisible());
     }
 
+    /// A line's columns are indented by 5, 20, 32 and 46 blanks behind the house of the solar day.
+    void aFejekAzOszlopokFelett() {
+        TFrissAblakok a;
+        szuletes(a);
+        menu(a.form1, "Primer1");
+        auto* memo = vezerlo<QPlainTextEdit>(a.form12, "Memo1");
+        const auto helye = [&](const QString& elotte) {
+            memo->setPlainText(elotte + "AM");
+            QTextCursor kurzor(memo->document());
+            kurzor.setPosition(static_cast<int>(elotte.size()));
+            return memo->viewport()->mapTo(&a.form12, memo->cursorRect(kurzor).topLeft()).x();
+        };
+        const QString datum = "2000.01.01.   ";
+        const auto* solarNap = vezerlo<QLabel>(a.form12, "Label8");
+        QVERIFY(qAbs(solarNap->geometry().center().x() - helye(datum)) <= 3);
+        QVERIFY(solarNap->geometry().bottom() < memo->y());
+        const std::pair<const char*, int> oszlopok[]{{"dMC:", 5}, {"cMC:", 20}, {"dAsc:", 32}, {"cAsc:", 46}};
+        for (const auto& [fej, behuzas] : oszlopok) {
+            const QLabel* felirat = nullptr;
+            for (const auto* l : a.form12.findChildren<QLabel*>())
+                if (l->text() == fej) felirat = l;
+            QVERIFY2(felirat != nullptr, fej);
+            QVERIFY2(qAbs(felirat->x() - helye(datum + "w" + QString(behuzas, u' '))) <= 3, fej);
+            QVERIFY2(felirat->geometry().bottom() < memo->y(), fej);
+        }
+    }
+
     void azAljaTizennyolcKeppontalAFoablakAljaFelett() {
         for (const int magassag : {717, 400}) {
             TFrissAblakok a;

@@ -2,6 +2,7 @@
 
 #include "ablakteszt.h"
 #include "tables/szotar.h"
+#include "windows/datumformatum.h"
 
 class TForm1Teszt : public QObject {
     Q_OBJECT
@@ -38,6 +39,15 @@ private slots:
             QCOMPARE(vezerlo<QLabel>(a.form1, qPrintable(QStringLiteral("StatusBar1Panel%1").arg(i)))
                          ->maximumWidth(),
                      szelessegek[i]);
+    }
+
+    /// Three numbers in the order of the country, the year in four digits.
+    void aRovidDatumANyelvSorrendjeben() {
+        const std::pair<const char*, const char*> formak[]{{"C", "yyyy.MM.dd"},     {"hu_HU", "yyyy.MM.dd"},
+                                                           {"de_DE", "dd.MM.yyyy"}, {"en_US", "MM.dd.yyyy"},
+                                                           {"en_GB", "dd.MM.yyyy"}, {"sv_SE", "yyyy.MM.dd"}};
+        for (const auto& [nyelv, forma] : formak)
+            QCOMPARE(nyelv + (": " + rovidDatumFormatum(QLocale(nyelv))), nyelv + QString(": ") + forma);
     }
 
     void azElsoOrajelFeliratotAdEsGorget() {

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "chart/statuszsor.h"
 #include "commands/nyomtatas.h"
 #include "drawing/rogzitovaszon.h"
 #include "tables/szotar.h"
@@ -20,6 +21,16 @@ TEST(Nyomtatas, AFejlecSzovege) {
     k.armcMperc = 8.9;
     EXPECT_EQ(FejlecSzoveg(k, "Minta Anna"),
               std::string("Minta Anna,  1975.03.21.  6:04:09  Szeged,  ARMC: 18:07:8"));
+}
+
+TEST(Nyomtatas, ALaponMindigARadixAllAMegnevezessel) {
+    Allapot a;
+    a.KepletTipus = TKepletTipus::dekad;
+    NyomtatasNezete(a, "Minta Anna");
+    EXPECT_EQ(a.KepletTipus, TKepletTipus::radix);
+    EXPECT_EQ(a.Feliratok.valtGomb, "Mundán");
+    EXPECT_EQ(a.Feliratok.statusz[0], "Radix");
+    EXPECT_EQ(a.Feliratok.statusz[panelNev], "Minta Anna");
 }
 
 TEST(Nyomtatas, AFejlecEsAKapcsolatSorHelye) {

@@ -38,6 +38,12 @@ TEST(IdoAtvaltas, HelyiKozepidoAKovetkezoNapra) {
     EXPECT_EQ(k.napElteres, 1);
 }
 
+TEST(IdoAtvaltas, HelyiKozepidoMasodpercei) {
+    // 43230 - 4576 + 3600 = 42254 s.
+    EXPECT_EQ(atvalt({2000, 1, 1, 12, 0, 30}, TIdoTipus::LMT, 1, 68640).pillanat,
+              (TPillanat{2000, 1, 1, 11, 44, 14}));
+}
+
 TEST(IdoAtvaltas, AHosszusagMasodperceNemSzamit) {
     EXPECT_EQ(atvalt({2000, 1, 1, 12, 0, 0}, TIdoTipus::LMT, 1, 68640).pillanat,
               atvalt({2000, 1, 1, 12, 0, 0}, TIdoTipus::LMT, 1, 68699).pillanat);

@@ -92,6 +92,16 @@ TEST(AafIdo, AJulianNapADatumotIsAtviszi) {
     EXPECT_EQ(elozo.p->pillanat, (TPillanat{1975, 7, 20, 23, 0, 0}));
 }
 
+// Without a clock the zone is the meridian's, here Greenwich.
+TEST(AafIdo, AzIsmeretlenZonaAHosszusagSzerintNullaIs) {
+    TAafIdopont i = idopont("*", "*", "2442614.711215", "*", "*");
+    i.hosszusag = 0;
+    const auto e = megold(i);
+    ASSERT_TRUE(e.p);
+    EXPECT_EQ(e.p->idozona, 0);
+    EXPECT_TRUE(e.kozol("a hosszúság szerint +0 óra"));
+}
+
 // Summer time is 0, 1 or 2 hours: a clock that is further ahead is wrong. A chart knows one hour; the second
 // goes to its zone.
 TEST(AafIdo, AzOrabolLegfeljebbKetOraNyariIdo) {

@@ -11,6 +11,18 @@ namespace fs = std::filesystem;
 
 namespace {
 
+/// A name in full, without steps that change nothing.
+fs::path teljesNev(const fs::path& ut) {
+    const fs::path nev = fs::absolute(ut).lexically_normal();
+    return nev.has_filename() ? nev : nev.parent_path();
+}
+
+/// By what they are; on Windows folders are known by their names alone.
+bool ugyanaz(const fs::path& egyik, const fs::path& masik) {
+    std::error_code hiba;
+    return (fs::equivalent(egyik, masik, hiba) && !hiba) || teljesNev(egyik) == teljesNev(masik);
+}
+
 struct TFormatumNev {
     std::string_view nev;
     TFormatum formatum;
@@ -158,9 +170,8 @@ private:
         if (p_.kiKodlap && p_.kiFormatum != TFormatum::aaf)
             throw THasznalatHiba("--ki-kodlap: csak AAF írásakor");
         if (p_.excel && p_.kiFormatum != TFormatum::csv) throw THasznalatHiba("--excel: csak CSV írásakor");
+        if (ugyanaz(p_.be, p_.ki)) throw THasznalatHiba("a forrás és a cél ugyanaz: " + UtvonalSzoveg(p_.be));
         std::error_code hiba;
-        if (fs::equivalent(p_.be, p_.ki, hiba) && !hiba)
-            throw THasznalatHiba("a forrás és a cél ugyanaz: " + UtvonalSzoveg(p_.be));
         if (p_.kiFormatum != TFormatum::kvh && !p_.felulir && fs::is_regular_file(p_.ki, hiba))
             throw THasznalatHiba("már létezik, --felulir írja felül: " + UtvonalSzoveg(p_.ki));
     }

@@ -17,18 +17,40 @@ public:
         setObjectName("MediaPlayer1");
         setAudioOutput(new QAudioOutput(this));
         connect(this, &QMediaPlayer::errorOccurred, this, std::move(hiba));
+        connect(
+            this, &QMediaPlayer::mediaStatusChanged, this, [this] { indulas(); }, Qt::QueuedConnection);
     }
     void ures() override {
-        stop();
+        megallitas();
         setSource(QUrl());
     }
     void ujFajl(const QString& fajl) override {
+        indulo_ = true;
         setSource(QUrl::fromLocalFile(fajl));
+    }
+    void lejatszas() override {
+        indulo_ = true;
+        indulas();
+    }
+    void szunet() override {
+        indulo_ = false;
+        pause();
+    }
+    void megallitas() override {
+        indulo_ = false;
+        stop();
+    }
+
+private:
+    /// Not before the file is read: a start while its tracks are still being put together can wait for them
+    /// for ever, and the window with it.
+    void indulas() {
+        if (!indulo_ || mediaStatus() == LoadingMedia || mediaStatus() == NoMedia) return;
+        indulo_ = false;
         play();
     }
-    void lejatszas() override { play(); }
-    void szunet() override { pause(); }
-    void megallitas() override { stop(); }
+
+    bool indulo_ = false;  ///< plays as soon as it can
 };
 
 }  // namespace

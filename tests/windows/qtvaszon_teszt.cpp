@@ -24,13 +24,13 @@ using TRajzolas = std::function<void(QtVaszon&)>;
 
 /// A picture of a drawing; its size is in units of the canvas.
 QImage rajz(const QSize& meret, double arany, QColor alap, const TRajzolas& rajzolas,
-            const QRegion& resz = {}) {
+            const QRegion& resz = {}, TLap lap = TLap::barmilyen) {
     QImage kep(meret * arany, QImage::Format_RGB32);
     kep.setDevicePixelRatio(arany);
     kep.fill(alap);
     QPainter festo(&kep);
     if (!resz.isEmpty()) festo.setClipRegion(resz);
-    QtVaszon vaszon(festo);
+    QtVaszon vaszon(festo, lap);
     rajzolas(vaszon);
     return kep;
 }
@@ -94,6 +94,27 @@ void mindenfele(QtVaszon& v) {
     v.LineTo(70, 60);
     v.LineTo(12, 44);
     v.Ellipse(20, 12, 60, 52);
+}
+
+/// What may stand where a circle is drawn next: nothing, lines, a text, circles about other middles.
+QList<TRajzolas> mindenElobbi() {
+    return {
+        [](QtVaszon&) {},
+        [](QtVaszon& v) {
+            v.MoveTo(35, 60);
+            v.LineTo(60, 62);
+        },
+        [](QtVaszon& v) {
+            v.MoveTo(110, 57);
+            v.LineTo(10, 66);
+        },
+        [](QtVaszon& v) {
+            v.Betu("Liberation Sans", 14);
+            v.TextOut(40, 52, "Mm");
+        },
+        [](QtVaszon& v) { v.Ellipse(20, 55, 66, 65); },
+        [](QtVaszon& v) { v.Ellipse(10, 50, 50, 90); },
+    };
 }
 
 const QString szimbolumBetu = "Astro Symbols";
@@ -381,25 +402,8 @@ private slots:
 
     /// Whatever stands in a white circle is gone when a smaller one is drawn about the same middle.
     void aBelsoKorElfediAmiBenneVan() {
-        const QList<TRajzolas> rajzok{
-            [](QtVaszon&) {},
-            [](QtVaszon& v) {
-                v.MoveTo(35, 60);
-                v.LineTo(60, 62);
-            },
-            [](QtVaszon& v) {
-                v.MoveTo(110, 57);
-                v.LineTo(10, 66);
-            },
-            [](QtVaszon& v) {
-                v.Betu("Liberation Sans", 14);
-                v.TextOut(40, 52, "Mm");
-            },
-            [](QtVaszon& v) { v.Ellipse(20, 55, 66, 65); },
-            [](QtVaszon& v) { v.Ellipse(10, 50, 50, 90); },
-        };
         for (const int toll : {0, 1, 5}) {
-            for (const TRajzolas& belso : rajzok) {
+            for (const TRajzolas& belso : mindenElobbi()) {
                 const QImage kep = rajz({120, 120}, 1.5, Qt::red, [&](QtVaszon& v) {
                     v.Ellipse(10, 10, 110, 110);
                     belso(v);
@@ -432,34 +436,17 @@ private slots:
     /// On a surface known to be white the first circle needs no filling; the picture is the same, whatever
     /// has been drawn before the circle.
     void aFeherLaponUgyanazARajz() {
-        const QList<TRajzolas> elobb{
-            [](QtVaszon&) {},
-            [](QtVaszon& v) {
-                v.MoveTo(2, 60);
-                v.LineTo(118, 66);
-            },
-            [](QtVaszon& v) {
-                v.Betu("Liberation Sans", 14);
-                v.TextOut(40, 52, "Mm");
-            },
-            [](QtVaszon& v) { v.Ellipse(20, 55, 66, 65); },
-            [](QtVaszon& v) { v.Ellipse(10, 50, 50, 90); },
-        };
         for (const int toll : {0, 1, 5}) {
-            for (const TRajzolas& elso : elobb) {
+            for (const TRajzolas& elso : mindenElobbi()) {
                 const auto kep = [&](TLap lap) {
-                    QImage kesz(QSize(180, 180), QImage::Format_RGB32);
-                    kesz.setDevicePixelRatio(1.5);
-                    kesz.fill(Qt::white);
-                    QPainter festo(&kesz);
-                    QtVaszon v(festo, lap);
-                    elso(v);
-                    v.TollSzelesseg(toll);
-                    v.Ellipse(30, 30, 90, 90);
-                    v.Ellipse(40, 40, 80, 80);
-                    mindenfele(v);
-                    festo.end();
-                    return kesz;
+                    const auto korok = [&](QtVaszon& v) {
+                        elso(v);
+                        v.TollSzelesseg(toll);
+                        v.Ellipse(30, 30, 90, 90);
+                        v.Ellipse(40, 40, 80, 80);
+                        mindenfele(v);
+                    };
+                    return rajz({120, 120}, 1.5, Qt::white, korok, {}, lap);
                 };
                 QCOMPARE(kep(TLap::feher), kep(TLap::barmilyen));
             }

@@ -7,8 +7,11 @@
 #include <QFontMetrics>
 #include <QLineF>
 #include <QPaintDevice>
+#include <QPaintEngine>
+#include <QTransform>
 
 #include "windows/betukeszlet.h"
+#include "windows/korkeszlet.h"
 #include "windows/qszoveg.h"
 
 namespace {
@@ -84,10 +87,27 @@ void QtVaszon::Ellipse(int x1, int y1, int x2, int y2) {
     const double sugar = doboz.width() / 2;
     const bool feher = kor && (std::isinf(feherSugar_) || doboz.center() == feherKozep_) &&
                        sugar + tollFele() <= feherSugar_;
-    festo_.setBrush(feher ? QBrush() : QBrush(Qt::white));
-    festo_.drawEllipse(doboz);
+    korRajz(doboz, !feher);
     feherKozep_ = doboz.center();
     feherSugar_ = kor ? sugar - tollFele() : -1;
+}
+
+void QtVaszon::korRajz(const QRectF& doboz, bool kitoltve) {
+    const auto* darabok = pixelesRaszter() ? korDarabok(doboz.size().toSize(), toll_, kitoltve) : nullptr;
+    if (darabok == nullptr) {
+        festo_.setBrush(kitoltve ? QBrush(Qt::white) : QBrush());
+        festo_.drawEllipse(doboz);
+        return;
+    }
+    const QPointF hely = doboz.topLeft() - QPointF(pixelKozep, pixelKozep);
+    for (const TKorDarab& darab : *darabok) festo_.drawImage(hely + darab.hely, darab.kep);
+}
+
+/// The device has pixels, and they are the units that are drawn in.
+bool QtVaszon::pixelesRaszter() const {
+    const QTransform& t = festo_.deviceTransform();
+    return festo_.paintEngine()->type() == QPaintEngine::Raster && t.type() <= QTransform::TxTranslate &&
+           t.dx() == std::round(t.dx()) && t.dy() == std::round(t.dy());
 }
 
 double QtVaszon::tollFele() const {

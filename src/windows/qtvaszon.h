@@ -44,6 +44,8 @@ private:
     bool szogletes() const;
     /// How far the pen reaches from its line at most, antialiasing included.
     double tollFele() const;
+    void korRajz(const QRectF& doboz, bool kitoltve);
+    bool pixelesRaszter() const;
     void nemFeher(double tavolsag);
     TMeretezettBetu& meretezett();
     void kitoltes(const QRectF& doboz, const QColor& szin);

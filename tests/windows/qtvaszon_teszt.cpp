@@ -453,6 +453,82 @@ private slots:
         }
     }
 
+    /// A circle that comes back is copied from the parts that the second drawing has kept; no pixel tells it.
+    void aVisszateroKorUgyanaz() {
+        for (const int toll : {0, 1, 4, 5}) {
+            for (const TollStilus stilus : stilusok) {
+                for (const QSize& meret : {QSize(131, 131), QSize(17, 17), QSize(2, 2), QSize(150, 61)}) {
+                    const auto kor = [&](QtVaszon& v) {
+                        v.TollSzelesseg(toll);
+                        v.Stilus(stilus);
+                        v.Ellipse(13, 7, 13 + meret.width(), 7 + meret.height());
+                    };
+                    const QImage elso = rajz({180, 160}, 1, Qt::white, kor);
+                    for (int i = 0; i < 3; ++i) QCOMPARE(rajz({180, 160}, 1, Qt::white, kor), elso);
+                }
+            }
+        }
+    }
+
+    /// Its filling covers what is under it, and only that; without one nothing is touched inside.
+    void aVisszateroKorIsKitolt() {
+        const auto korok = [](QtVaszon& v) {
+            v.TollSzelesseg(3);
+            for (const int sugar : {50, 33}) v.Ellipse(60 - sugar, 60 - sugar, 60 + sugar, 60 + sugar);
+        };
+        const QImage elso = rajz({120, 120}, 1, Qt::red, korok);
+        for (int i = 0; i < 2; ++i) {
+            const QImage kep = rajz({120, 120}, 1, Qt::red, korok);
+            QCOMPARE(kep, elso);
+            QCOMPARE(kep.pixel(60, 60), qRgb(255, 255, 255));
+            QCOMPARE(kep.pixel(3, 3), qRgb(255, 0, 0));
+        }
+    }
+
+    /// Each look of a box's ellipse is kept by itself: pens, heights, filled or not.
+    void aVisszateroKorNemKeveredikMassal() {
+        struct TFajta {
+            int toll, magassag;
+            TLap lap;  // what is known to be white is not filled
+        };
+        for (int kor = 0; kor < 3; ++kor) {
+            for (const TFajta& f : {TFajta{1, 71, TLap::barmilyen}, TFajta{1, 71, TLap::feher},
+                                    TFajta{3, 71, TLap::feher}, TFajta{1, 35, TLap::barmilyen}}) {
+                const auto rajzolas = [&](QtVaszon& v) {
+                    v.TollSzelesseg(f.toll);
+                    v.Ellipse(10, 10, 81, 10 + f.magassag);
+                };
+                const QImage kep = rajz({100, 100}, 1, Qt::red, rajzolas, {}, f.lap);
+                const bool kitoltve = f.lap == TLap::barmilyen;
+                QCOMPARE(kep.pixel(45, 10 + f.magassag / 2),
+                         kitoltve ? qRgb(255, 255, 255) : qRgb(255, 0, 0));
+                QCOMPARE(hatarok(kep, [](int g) { return g < 20; }).height(), f.magassag + f.toll);
+                QCOMPARE(qRed(kep.pixel(45, 12)) < 20, false);
+                QCOMPARE(qRed(kep.pixel(45, 11)) < 20, f.toll == 3);
+            }
+        }
+    }
+
+    /// Where a unit is no pixel, or lies between two, a circle is drawn anew each time.
+    void aVisszateroKorElteresselIsHelyenVan() {
+        const auto kor = [](QtVaszon& v) { v.Ellipse(11, 11, 52, 52); };
+        const auto kep = [&](const QTransform& t) {
+            QImage lap(140, 140, QImage::Format_RGB32);
+            lap.fill(Qt::white);
+            QPainter festo(&lap);
+            festo.setTransform(t);
+            QtVaszon vaszon(festo);
+            kor(vaszon);
+            return lap;
+        };
+        for (int i = 0; i < 3; ++i) kep({});
+        QCOMPARE(tinta(kep(QTransform::fromTranslate(30, 20))), QRect(41, 31, 42, 42));
+        QCOMPARE(tinta(kep(QTransform::fromScale(2, 2))), QRect(22, 22, 84, 84));
+        // Half a pixel off, the line about the pixel's middle is two pixels about half grey.
+        const QImage fel = kep(QTransform::fromTranslate(0.5, 0));
+        for (const int x : {11, 12}) QVERIFY(std::abs(szurke(fel, x, 32) - 128) < 20);
+    }
+
     /// No difference that an eye would see: what square ends have more than round ones is a pixel or two.
     void aKeskenyFerdeVonalVegeSzogletes() {
         const auto ferde = [](QtVaszon& v, int toll) {

@@ -1,8 +1,10 @@
 // The module that links the sound library.
 
+#include <memory>
 #include <utility>
 
 #include <QAudioOutput>
+#include <QFile>
 #include <QMediaPlayer>
 #include <QUrl>
 
@@ -10,23 +12,37 @@
 
 namespace {
 
-class TQtLejatszo : public QMediaPlayer, public TLejatszo {
+/// One toolkit's player a file: what a player still tells of the file before could be taken for the new
+/// one's.
+class TQtLejatszo : public QObject, public TLejatszo {
 public:
     TQtLejatszo(QObject& tulajdonos, std::function<void(int, const QString&)> hiba)
-        : QMediaPlayer(&tulajdonos) {
+        : QObject(&tulajdonos), hiba_(std::move(hiba)) {
         setObjectName("MediaPlayer1");
-        setAudioOutput(new QAudioOutput(this));
-        connect(this, &QMediaPlayer::errorOccurred, this, std::move(hiba));
-        connect(
-            this, &QMediaPlayer::mediaStatusChanged, this, [this] { indulas(); }, Qt::QueuedConnection);
     }
-    void ures() override {
-        megallitas();
-        setSource(QUrl());
-    }
+    ~TQtLejatszo() override { elengedes(); }
+    TQtLejatszo(const TQtLejatszo&) = delete;
+    TQtLejatszo& operator=(const TQtLejatszo&) = delete;
+
+    void ures() override { elengedes(); }
     void ujFajl(const QString& fajl) override {
+        elengedes();
+        lejatszo_ = std::make_unique<QMediaPlayer>(this);
+        QMediaPlayer* const uj = lejatszo_.get();
+        uj->setAudioOutput(new QAudioOutput(uj));
+        // Queued, so that no player ends in the middle of telling; what one has told last goes with it.
+        connect(uj, &QMediaPlayer::errorOccurred, uj, hiba_, Qt::QueuedConnection);
+        connect(
+            uj, &QMediaPlayer::mediaStatusChanged, uj, [this] { indulas(); }, Qt::QueuedConnection);
         indulo_ = true;
-        setSource(QUrl::fromLocalFile(fajl));
+        // From a device, of which the player gets nothing before this has returned: its own reading can fall
+        // into the setting up of its tracks, and then each waits for the other for ever.
+        const QUrl hely = QUrl::fromLocalFile(fajl);
+        auto* const adat = new QFile(fajl, uj);
+        if (adat->open(QIODevice::ReadOnly))
+            uj->setSourceDevice(adat, hely);
+        else
+            uj->setSource(hely);  // the player tells what is wrong with it
     }
     void lejatszas() override {
         indulo_ = true;
@@ -34,22 +50,33 @@ public:
     }
     void szunet() override {
         indulo_ = false;
-        pause();
+        if (lejatszo_) lejatszo_->pause();
     }
     void megallitas() override {
         indulo_ = false;
-        stop();
+        if (lejatszo_) lejatszo_->stop();
     }
 
 private:
+    /// The file goes before the player: one that ends over its file is still told of the file's end.
+    void elengedes() {
+        indulo_ = false;
+        if (!lejatszo_) return;
+        lejatszo_->setSource(QUrl());
+        lejatszo_.reset();
+    }
     /// Not before the file is read: a start while its tracks are still being put together can wait for them
     /// for ever, and the window with it.
     void indulas() {
-        if (!indulo_ || mediaStatus() == LoadingMedia || mediaStatus() == NoMedia) return;
+        if (!indulo_ || !lejatszo_ || lejatszo_->mediaStatus() == QMediaPlayer::LoadingMedia ||
+            lejatszo_->mediaStatus() == QMediaPlayer::NoMedia)
+            return;
         indulo_ = false;
-        play();
+        lejatszo_->play();
     }
 
+    std::function<void(int, const QString&)> hiba_;
+    std::unique_ptr<QMediaPlayer> lejatszo_;
     bool indulo_ = false;  ///< plays as soon as it can
 };
 

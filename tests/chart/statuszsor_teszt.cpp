@@ -34,4 +34,23 @@ TEST(StatuszSor, AzEgeszFokPercei) {
     EXPECT_EQ(koordinataSzoveg(19 * 3600 + 60, 47 * 3600 - 60), "19°1'K  46°59'É");
 }
 
+TEST(StatuszSor, AzOtPanelAKepletbol) {
+    Allapot a;
+    a.Feliratok.statusz[panelNev] = "Kovács Éva";
+    a.Keplet.helyseg = "Szeged";
+    a.Keplet.hosszusag = 72586;
+    a.Keplet.szelesseg = 166497;
+    a.Keplet.armcOra = 23;
+    a.Keplet.armcPerc = 4;
+    a.Keplet.armcMperc = 5.5;
+    IrStatuszSor(a, {1975, 7, 21, 6, 4, 9}, TIdoTipus::LMT);
+    EXPECT_EQ(a.Feliratok.statusz[panelNev], "Kovács Éva");
+    EXPECT_EQ(a.Feliratok.statusz[panelIdo], "1975.07.21. 06:04:09 LMT");
+    EXPECT_EQ(a.Feliratok.statusz[panelHely], "Szeged");
+    EXPECT_EQ(a.Feliratok.statusz[panelKoordinata], "20°9'K  46°14'É");
+    EXPECT_EQ(a.Feliratok.statusz[panelArmc], "ARMC:  23:04:05");
+    LeptetoCimIras(a.Feliratok);
+    EXPECT_EQ(a.Feliratok.leptetoCim, "1975.07.21. 06:04:09");
+}
+
 }  // namespace

@@ -255,6 +255,14 @@ TEST(Csv, ANemUtf8SorHibaKodlappalOlvashato) {
     EXPECT_EQ(egyben.lapok[0].keplet.adat.szelesseg, 166440);
     EXPECT_EQ(egyben.lapok[0].keplet.adat.jegyzet, "?");
     EXPECT_TRUE(jelenti(egyben, veszteseg, 2, "1 bájt nem karakter"));
+    EXPECT_EQ(egyben.jelentesek.size(), 1U);
+    // A row that is UTF-8 stays so, and one of which each byte is a character loses nothing.
+    const auto vegyes =
+        CsvOlvasas(fejlec + "\n" + kovacs + "\nK\xF5v\xE1ri,1975,7,21,6,4\n", TKodlap::cp1250);
+    ASSERT_EQ(vegyes.lapok.size(), 2U);
+    EXPECT_EQ(vegyes.lapok[0].keplet.adat, kovacsRekord());
+    EXPECT_EQ(vegyes.lapok[1].keplet.adat.nev, "Kővári");
+    EXPECT_TRUE(vegyes.jelentesek.empty());
 }
 
 TEST(Csv, ANagyonHosszuSor) {

@@ -172,6 +172,16 @@ TEST(Primer, ASorAzUtolsoSolarNapHazaval) {
     EXPECT_EQ(hazak.size(), 12U);
 }
 
+/// A clock beyond all dialogs carries the Sun many turns away: it fits no house, and the line names none.
+TEST(Primer, AHazNelkuliNapSorabanNincsHaz) {
+    Allapot a = egyPont(pontok(szuletes(), 100)[dMC]);
+    a.Keplet.bolygo[1] = 1000;
+    const auto sorok = PrimerFutas(a, kezdo);
+    ASSERT_EQ(sorok.size(), 1U);
+    EXPECT_TRUE(sorok[0].starts_with("2000.04.")) << sorok[0];
+    EXPECT_EQ(sorok[0].substr(11), std::string(3 + 5, ' ') + "CR");
+}
+
 TEST(Primer, KetNaponAtBenneMaradoPontEgySor) {
     // Half-way between two days' places both windows hold the point.
     const Allapot minta = szuletes();

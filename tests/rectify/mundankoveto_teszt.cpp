@@ -63,6 +63,21 @@ TEST_F(TMundanKovetoTeszt, MindenLepesenASimaItelet) {
     }
 }
 
+/// Without the steps between, which would each be a chance to work things out anew.
+TEST_F(TMundanKovetoTeszt, UgrasUtanIsASimaItelet) {
+    for (int n = 0; n < 1000; ++n) {
+        const TMundanHely h = hely();
+        const TOrbisTabla orbis = orbisok();
+        for (int ugras = 0; ugras < 20; ++ugras) {
+            TMundanKoveto k(h, orbis);
+            const std::int64_t t = std::int64_t{szam(elsoNap + 3, utolsoNap - 4)} * 86400 + szam(0, 86399);
+            koveto(k, t);
+            const std::int64_t vege = t + szam(-7200, 7200);
+            ASSERT_EQ(koveto(k, vege), sima(vege, h, orbis)) << n << ' ' << t << ' ' << vege;
+        }
+    }
+}
+
 TEST_F(TMundanKovetoTeszt, ANyariIdoHatarainIs) {
     const TMundanHely szeged{1, 166500, 72540};
     TMundanKoveto k(szeged, OrbisAlap);

@@ -129,7 +129,6 @@ void TMundanKoveto::fenyszogek(const TCsillagIdo& ido) {
 }
 
 bool TMundanKoveto::hazakAllnak(const TCsillagIdo& ido) const {
-    if (ido.julianszam != hazKoz_.julianszam) return false;
     const double bolygoUt = std::abs(ido.napresz - hazKoz_.napresz) * leggyorsabb_;
     for (int h = 1; h <= 12; ++h) {
         const double csucsUt = lanc_.Hazcsucsok[h] - hazCsucsai_[h];
@@ -182,9 +181,9 @@ char TMundanKoveto::allapot(std::int32_t julianszam, std::int32_t ora, std::int3
                                        nyariIdo(julianszam, ora, perc, mperc), hely_.idozona);
     csucsok(ido);
     const bool fenyszogekMaradnak = fenyszogekAllnak(ido);
-    const bool hazakMaradnak = hazakAllnak(ido);
+    const bool hazakMaradnak = fenyszogekMaradnak && hazakAllnak(ido);
     bool valtozott = !csucsjegyekAllnak();
-    if (fenyszogekMaradnak && hazakMaradnak && !valtozott) return allapot_;
+    if (hazakMaradnak && !valtozott) return allapot_;
 
     BolygoHelyek(ido.julianszam, ido.napresz, lanc_.Bolygok, lanc_.Mozgasok);
     if (valtozott) csucsjegyek();
@@ -192,7 +191,7 @@ char TMundanKoveto::allapot(std::int32_t julianszam, std::int32_t ora, std::int3
         fenyszogek(ido);
         valtozott = true;
     }
-    if (!hazakMaradnak || !fenyszogekMaradnak) valtozott = hazak(ido) || valtozott;
+    if (!hazakMaradnak) valtozott = hazak(ido) || valtozott;
     if (valtozott) allapot_ = Analogiak(lanc_).AnalogiaAllapot;
     return allapot_;
 }

@@ -177,6 +177,14 @@ TEST(Visszateresek, AzAlloLepesMindenCelraTalalat) {
     EXPECT_EQ(a.Visszateresek.szamlalo, vart);
 }
 
+/// The search ends behind the first day above row 65000, which is 2077-12-17.
+TEST(Visszateresek, AHatvanotezerUtaniElsoSorAzUtolso) {
+    for (const auto& [sor, talalt] : {std::pair(65000, 1), std::pair(65001, 1), std::pair(65002, 0)}) {
+        Allapot a = szuletes({2077, 12, 10, 12, 0, 0});
+        EXPECT_EQ(talalatok(a, RevolucioFajta(1), Efemerida[sor].nap_hossz + 10), talalt) << sor;
+    }
+}
+
 TEST(Visszateresek, UresKeresesUtanARegiElsoSor) {
     Allapot a = szuletes({1975, 7, 21, 6, 4, 9});
     const TPillanat regi = keres(a, RevolucioFajta(1)).pillanat;

@@ -1,10 +1,12 @@
 // The walking verdict beside the plain one: each chart of the walk is worked out anew in the test.
 
+#include <cmath>
 #include <random>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "engine/csillagido.h"
 #include "engine/mundanlanc.h"
 #include "rectify/analogiak.h"
 #include "rectify/mundankereses.h"
@@ -24,12 +26,12 @@ protected:
         if (szam(0, 2) == 0) h.nyariIdo = szam(0, 1);
         return h;
     }
-    /// Factory orbs, or ones that overlap.
-    TOrbisTabla orbisok() {
+    /// Factory orbs, or ones that overlap, up to so many half degrees.
+    TOrbisTabla orbisok(int legnagyobb = 40) {
         TOrbisTabla orbis = OrbisAlap;
         if (szam(0, 2) == 0)
             for (auto& sor : orbis)
-                for (double& o : sor) o = szam(0, 40) / 2.0;
+                for (double& o : sor) o = szam(0, legnagyobb) / 2.0;
         return orbis;
     }
 
@@ -63,11 +65,12 @@ TEST_F(TMundanKovetoTeszt, MindenLepesenASimaItelet) {
     }
 }
 
-/// Without the steps between, which would each be a chance to work things out anew.
+/// Without the steps between, which would each be a chance to work things out anew. The window of the orbs
+/// sets no upper limit: with wide ones any aspect may hold at any distance.
 TEST_F(TMundanKovetoTeszt, UgrasUtanIsASimaItelet) {
     for (int n = 0; n < 1000; ++n) {
         const TMundanHely h = hely();
-        const TOrbisTabla orbis = orbisok();
+        const TOrbisTabla orbis = orbisok(n % 2 == 0 ? 40 : 400);
         for (int ugras = 0; ugras < 20; ++ugras) {
             TMundanKoveto k(h, orbis);
             const std::int64_t t = std::int64_t{szam(elsoNap + 3, utolsoNap - 4)} * 86400 + szam(0, 86399);
@@ -75,6 +78,39 @@ TEST_F(TMundanKovetoTeszt, UgrasUtanIsASimaItelet) {
             const std::int64_t vege = t + szam(-7200, 7200);
             ASSERT_EQ(koveto(k, vege), sima(vege, h, orbis)) << n << ' ' << t << ' ' << vege;
         }
+    }
+}
+
+/// Under a square of 100 degrees' orb any two bodies are square, and their sides alone change, where they
+/// meet and where they stand opposite.
+TEST_F(TMundanKovetoTeszt, AhanyOldalonAllnakAnnakAzItelete) {
+    TOrbisTabla orbis;
+    for (auto& sor : orbis) sor[5] = 100;
+    for (int n = 0; n < 15000; ++n) {
+        const TMundanHely h = hely();
+        TMundanKoveto k(h, orbis);
+        const std::int64_t t = std::int64_t{szam(elsoNap + 3, utolsoNap - 4)} * 86400 + szam(0, 86399);
+        koveto(k, t);
+        const std::int64_t vege = t + szam(-20000, 20000);
+        ASSERT_EQ(koveto(k, vege), sima(vege, h, orbis)) << n << ' ' << t << ' ' << vege;
+    }
+}
+
+/// At a sidereal time of 16 h and a high latitude the table's second cusp runs through half of the circle in
+/// four minutes, over the first one too: bodies change their houses though no boundary comes to them.
+TEST_F(TMundanKovetoTeszt, AMasodikCsucsRohanasaKozbenIs) {
+    for (int n = 0; n < 100; ++n) {
+        TMundanHely h = hely();
+        h.szelesseg = szam(56 * 3600, 60 * 3600);
+        h.nyariIdo = 0;
+        const int nap = szam(elsoNap + 3, utolsoNap - 4);
+        const TCsillagIdo ido = CsillagIdo(nap, 12, 0, 0, h.hosszusag, 0, h.idozona);
+        const double most = ido.armcOra * 3600 + ido.armcPerc * 60 + ido.armcMperc;
+        const double hatra = std::fmod(16 * 3600 - most + 2 * 86400, 86400) / 1.0027379;
+        const std::int64_t kezdet = std::int64_t{nap} * 86400 + 43200 + static_cast<std::int64_t>(hatra);
+        TMundanKoveto k(h, OrbisAlap);
+        for (std::int64_t t = kezdet - 5; t < kezdet + 250; ++t)
+            ASSERT_EQ(koveto(k, t), sima(t, h, OrbisAlap)) << n << ' ' << t;
     }
 }
 

@@ -81,18 +81,32 @@ TEST_F(TMundanKovetoTeszt, UgrasUtanIsASimaItelet) {
     }
 }
 
-/// Under a square of 100 degrees' orb any two bodies are square, and their sides alone change, where they
-/// meet and where they stand opposite.
-TEST_F(TMundanKovetoTeszt, AhanyOldalonAllnakAnnakAzItelete) {
-    TOrbisTabla orbis;
-    for (auto& sor : orbis) sor[5] = 100;
-    for (int n = 0; n < 15000; ++n) {
-        const TMundanHely h = hely();
-        TMundanKoveto k(h, orbis);
-        const std::int64_t t = std::int64_t{szam(elsoNap + 3, utolsoNap - 4)} * 86400 + szam(0, 86399);
-        koveto(k, t);
-        const std::int64_t vege = t + szam(-20000, 20000);
-        ASSERT_EQ(koveto(k, vege), sima(vege, h, orbis)) << n << ' ' << t << ' ' << vege;
+/// Degrees from the Sun on to the Moon at a day's beginning in Greenwich.
+double holdKora(int nap) {
+    const TEfemeridaNap& sor = efemeridaNap(nap);
+    return std::fmod(sor.hold_hossz - sor.nap_hossz + 1296000.0, 1296000.0) / 3600;
+}
+
+/// With orbs of 100 degrees for the square of Sun and Moon the two are square where they meet as well, and
+/// there their sides alone change.
+TEST_F(TMundanKovetoTeszt, AzUjholdkorCserelOldalIs) {
+    TOrbisTabla orbis = OrbisAlap;
+    orbis[3][5] = orbis[4][5] = 100;
+    for (int n = 0; n < 500; ++n) {
+        TMundanHely h = hely();
+        h.nyariIdo = 0;
+        int nap = szam(elsoNap + 3, utolsoNap - 40);
+        while (!(holdKora(nap) > 300 && holdKora(nap + 1) < 60)) ++nap;
+        const double hianyzik = 360 - holdKora(nap);
+        const double resz = hianyzik / (hianyzik + holdKora(nap + 1));
+        const std::int64_t ujhold = std::int64_t{nap} * 86400 + static_cast<std::int64_t>(86400 * resz) +
+                                    std::int64_t{h.idozona} * 3600;
+        for (const int irany : {1, -1, 1, -1}) {
+            TMundanKoveto k(h, orbis);
+            koveto(k, ujhold - irany * szam(5, 2000));
+            const std::int64_t vege = ujhold + irany * szam(5, 2000);
+            ASSERT_EQ(koveto(k, vege), sima(vege, h, orbis)) << n << ' ' << vege;
+        }
     }
 }
 
@@ -106,11 +120,14 @@ TEST_F(TMundanKovetoTeszt, AMasodikCsucsRohanasaKozbenIs) {
         const int nap = szam(elsoNap + 3, utolsoNap - 4);
         const TCsillagIdo ido = CsillagIdo(nap, 12, 0, 0, h.hosszusag, 0, h.idozona);
         const double most = ido.armcOra * 3600 + ido.armcPerc * 60 + ido.armcMperc;
-        const double hatra = std::fmod(16 * 3600 - most + 2 * 86400, 86400) / 1.0027379;
-        const std::int64_t kezdet = std::int64_t{nap} * 86400 + 43200 + static_cast<std::int64_t>(hatra);
-        TMundanKoveto k(h, OrbisAlap);
-        for (std::int64_t t = kezdet - 5; t < kezdet + 250; ++t)
-            ASSERT_EQ(koveto(k, t), sima(t, h, OrbisAlap)) << n << ' ' << t;
+        const double mulva = std::fmod(16 * 3600 - most + 2 * 86400, 86400) / 1.0027379;
+        const std::int64_t kezdet = std::int64_t{nap} * 86400 + 43200 + static_cast<std::int64_t>(mulva) - 5;
+        TMundanKoveto elore(h, OrbisAlap);
+        TMundanKoveto hatra(h, OrbisAlap);
+        for (int s = 0; s < 250; ++s) {
+            ASSERT_EQ(koveto(elore, kezdet + s), sima(kezdet + s, h, OrbisAlap)) << n << ' ' << s;
+            ASSERT_EQ(koveto(hatra, kezdet + 250 - s), sima(kezdet + 250 - s, h, OrbisAlap)) << n << ' ' << s;
+        }
     }
 }
 

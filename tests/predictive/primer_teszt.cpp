@@ -59,6 +59,8 @@ TEST(Primer, APontTalalatHatarai) {
     EXPECT_TRUE(PontTalalat(10, {10, 12}));
     EXPECT_TRUE(PontTalalat(12, {10, 12}));
     EXPECT_FALSE(PontTalalat(9.99, {10, 12}));
+    EXPECT_TRUE(PontTalalat(10, {10, 10}));  // a plain window of one place
+    EXPECT_FALSE(PontTalalat(10.01, {10, 10}));
     const TOrbisAblak atlepo = OrbisAblak(0.5, 1);
     EXPECT_DOUBLE_EQ(atlepo.also, 359.5);
     EXPECT_DOUBLE_EQ(atlepo.felso, 1.5);

@@ -3,6 +3,7 @@
 #include "chart/statuszsor.h"
 #include "engine/bolygohelyek.h"
 #include "engine/csillagido.h"
+#include "engine/fenyszogek.h"
 #include "engine/hazak.h"
 #include "mintakeplet.h"
 #include "predictive/visszateresek.h"
@@ -220,6 +221,12 @@ TEST(VisszateresKeplet, EgyIvperccelKeletreEsEszakraNyariIdoNelkul) {
     EXPECT_NEAR(k.bolygo[1], hossz({1975, 7, 21, 5, 4, 9}, 1), 1.0 / 3600);
     for (int i = 1; i <= 10; ++i)  // all bodies stand where they are at the return, not at the birth
         EXPECT_NEAR(k.bolygo[i], hossz(a.Visszateresek.sorok[31].pillanat, i), 1e-9) << i;
+
+    TFenyszogMunka munka;  // the aspects are the return's too
+    ElteresSzamitas(k.bolygo, munka);
+    Fenyszogek(a.OrbisTabla, munka);
+    EXPECT_EQ(a.FenyszogRadix, munka.FenyszogMatrix);
+    EXPECT_NE(a.FenyszogRadix, szuletes({1975, 7, 21, 6, 4, 9}).FenyszogRadix);
 
     THazcsucsok csucsok;
     std::int32_t nap = k.julianszam, ora = 0, perc = 0;

@@ -154,6 +154,7 @@ TEST(Aaf, AmitAKepletfajlNemTarolEgyszerSzamokkalEmlitve) {
     EXPECT_TRUE(jelenti(ki, elteres, 1, "3 helyen (először itt) a fajta jele"));
     EXPECT_TRUE(jelenti(ki, elteres, 1, "3 helyen (először itt) az ország"));
     EXPECT_EQ(ki.jelentesek.size(), 2U);
+    for (const TJelentes& j : ki.jelentesek) EXPECT_TRUE(j.szoveg.starts_with("3 helyen")) << j.szoveg;
 }
 
 TEST(Aaf, AMegjegyzesekAJegyzetSorai) {

@@ -87,14 +87,13 @@ TTurelem parTurelem(double a, double b, double ut, const Tomb<double, 9>& egyik,
 }
 
 /// Motion of each body in a day of the ephemeris, degrees.
-Tomb<double, 10> napiMozgas(std::int32_t julianszam) {
+Tomb<double, 10> napiMozgas(std::int32_t julianszam, const TMozgasok& Mozgasok) {
     const TEfemeridaNap& ma = efemeridaNap(julianszam);
     const TEfemeridaNap& holnap = efemeridaNap(std::int64_t{julianszam} + 1);
     Tomb<double, 10> mozgas;
     for (int i = 1; i <= 10; ++i) {
         const auto oszlop = efemeridaOszlopok[static_cast<std::size_t>(i - 1)];
-        const char betu = i <= 2 ? 'D' : ma.mozgas[static_cast<std::size_t>(i - 3)];
-        mozgas[i] = KoztesLepes(ma.*oszlop, holnap.*oszlop, betu) / 3600.0;
+        mozgas[i] = KoztesLepes(ma.*oszlop, holnap.*oszlop, Mozgasok[i]) / 3600.0;
     }
     return mozgas;
 }
@@ -109,7 +108,7 @@ bool TMundanKoveto::fenyszogekAllnak(const TCsillagIdo& ido) const {
 
 void TMundanKoveto::fenyszogek(const TCsillagIdo& ido) {
     MundanFenyszogek(OrbisTabla_, lanc_);
-    const Tomb<double, 10> mozgas = napiMozgas(ido.julianszam);
+    const Tomb<double, 10> mozgas = napiMozgas(ido.julianszam, lanc_.Mozgasok);
     leggyorsabb_ = 0;
     fenyszogKoz_ = {ido.julianszam, ido.napresz, 1, 1};
     const auto legfeljebb = [this](const TTurelem& turelem, double ut) {
@@ -130,7 +129,6 @@ void TMundanKoveto::fenyszogek(const TCsillagIdo& ido) {
 }
 
 bool TMundanKoveto::hazakAllnak(const TCsillagIdo& ido) const {
-    if (ido.julianszam != hazKoz_.julianszam) return false;
     const double bolygoUt = std::abs(ido.napresz - hazKoz_.napresz) * leggyorsabb_;
     for (int h = 1; h <= 12; ++h) {
         const double csucsUt = lanc_.Hazcsucsok[h] - hazCsucsai_[h];
@@ -183,9 +181,9 @@ char TMundanKoveto::allapot(std::int32_t julianszam, std::int32_t ora, std::int3
                                        nyariIdo(julianszam, ora, perc, mperc), hely_.idozona);
     csucsok(ido);
     const bool fenyszogekMaradnak = fenyszogekAllnak(ido);
-    const bool hazakMaradnak = hazakAllnak(ido);
+    const bool hazakMaradnak = fenyszogekMaradnak && hazakAllnak(ido);
     bool valtozott = !csucsjegyekAllnak();
-    if (fenyszogekMaradnak && hazakMaradnak && !valtozott) return allapot_;
+    if (hazakMaradnak && !valtozott) return allapot_;
 
     BolygoHelyek(ido.julianszam, ido.napresz, lanc_.Bolygok, lanc_.Mozgasok);
     if (valtozott) csucsjegyek();
@@ -193,7 +191,7 @@ char TMundanKoveto::allapot(std::int32_t julianszam, std::int32_t ora, std::int3
         fenyszogek(ido);
         valtozott = true;
     }
-    if (!hazakMaradnak || !fenyszogekMaradnak) valtozott = hazak(ido) || valtozott;
+    if (!hazakMaradnak) valtozott = hazak(ido) || valtozott;
     if (valtozott) allapot_ = Analogiak(lanc_).AnalogiaAllapot;
     return allapot_;
 }

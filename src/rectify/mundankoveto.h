@@ -29,6 +29,7 @@ private:
 
     bool fenyszogekAllnak(const TCsillagIdo& ido) const;
     void fenyszogek(const TCsillagIdo& ido);
+    /// Asked only while the aspects stand, thus on the day on which the houses were worked out too.
     bool hazakAllnak(const TCsillagIdo& ido) const;
     /// @return whether a body has another house
     bool hazak(const TCsillagIdo& ido);

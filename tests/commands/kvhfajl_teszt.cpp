@@ -186,6 +186,15 @@ TEST_F(TKvh, HibaUtanAMarOlvasottMarad) {
     EXPECT_NE(a.Keplet.pillanat, (TPillanat{1975, 3, 21, 6, 4, 9}));
 }
 
+TEST_F(TKvh, AJegyzetARovidFajlElottKiurul) {
+    irj(std::string(627, '\0'));
+    Allapot a = minta();
+    TProbaAblak ablak;
+    ASSERT_TRUE(KepletMegnyitas(a, ablak, fajl(), [] {}));
+    EXPECT_EQ(a.Szemely.jegyzet, "");
+    EXPECT_EQ(a.Szemely.nev, "Őrző Árpád");
+}
+
 TEST_F(TKvh, MappaEsHianyzoFajl) {
     hibasOlvasas(mappa.fajl(""));
     hibasOlvasas(fajl("nincs.kvh"));

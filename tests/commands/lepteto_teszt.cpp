@@ -69,6 +69,37 @@ TEST(Lepteto, AHonapEsAzOraAtvitele) {
               (TPillanat{2000, 1, 1, 10, 58, 0}));
 }
 
+TEST(Lepteto, AMezoVegeElottNincsAtvitel) {
+    EXPECT_EQ(lep({2000, 11, 5, 8, 0, 0}, {"Button3hop"}), (TPillanat{2000, 12, 5, 8, 0, 0}));
+    EXPECT_EQ(lep({2000, 2, 5, 8, 0, 0}, {"Button4hom"}), (TPillanat{2000, 1, 5, 8, 0, 0}));
+    EXPECT_EQ(lep({2000, 1, 5, 22, 0, 0}, {"Button7orap"}), (TPillanat{2000, 1, 5, 23, 0, 0}));
+    EXPECT_EQ(lep({2000, 1, 5, 1, 0, 0}, {"Button8oram"}), (TPillanat{2000, 1, 5, 0, 0, 0}));
+    EXPECT_EQ(lep({2000, 1, 5, 8, 49, 0}, {"Button11percpp"}), (TPillanat{2000, 1, 5, 8, 59, 0}));
+    EXPECT_EQ(lep({2000, 1, 5, 8, 10, 0}, {"Button12percmm"}), (TPillanat{2000, 1, 5, 8, 0, 0}));
+    EXPECT_EQ(lep({2000, 1, 5, 8, 0, 58}, {"Button13mpercp"}), (TPillanat{2000, 1, 5, 8, 0, 59}));
+    EXPECT_EQ(lep({2000, 1, 5, 8, 0, 1}, {"Button14mpercm"}), (TPillanat{2000, 1, 5, 8, 0, 0}));
+    EXPECT_EQ(lep({2000, 1, 5, 8, 9, 50}, {"Button15mpercpp"}), (TPillanat{2000, 1, 5, 8, 10, 0}));
+}
+
+/// Only a derived chart or a foreign file brings a field beyond its end: the hours of a return at midnight.
+TEST(Lepteto, AMezoVegenTulrolAzEgyesLepesAzElsoErtekre) {
+    EXPECT_EQ(lep({2000, 1, 5, 8500, 10, 0}, {"Button7orap"}), (TPillanat{2000, 1, 6, 0, 10, 0}));
+    EXPECT_EQ(lep({2000, 1, 5, 8, 75, 0}, {"Button9percp"}), (TPillanat{2000, 1, 5, 9, 0, 0}));
+    EXPECT_EQ(lep({2000, 1, 5, 8, 75, 0}, {"Button11percpp"}), (TPillanat{2000, 1, 5, 9, 25, 0}));
+    EXPECT_EQ(lep({2000, 1, 5, -7, 10, 0}, {"Button8oram"}), (TPillanat{2000, 1, 4, 23, 10, 0}));
+    EXPECT_EQ(lep({2000, 1, 5, 8, -20, 0}, {"Button10percm"}), (TPillanat{2000, 1, 5, 7, 59, 0}));
+    EXPECT_EQ(lep({2000, 1, 5, 8, -20, 0}, {"Button12percmm"}), (TPillanat{2000, 1, 5, 7, 30, 0}));
+}
+
+TEST(Lepteto, AFutoOratIsMegallitja) {
+    Allapot a;
+    a.Keplet.pillanat = {2000, 1, 1, 1, 1, 1};
+    a.MostFut = true;
+    Leptetes(a, lepesek[15]);
+    EXPECT_FALSE(a.MostFut);
+    EXPECT_EQ(a.Keplet.pillanat, (TPillanat{2000, 1, 1, 1, 0, 51}));
+}
+
 TEST(Lepteto, KetezerhetvennyolcutanNincsEv) {
     EXPECT_EQ(lep({2078, 5, 6, 7, 8, 9}, {"Button1evp"}), (TPillanat{2078, 5, 6, 7, 8, 9}));
     EXPECT_EQ(lep({1900, 5, 6, 7, 8, 9}, {"Button2evm"}), (TPillanat{1900, 5, 6, 7, 8, 9}));

@@ -27,6 +27,10 @@ TEST_F(TOrajel, AFelirat2500EzredmasodpercElottiHetOrajelUtanValt) {
     EXPECT_EQ(a.Feliratok.cim, "im1 c");
 }
 
+TEST(Orajel, MasodpercenkentNegy) {
+    EXPECT_EQ(4 * orajelEzredmasodperc, 1000);
+}
+
 TEST_F(TOrajel, ATeljesFelirat500OrajeligFut) {
     for (int i = 1; i <= 6; ++i) a.FeliratSzovegek[i] = "cim" + std::to_string(i) + " ";
     orajelek(8);

@@ -40,6 +40,16 @@ TEST(OlvasDatum, NapElolTizenkettoFelettMindkettoANapotKapja) {
     EXPECT_EQ(p.ho, 12);
 }
 
+TEST(OlvasDatum, ADecemberHonapATizenharmadikMarNem) {
+    for (const char* szoveg : {"2024.12.05", "12/05/2024"}) {
+        const TPillanat p = datum(szoveg);
+        EXPECT_EQ(p.ho, 12) << szoveg;
+        EXPECT_EQ(p.nap, 5) << szoveg;
+    }
+    EXPECT_EQ(datum("13/5/2024").ho, 5);
+    EXPECT_EQ(datum("13/5/2024").nap, 5);
+}
+
 TEST(OlvasDatum, KetElvalasztoEgymasMellettNemOlvashato) {
     TPillanat p;
     EXPECT_FALSE(OlvasDatum("2024. 03. 05.", p));

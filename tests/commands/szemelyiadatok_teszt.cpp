@@ -7,6 +7,8 @@
 
 #include "chart/statuszsor.h"
 #include "commands/szemelyiadatok.h"
+#include "engine/csillagido.h"
+#include "engine/hazak.h"
 #include "probaablak.h"
 #include "tables/efemerida.h"
 
@@ -42,6 +44,27 @@ TEST(IdoAtvaltas, HelyiKozepidoMasodpercei) {
     // 43230 - 4576 + 3600 = 42254 s.
     EXPECT_EQ(atvalt({2000, 1, 1, 12, 0, 30}, TIdoTipus::LMT, 1, 68640).pillanat,
               (TPillanat{2000, 1, 1, 11, 44, 14}));
+}
+
+TEST(IdoAtvaltas, HelyiKozepidoPontosanEjfelkor) {
+    // 15 degrees are an hour: 1:00 less it is 0:00 of the same day, 23:00 and an hour 0:00 of the next.
+    const TAtvaltott eleje = atvalt({2000, 1, 1, 1, 0, 0}, TIdoTipus::LMT, 0, 54000);
+    EXPECT_EQ(eleje.pillanat, (TPillanat{2000, 1, 1, 0, 0, 0}));
+    EXPECT_EQ(eleje.napElteres, 0);
+    const TAtvaltott vege = atvalt({2000, 1, 1, 23, 0, 0}, TIdoTipus::LMT, 0, -54000);
+    EXPECT_EQ(vege.pillanat, (TPillanat{2000, 1, 2, 0, 0, 0}));
+    EXPECT_EQ(vege.napElteres, 1);
+}
+
+TEST(IdoAtvaltas, GreenwichiIdoPontosanEjfelkor) {
+    EXPECT_EQ(atvalt({2000, 1, 1, 23, 0, 0}, TIdoTipus::GMT, 1, 0).pillanat,
+              (TPillanat{2000, 1, 2, 0, 0, 0}));
+    EXPECT_EQ(atvalt({2000, 1, 1, 22, 0, 0}, TIdoTipus::GMT, 1, 0).pillanat,
+              (TPillanat{2000, 1, 1, 23, 0, 0}));
+    EXPECT_EQ(atvalt({2000, 1, 1, 5, 0, 0}, TIdoTipus::GMT, -5, 0).pillanat,
+              (TPillanat{2000, 1, 1, 0, 0, 0}));
+    EXPECT_EQ(atvalt({2000, 1, 1, 4, 0, 0}, TIdoTipus::GMT, -5, 0).pillanat,
+              (TPillanat{1999, 12, 31, 23, 0, 0}));
 }
 
 TEST(IdoAtvaltas, AHosszusagMasodperceNemSzamit) {
@@ -140,6 +163,110 @@ TEST(SzemelyiAdatok, AzUjKepletMezoiAHelySajatErtekei) {
     EXPECT_EQ(m.hosszFok, 20);
     EXPECT_EQ(m.hosszPerc, 9);  // 72586" is 20°9'46''
     EXPECT_EQ(a.Szemely.idoTipus, TIdoTipus::ZN);
+}
+
+TEST(SzemelyiAdatok, AzUjKepletnelNincsRegiValasztas) {
+    Allapot a;
+    IdoTipusValasztas(a, 2);
+    a.Szemely.beirt = {1999, 1, 2, 3, 4, 5};
+    a.Keplet.helyseg = "Pécs";
+    a.Keplet.idozona = -5;
+    const TSzemelyiAdatok m = UjKepletMezok(a);
+    EXPECT_EQ(a.Szemely.idoTipusIndex, 0);
+    EXPECT_EQ(m.ido, (TPillanat{1999, 1, 2, 3, 4, 5}));
+    EXPECT_EQ(m.helyseg, "Pécs");
+    EXPECT_EQ(m.idozona, 1);
+    EXPECT_EQ(m.nyariIdo, 0);
+    EXPECT_EQ(m.hosszFok, 18);  // 65691" is 18°14'51''
+    EXPECT_EQ(m.hosszPerc, 14);
+    EXPECT_EQ(m.szelFok, 46);  // 165888" is 46°4'48''
+    EXPECT_EQ(m.szelPerc, 4);
+}
+
+TEST(SzemelyiAdatok, AHelysegValtozasaMindenMezotVisz) {
+    Allapot a;
+    TSzemelyiAdatok m;
+    m.ido = {1985, 4, 31, 6, 7, 8};
+    m.helyseg = "Pécs";
+    m.idozona = -5;
+    HelysegValtozas(a, m);
+    EXPECT_EQ(a.Keplet.helyseg, "Pécs");
+    EXPECT_EQ(a.Keplet.idozona, 1);
+    EXPECT_EQ(a.Keplet.hosszusag, 65691);
+    EXPECT_EQ(a.Keplet.szelesseg, 165888);
+    EXPECT_EQ(m.idozona, 1);
+    EXPECT_EQ(m.hosszFok, 18);
+    EXPECT_EQ(m.hosszPerc, 14);
+    EXPECT_EQ(m.szelFok, 46);
+    EXPECT_EQ(m.szelPerc, 4);
+    // The 31st of April becomes the first of May; that year's summer time has begun.
+    EXPECT_EQ(m.ido, (TPillanat{1985, 5, 1, 6, 7, 8}));
+    EXPECT_EQ(a.Szemely.beirt, m.ido);
+    EXPECT_EQ(m.nyariIdo, 1);
+    EXPECT_EQ(a.Keplet.nyariIdo, 1);
+    // A name that the gazetteer does not hold gives Budapest's values.
+    m.helyseg = "Péc";
+    HelysegValtozas(a, m);
+    EXPECT_EQ(a.Keplet.helyseg, "Péc");
+    EXPECT_EQ(m.hosszFok, 19);
+    EXPECT_EQ(m.szelPerc, 30);
+}
+
+TEST(SzemelyiAdatok, ARendbenMindenMezotAtvesz) {
+    Allapot a;
+    a.Szemely.idoTipus = TIdoTipus::ZN;
+    TSzemelyiAdatok m;
+    m.nev = "Kovács Éva";
+    m.ido = {1985, 7, 1, 6, 7, 8};
+    m.helyseg = "Xanadu";
+    m.idozona = -5;
+    m.nyariIdo = 1;
+    m.hosszFok = -19, m.hosszPerc = 4;
+    m.szelFok = 44, m.szelPerc = 59;
+    m.jegyzet = "jegyzet";
+    SzemelyiRendben(a, m);
+    EXPECT_EQ(a.Szemely.nev, "Kovács Éva");
+    EXPECT_EQ(a.Szemely.jegyzet, "jegyzet");
+    EXPECT_EQ(a.Szemely.beirt, m.ido);
+    EXPECT_EQ(a.Keplet.pillanat, m.ido);
+    EXPECT_EQ(a.Keplet.julianszam, napSzama(m.ido));
+    EXPECT_EQ(a.Keplet.helyseg, "Xanadu");
+    EXPECT_EQ(a.Keplet.idozona, -5);
+    EXPECT_EQ(a.Keplet.nyariIdo, 1);
+    EXPECT_EQ(a.Keplet.hosszusag, -68160);  // the minutes add to negative degrees too
+    EXPECT_EQ(a.Keplet.szelesseg, 44 * 3600 + 59 * 60);
+}
+
+TEST(BevittKeplet, AzOraMegallANezetRadixASajatHelyevel) {
+    Allapot a;
+    a.MostFut = true;
+    a.Feliratok.mostGomb = "Vissza";
+    a.KepletTipus = TKepletTipus::dekad;
+    a.Szemely.jegyzet = "jegyzet";
+    a.Keplet.pillanat = {1985, 7, 1, 6, 7, 8};
+    a.Keplet.julianszam = napSzama(a.Keplet.pillanat);
+    a.Keplet.helyseg = "Xanadu";
+    a.Keplet.idozona = -5;
+    a.Keplet.hosszusag = -266400;
+    a.Keplet.szelesseg = 162000;
+    TProbaAblak ablak;
+    BevittKepletMutatasa(a, ablak);
+    EXPECT_FALSE(a.MostFut);
+    EXPECT_EQ(a.Feliratok.mostGomb, "Most");
+    EXPECT_EQ(a.Feliratok.memo, "jegyzet");
+    EXPECT_EQ(a.KepletTipus, TKepletTipus::radix);
+    EXPECT_EQ(a.Feliratok.valtGomb, "Mundán");
+    EXPECT_EQ(a.Feliratok.statusz[panelTipus], "Radix");
+    // Typed values stand: no look-up by the name.
+    EXPECT_EQ(a.Keplet.idozona, -5);
+    EXPECT_EQ(a.Keplet.hosszusag, -266400);
+    const TCsillagIdo ido = CsillagIdo(napSzama(a.RadixPillanat), 6, 7, 8, -266400, 0, -5);
+    EXPECT_EQ(a.Keplet.armcOra, ido.armcOra);
+    EXPECT_EQ(a.Keplet.armcPerc, ido.armcPerc);
+    EXPECT_EQ(a.Keplet.armcMperc, ido.armcMperc);
+    THazcsucsok csucsok;
+    Hazak(ido.armcOra, ido.armcPerc, ido.armcMperc, csucsok, 162000);
+    EXPECT_EQ(a.Keplet.hazCsucs, csucsok);
 }
 
 TEST(SzemelyiAdatok, AKezbenLevoKepletMezoi) {

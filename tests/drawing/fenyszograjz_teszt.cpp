@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -47,6 +48,54 @@ TEST(Fenyszogek, ABetuFerdeVonalKozepenIs) {
     // The points are (-168.01, 97) and (97, 168.01) from the centre, their middle (-35.50, 132.50); offset 6.
     EXPECT_EQ(r[0].x, 300);
     EXPECT_EQ(r[0].y, 449);
+}
+
+TEST(Fenyszogek, AVonalakNagyFeluletenIsEgyPixelesek) {
+    Allapot a = probaKeplet(0);
+    a.Keplet.bolygo[1] = 90;
+    a.FenyszogRadix[1][2] = 'R';
+    a.OrbisTabla[1][5] = 2;  // the Sun's square to the Ascendant
+    /// Lines with both ends so far from a centre, and those of them that are one pixel wide.
+    const auto vonalak = [](const std::vector<TMuvelet>& m, int x, int y, double r1, double r2) {
+        std::pair<int, int> szam;
+        for (const auto& v : csak<TVonalMuvelet>(m)) {
+            if (std::abs(std::hypot(v.x1 - x, v.y1 - y) - r1) > 1) continue;
+            if (std::abs(std::hypot(v.x2 - x, v.y2 - y) - r2) > 1) continue;
+            ++szam.first;
+            szam.second += v.toll == 1;
+        }
+        return szam;
+    };
+    const auto m = nagyRajz(a);
+    EXPECT_EQ(vonalak(m, 6460, 6440, 4482, 4482), std::pair(1, 1));
+    EXPECT_EQ(vonalak(m, 6460, 6440, 4482, 2854), std::pair(1, 1));
+    EXPECT_EQ(vonalak(m, 16099, 3220, 2396, 2396), std::pair(1, 1));
+    EXPECT_EQ(vonalak(nagyRajz(a, 2), 6460, 6440, 4482, 4482), std::pair(1, 1));
+}
+
+TEST(Fenyszogek, ABetuANagyFeluletenIsArany) {
+    Allapot a = probaKeplet(0);
+    a.Keplet.bolygo[1] = 0;
+    a.Keplet.bolygo[2] = 90;
+    a.FenyszogRadix[1][2] = 'R';
+    const auto r = szovegek(nagyRajz(a), "R");
+    ASSERT_EQ(r.size(), 1U);
+    // R2 is 4482: 4482 / 22 + 4 is 207.7, half of it 103.9.
+    EXPECT_EQ(r[0].magassag, 208);
+    EXPECT_EQ(r[0].x, 6460 - 2241 - 104);
+    EXPECT_EQ(r[0].y, 6440 + 2241 - 104);
+}
+
+TEST(TengelyFenyszogek, ABetuAGyuruEsATengelyKozepeKozott) {
+    Allapot a = probaKeplet(0);
+    a.OrbisTabla[1][5] = 2;
+    for (int i = 1; i <= 10; ++i) a.Keplet.bolygo[i] = 20;
+    a.Keplet.bolygo[1] = 90;  // square to the Ascendant alone
+    const auto r = szovegek(nagyRajz(a), "R");
+    ASSERT_EQ(r.size(), 1U);
+    // The Sun's point below, 4482 off; the Ascendant's at the left, half-way from R3 to R1: 2854.
+    EXPECT_EQ(r[0].x, 6460 - 1427 - 104);
+    EXPECT_EQ(r[0].y, 6440 + 2241 - 104);
 }
 
 TEST(Fenyszogek, FenyszogNelkulNincsBetuEsAStilusFolytonos) {

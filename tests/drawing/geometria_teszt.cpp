@@ -58,6 +58,25 @@ TEST(Geometria, AKeskenyAblakbanAKerekKozepen) {
     EXPECT_LT(KisKerekGeometria(ablak(300, 900)).kisSugar, 45);
 }
 
+TEST(Geometria, ANegyzetesAblakbanIsKozepen) {
+    EXPECT_EQ(ablak(600, 600).kozpontX, 300);
+    EXPECT_EQ(ablak(602, 600).kozpontX, 320);  // wider than high: 20 right of the height's half
+    EXPECT_EQ(ablak(602, 600).kozpontY, 300);
+}
+
+TEST(Geometria, AHuszszorosFelulet) {
+    const TRajz r = ablak(19740, 12880);
+    EXPECT_EQ(r.kozpontX, 6460);
+    EXPECT_EQ(r.kozpontY, 6440);
+    EXPECT_EQ(r.kerekSugar, 5152);
+    // (19740 - 12900) div 2 is 3420; 4.3 x 3420 is above 12880, so round(12880 / 4.3) is 2995.
+    const TKisKerekek k = KisKerekGeometria(r);
+    EXPECT_EQ(k.kis1X, 19740 - 2995 - 646);
+    EXPECT_EQ(k.kis1Y, 3220);
+    EXPECT_EQ(k.kis2Y, 9660);
+    EXPECT_EQ(k.kisSugar, 2396);
+}
+
 TEST(Geometria, NyomtatasnalMasGyuruk) {
     const TSugarak s = GyuruSugarak(300, true);
     EXPECT_EQ(s.skala, 290);

@@ -195,4 +195,96 @@ TEST(Keretek, AzOsztasokEsAHazakIranyaAzAszcendenstol) {
     EXPECT_EQ(iranyok(rajz(a, 1), 342, 322, 37, 249, 1), hazak);
 }
 
+// Of the surface of twenty times the size: R0 to R5 are 5152, 5013, 4482, 695, 635, 64.
+
+TEST(RadixKeret, AHuszszorosFeluletenIsArany) {
+    Allapot a = probaKeplet(0);
+    a.Keplet.hazCsucs[10] = 280;
+    const auto m = nagyRajz(a);
+    EXPECT_EQ(vonalak(m, 6460, 6440, 5013, 5067, 1), 360);  // 0.39 x 139
+    EXPECT_EQ(vonalak(m, 6460, 6440, 5013, 5110, 1), 72);   // 0.7 x 139
+    EXPECT_EQ(vonalak(m, 6460, 6440, 5013, 5152, 1), 36);
+    EXPECT_EQ(vonalak(m, 6460, 6440, 5013, 5309, 52), 12);  // (5152 + 265.5) x 0.98
+    const auto kos = szovegek(m, "a");
+    EXPECT_EQ(kos[0].magassag, 239);         // 265.5 x 0.9
+    EXPECT_EQ(kos[0].x, 6460 - 5078 - 133);  // 5255 + 2 at 15 degrees; 531 / 4
+    EXPECT_EQ(kos[0].y, 6440 + 1361 - 133);
+    const auto elso = szovegek(m, " I");
+    EXPECT_EQ(elso[0].magassag, 52);        // 695 - 635 - 8
+    EXPECT_EQ(elso[0].x, 6460 - 642 - 26);  // 665 at 15 degrees; 57 / 2 - 3 to the even
+    EXPECT_EQ(elso[0].y, 6440 + 172 - 26);
+}
+
+TEST(RadixKeret, MindketTengelyNyila) {
+    Allapot a = probaKeplet(0);
+    a.Keplet.hazCsucs[10] = 280;
+    const auto m = nagyRajz(a);
+    // A is round(5152 + 531 / 5), 5258: two ends there, the two others 2 beyond.
+    EXPECT_EQ(iranyok(m, 6460, 6440, 635, 5258, 69), (std::multiset<int>{0, 260}));
+    EXPECT_EQ(iranyok(m, 6460, 6440, 635, 5260, 69), (std::multiset<int>{80, 180}));
+    // Heads from A + 7 to A - 5, 0.016 radians to both sides, on the Ascendant and the Medium Coeli.
+    EXPECT_EQ(iranyok(m, 6460, 6440, 5265, 5253, 52), (std::multiset<int>{179, 181, 259, 261}));
+}
+
+TEST(RadixKeret, AzEgyezoCsucsokHazaAzEgeszKor) {
+    Allapot a = probaKeplet(0);
+    a.Keplet.hazCsucs[3] = a.Keplet.hazCsucs[2];
+    // The middle of the second house lies half a circle on: 30 and 180, 30 right of the top.
+    const auto sz = szovegek(nagyRajz(a), " 2");
+    EXPECT_EQ(sz[0].x, 6460 + 576 - 26);  // 665 cos 30 is 575.9
+    EXPECT_NEAR(sz[0].y, 6440 - 332.5 - 26, 1);
+}
+
+TEST(DekadKerek, AHuszszorosFeluletenIsArany) {
+    Allapot a = probaKeplet();
+    a.Uralkodok.DekadSzoveg[1] = "AB";
+    const auto m = nagyRajz(a, 3);
+    const auto k = csak<TKorMuvelet>(m);
+    EXPECT_EQ(k[0].r, 4534);  // 0.88 x 5152
+    EXPECT_EQ(k[0].toll, 34);
+    EXPECT_EQ(k[1].r, 1916);  // 0.37 x 5152 + 10
+    EXPECT_EQ(vonalak(m, 6460, 6440, 25, 5152, 1), 12);
+    const auto t = csak<TSzovegMuvelet>(m);
+    EXPECT_EQ(t[0].magassag, 353);         // 343.47 + 10
+    EXPECT_EQ(t[0].x, 6460 - 4976 - 178);  // 5152 at 15 degrees; (343.47 + 12) / 2
+    EXPECT_EQ(t[0].y, 6440 + 1333 - 178);
+    EXPECT_EQ(t[12].szoveg, "a");
+    EXPECT_EQ(t[12].magassag, 214);         // 206.08 + 8
+    EXPECT_EQ(t[12].x, 6460 - 1493 - 107);  // 1546 at 15 degrees
+    EXPECT_EQ(t[12].y, 6440 + 400 - 107);
+}
+
+TEST(KisDekadKerek, AHuszszorosFeluletenIsArany) {
+    Allapot a = probaKeplet();
+    a.Uralkodok.DekadSzoveg[1] = "AB";
+    const auto m = nagyRajz(a);
+    const auto k = csak<TKorMuvelet>(m);
+    EXPECT_EQ(k[k.size() - 2].r, 2396);
+    EXPECT_EQ(k[k.size() - 2].toll, 34);
+    EXPECT_EQ(k.back().r, 897);  // 0.37 x 2396 + 10
+    EXPECT_EQ(k.back().toll, 1);
+    EXPECT_EQ(vonalak(m, 16099, 9660, 16, 2696, 1), 12);
+    const auto sz = szovegek(m, "AB");
+    EXPECT_EQ(sz[0].magassag, 267);          // 2696 / 10.5 + 10
+    EXPECT_EQ(sz[0].x, 16099 - 2865 - 114);  // 2966 at 15 degrees; (215.68 + 12) / 2
+    EXPECT_EQ(sz[0].y, 9660 + 768 - 114);
+    const auto kos = szovegek(m, "a");
+    ASSERT_EQ(kos.size(), 3U);
+    EXPECT_EQ(kos[2].magassag, 127);        // 2966 / 25 + 8
+    EXPECT_EQ(kos[2].x, 16099 - 860 - 63);  // 890 at 15 degrees
+    EXPECT_EQ(kos[2].y, 9660 + 230 - 63);
+}
+
+TEST(KisMundanKerek, AHuszszorosFeluletenIsArany) {
+    Allapot a = probaKeplet();
+    const auto m = nagyRajz(a);
+    EXPECT_EQ(vonalak(m, 16099, 3220, 2396 / 1.125, 2696, 34), 12);
+    // P is round(2696 x 1.15), 3100.
+    const auto kos = szovegek(m, "a");
+    ASSERT_EQ(kos.size(), 3U);
+    EXPECT_EQ(kos[1].magassag, 129);         // 124 + 5
+    EXPECT_EQ(kos[1].x, 16099 - 2686 - 64);  // 2696 - 3 at 4 degrees; 64.5 to the even
+    EXPECT_EQ(kos[1].y, 3220 + 188 - 64);
+}
+
 }  // namespace

@@ -37,6 +37,12 @@ inline std::vector<TMuvelet> rajz(Allapot& a, int tipus = 1, int szelesseg = 987
     return vaszon.muveletek();
 }
 
+/// The same on a surface twenty times as large, where a divisor off by one shows in the pixels: the wheel of
+/// radius 5152 at (6460, 6440), the small ones of radius 2396 at (16099, 3220) and (16099, 9660).
+inline std::vector<TMuvelet> nagyRajz(Allapot& a, int tipus = 1) {
+    return rajz(a, tipus, 19740, 12880);
+}
+
 template <typename T>
 std::vector<T> csak(const std::vector<TMuvelet>& muveletek) {
     std::vector<T> kivalasztott;

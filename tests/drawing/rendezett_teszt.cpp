@@ -57,6 +57,19 @@ TEST(Rendezett, ACsereAzEgyenlokSorrendjetMegfordithatja) {
     EXPECT_DOUBLE_EQ(hely(r, 'J'), 220);
 }
 
+/// Each pass begins again with the closest pairs. C 100, D 101.5, E 102: D and E go first, to 99.5 and 104;
+/// then D and C, to 97.5 and 102; C and E to 100 and 106; D and C to 95.5 and 102; C and E to 100 and 108; D
+/// and C to 93.5 and 102. If C and D, who stand before them, went first, C would come to 94.
+TEST(Rendezett, ALegkozelebbiParMegyElobb) {
+    for (const double masodik : {62.0, 50.0}) {  // with and without a pair that has moved before
+        const TRendezett r = szetterit({50, masodik, 100, 101.5, 102});
+        EXPECT_DOUBLE_EQ(hely(r, 'C'), 102) << masodik;
+        EXPECT_DOUBLE_EQ(hely(r, 'D'), 93.5) << masodik;
+        EXPECT_DOUBLE_EQ(hely(r, 'E'), 108) << masodik;
+    }
+    EXPECT_DOUBLE_EQ(hely(szetterit({50, 50, 100, 101.5, 102}), 'A'), 46);
+}
+
 TEST(Rendezett, PontosanHatFokElfogadhato) {
     const TRendezett r = szetterit({50, 56});
     EXPECT_DOUBLE_EQ(hely(r, 'A'), 50);

@@ -94,6 +94,15 @@ TEST(SvgVaszon, AzUtVegeAKovetkezoVonalKezdete) {
     EXPECT_NE(s.ujSorok().find("x1=\"1.5\" y1=\"2.5\" x2=\"3.5\" y2=\"5.5\""), std::string::npos);
 }
 
+TEST(SvgVaszon, AzUjVaszonHajszalvonalaASaroktolIndul) {
+    TSvg s;
+    s.vaszon.TextOut(1, 1, "betű nélkül nincs szöveg");
+    EXPECT_EQ(s.ujSorok(), "");
+    s.vaszon.LineTo(3, 5);
+    EXPECT_EQ(s.ujSorok(),
+              "<line x1=\"0.5\" y1=\"0.5\" x2=\"3.5\" y2=\"5.5\" stroke=\"#000\" stroke-width=\"1\"/>\n");
+}
+
 TEST(SvgVaszon, AStilusokAHajszalvonalakMintai) {
     const std::pair<TollStilus, const char*> mintak[]{{TollStilus::szaggatott, "4 2"},
                                                       {TollStilus::pontozott, "1 2"},

@@ -318,6 +318,13 @@ TEST(AlsoFelso, AlsoHaMogotte_EgyuttVagySzemben) {
     EXPECT_EQ(oldal(350, 170.5), 'A');
 }
 
+/// A moment far outside the tables carries a body below 0: the upper side begins above 180 all the same.
+TEST(AlsoFelso, AKoronKivuliHelyhezIsSzaznyolcvanFolott) {
+    EXPECT_EQ(oldal(179.5, -1), 'A');
+    EXPECT_EQ(oldal(180, -1), 'A');
+    EXPECT_EQ(oldal(180.5, -1), 'F');
+}
+
 TEST(AlsoFelso, MindenFenyszogbolOldalLesz) {
     TBolygok b;
     for (int i = 1; i <= 10; ++i) b[i] = 10.0 * i;

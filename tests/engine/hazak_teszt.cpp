@@ -149,6 +149,18 @@ TEST(Hazak, ANegativCsillagidoSoraKorbeer) {
     EXPECT_EQ(csucsok(26, 0, 0, 171000), csucsok(2, 0, 0, 171000));
 }
 
+TEST(Hazak, ASzaznyolcvanFokKorulIsASzemkoztiFelen) {
+    // Two minutes of sidereal time are half a degree of right ascension on either side of Libra 0.
+    const THazcsucsok elotte = csucsok(11, 58, 0, fok(47));
+    EXPECT_GT(elotte[10], 179);
+    EXPECT_LT(elotte[10], 180);
+    EXPECT_EQ(elotte[4], elotte[10] + 180);
+    const THazcsucsok utana = csucsok(12, 2, 0, fok(47));
+    EXPECT_GT(utana[10], 180);
+    EXPECT_LT(utana[10], 181);
+    EXPECT_EQ(utana[4], utana[10] - 180);
+}
+
 TEST(Hazak, ASzaznyolcvanFokosCsucsSzemkoztjeNulla) {
     // Sidereal time 12 h is the start of Libra on the meridian, 0 h that of Aries.
     const THazcsucsok delben = csucsok(12, 0, 0, fok(47));

@@ -52,6 +52,8 @@ TEST(Analogia, IsmetlesRendezesEsSzemet) {
     EXPECT_EQ(analogia("őű"), "");
     EXPECT_EQ(analogia(""), "");
     EXPECT_EQ(analogia("2222222222222222222222222222222222222229"), "2");  // thirty numbers are kept
+    EXPECT_EQ(analogia((std::string(29, '2') + "9").c_str()), "2,9");
+    EXPECT_EQ(analogia((std::string(30, '2') + "9").c_str()), "2");
 }
 
 }  // namespace

@@ -43,6 +43,47 @@ TEST(Esemenyek, FelvetelCsereTorles) {
     EXPECT_EQ(tar.EsemenyDb, 1);
 }
 
+TEST(Esemenyek, ATorlesUtanNincsKijeloles) {
+    TEsemenyTar tar;
+    int kijelolt = 0;
+    for (const char* szoveg : {"a", "b", "c"}) EsemenyFelvetel(tar, kijelolt, esemeny(szoveg));
+    kijelolt = 1;
+    EsemenyTorles(tar, kijelolt);
+    EXPECT_EQ(kijelolt, 0);
+    EsemenyTorles(tar, kijelolt);
+    EXPECT_EQ(tar.EsemenyDb, 2);
+    EXPECT_EQ(tar.esemenyek[1].esemeny, "b");
+    EsemenyFelvetel(tar, kijelolt, esemeny("d"));  // a new row, not in the place of one
+    EXPECT_EQ(tar.EsemenyDb, 3);
+    EXPECT_EQ(tar.esemenyek[1].esemeny, "b");
+    EXPECT_EQ(tar.esemenyek[3].esemeny, "d");
+}
+
+TEST(Esemenyek, ASorokUtaniKijelolesNemTorol) {
+    TEsemenyTar tar;
+    int kijelolt = 0;
+    for (const char* szoveg : {"a", "b"}) EsemenyFelvetel(tar, kijelolt, esemeny(szoveg));
+    for (int rossz : {3, -1}) {
+        EsemenyTorles(tar, rossz);
+        EXPECT_EQ(tar.EsemenyDb, 2);
+    }
+    EXPECT_EQ(tar.esemenyek[1].esemeny, "a");
+    EXPECT_EQ(tar.esemenyek[2].esemeny, "b");
+}
+
+TEST(Esemenyek, ATeliListabolIsTorol) {
+    TEsemenyTar tar;
+    int kijelolt = 0;
+    for (int i = 1; i <= 20; ++i) EsemenyFelvetel(tar, kijelolt, esemeny(std::to_string(100 + i).c_str()));
+    kijelolt = 4;
+    EsemenyTorles(tar, kijelolt);
+    EXPECT_EQ(tar.EsemenyDb, 19);
+    for (int i = 1; i <= 19; ++i)
+        EXPECT_EQ(tar.esemenyek[i].esemeny, std::to_string(100 + i + (i < 4 ? 0 : 1)));
+    EXPECT_TRUE(EsemenyFelvetel(tar, kijelolt, esemeny("x")));
+    EXPECT_EQ(tar.esemenyek[20].esemeny, "x");
+}
+
 TEST(EsemenyKezdoMezok, EsemenyNelkulASzuletesIdejeEsHelye) {
     TEsemenyTar tar;
     tar.esemenyek[1] = esemeny("above the count");

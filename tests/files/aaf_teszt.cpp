@@ -4,6 +4,7 @@
 #include <random>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -153,6 +154,7 @@ TEST(Aaf, AmitAKepletfajlNemTarolEgyszerSzamokkalEmlitve) {
     EXPECT_TRUE(jelenti(ki, elteres, 1, "3 helyen (először itt) a fajta jele"));
     EXPECT_TRUE(jelenti(ki, elteres, 1, "3 helyen (először itt) az ország"));
     EXPECT_EQ(ki.jelentesek.size(), 2U);
+    for (const TJelentes& j : ki.jelentesek) EXPECT_TRUE(j.szoveg.starts_with("3 helyen")) << j.szoveg;
 }
 
 TEST(Aaf, AMegjegyzesekAJegyzetSorai) {
@@ -415,6 +417,45 @@ TEST(Aaf, AzUresMezokCsillagok) {
     const std::string szoveg = AafIras(lap);
     EXPECT_EQ(szoveg.substr(0, szoveg.find('\r')), "#A93:*,*,*,21.7.1975,6:04:09,*,*");
     EXPECT_EQ(MezoElteresek(lap, egyetlen(szoveg)), std::vector<std::string>{});
+}
+
+/// The second line of a record, up to a comma and from the last one on.
+std::pair<std::string, std::string> b93(const TAdatlap& lap) {
+    const std::string szoveg = AafIras(lap);
+    const std::size_t eleje = szoveg.find("#B93:");
+    const std::string sor = szoveg.substr(eleje, szoveg.find("\r\n", eleje) - eleje);
+    return {sor.substr(0, sor.find(',')), sor.substr(sor.rfind(','))};
+}
+
+TEST(Aaf, AJulianNapCsakErtelmesPillanathoz) {
+    TAdatlap lap = szegedi();
+    TKvhRekord& r = lap.keplet.adat;
+    // 0h of 1 January of the year 1 is the Julian day 1721425.5; 5:04:09 UT is 0.211215 of a day more.
+    r.pillanat = {1, 1, 1, 6, 4, 9};
+    EXPECT_EQ(b93(lap).first, "#B93:1721425.711215");
+    r.pillanat.ev = 0;
+    EXPECT_EQ(b93(lap).first, "#B93:*");
+    r.pillanat = {1975, 7, 21, 24, 4, 9};
+    EXPECT_EQ(b93(lap).first, "#B93:*");
+    // A clock is a day off Greenwich at most: 2442614.711215 is that of zone 1.
+    r.pillanat = {1975, 7, 21, 6, 4, 9};
+    r.idozona = 24;
+    EXPECT_EQ(b93(lap).first, "#B93:2442613.752882");
+    r.idozona = -24;
+    EXPECT_EQ(b93(lap).first, "#B93:2442615.752882");
+    for (const int zona : {25, -25, INT32_MAX}) {
+        r.idozona = zona;
+        EXPECT_EQ(b93(lap).first, "#B93:*") << zona;
+    }
+}
+
+TEST(Aaf, ANyariIdoNullatolKettoig) {
+    TAdatlap lap = szegedi();
+    const std::pair<int, const char*> irva[]{{-1, ",*"}, {0, ",0"}, {1, ",1"}, {2, ",2"}, {3, ",*"}};
+    for (const auto& [orak, vege] : irva) {
+        lap.keplet.adat.nyariIdo = orak;
+        EXPECT_EQ(b93(lap).second, vege) << orak;
+    }
 }
 
 TEST(Aaf, AHelysegtablaKulfoldiHelyeinekOrszaga) {

@@ -117,6 +117,15 @@ TEST(AafIdo, AzOrabolLegfeljebbKetOraNyariIdo) {
     EXPECT_TRUE(harom.kozol("eltér"));
 }
 
+TEST(AafIdo, AzOrabolNegativNyariIdoSincs) {
+    // The clock of 5:04:09 would be an hour behind its own zone.
+    const auto e = megold(idopont("21.7.1975", "5:04:09", "2442614.711215", "1he00", "*"));
+    ASSERT_TRUE(e.p);
+    EXPECT_EQ(e.p->nyariIdo, 0);
+    EXPECT_EQ(e.p->pillanat, (TPillanat{1975, 7, 21, 6, 4, 9}));
+    EXPECT_TRUE(e.kozol("eltér"));
+}
+
 TEST(AafIdo, JulianNapbolOraidoNelkul) {
     for (const auto& i : {idopont("*", "*", "2442614.711215", "1he00", "1"),
                           idopont("21.7.1975", "*", "2442614.711215", "1he00", "1"),
@@ -197,10 +206,11 @@ TEST(AafIdo, APercesZonaEgeszOrasZonaraAtszamitva) {
     const auto india = megold(idopont("1.1.1980", "0:10", "*", "5he30", "0"));  // 18:40 UT of the day before
     EXPECT_EQ(india.p->idozona, 5);
     EXPECT_EQ(india.p->pillanat, (TPillanat{1979, 12, 31, 23, 40, 0}));
-    EXPECT_TRUE(india.kozol("idozona"));
+    EXPECT_TRUE(india.kozol("idozona: +5:30:00 óra"));
     const auto nyugat = megold(idopont("1.1.1980", "12:00", "*", "3hw30", "0"));  // 15:30 UT
     EXPECT_EQ(nyugat.p->idozona, -3);
     EXPECT_EQ(nyugat.p->pillanat, (TPillanat{1980, 1, 1, 12, 30, 0}));
+    EXPECT_TRUE(nyugat.kozol("idozona: -3:30:00 óra"));
 }
 
 TEST(AafIdo, AKettosNyariIdoEgyZonavalKeletebb) {
@@ -218,6 +228,7 @@ TEST(AafIdo, AzIsmeretlenNyariIdoAJulianNapbol) {
     EXPECT_FALSE(egy.kozol("eltér"));
     const auto nulla = megold(idopont("21.7.1975", "6:04:09", "2442614.711215", "1he00", "*"));
     EXPECT_EQ(nulla.p->nyariIdo, 0);
+    EXPECT_TRUE(nulla.kozol("nyariIdo: ismeretlen, az óraidőből és a Julián-napból 0"));
 }
 
 TEST(AafIdo, AzIsmeretlenNyariIdoItthonATablabolMashol0) {
@@ -231,6 +242,10 @@ TEST(AafIdo, AzIsmeretlenNyariIdoItthonATablabolMashol0) {
     i.datum = AafDatum("1.12.2000");
     EXPECT_EQ(megold(i).p->nyariIdo, 0);
     i.datum = AafDatum("1.7.1800");
+    EXPECT_EQ(megold(i).p->nyariIdo, 0);
+    i.datum = AafDatum("1.7.2078");  // the last year of charts
+    EXPECT_EQ(megold(i).p->nyariIdo, 1);
+    i.datum = AafDatum("1.7.2079");
     EXPECT_EQ(megold(i).p->nyariIdo, 0);
 }
 
@@ -251,10 +266,20 @@ TEST(AafIdo, AzIsmeretlenZonaAzOraidobolEsAJulianNapbol) {
     EXPECT_EQ(newYork.p->idozona, -5);
     EXPECT_EQ(newYork.p->nyariIdo, 1);
     EXPECT_EQ(newYork.p->pillanat, (TPillanat{1975, 7, 21, 1, 4, 9}));
+    EXPECT_TRUE(newYork.kozol("-5 óra"));
     const auto india = megold(idopont("21.7.1975", "10:34:09", "2442614.711215", "*", "0"));
     EXPECT_EQ(india.p->idozona, 5);
     EXPECT_EQ(india.p->pillanat, (TPillanat{1975, 7, 21, 10, 4, 9}));
     EXPECT_FALSE(india.kozol("eltér"));
+}
+
+/// Days before day number 0, which is 24 November of the year -4713.
+TEST(AafIdo, ANapszamokKezdeteElottIsLefeleVisz) {
+    const auto elozo = megold(idopont("1.1.-5000", "0:10", "*", "5he30", "0"));  // 18:40 UT of the day before
+    ASSERT_TRUE(elozo.p);
+    EXPECT_EQ(elozo.p->pillanat, (TPillanat{-5001, 12, 31, 23, 40, 0}));
+    const auto ejfel = megold(idopont("1.1.-5000", "0:30", "*", "5he30", "0"));
+    EXPECT_EQ(ejfel.p->pillanat, (TPillanat{-5000, 1, 1, 0, 0, 0}));
 }
 
 TEST(AafIdo, ANemLetezoNapUgyMaradAhogyAll) {

@@ -39,6 +39,7 @@ TEST(AafMezok, ADatumNapHoEv) {
     EXPECT_FALSE(d->julianNaptar);
     EXPECT_EQ(AafDatum("01.02.2003")->nap, 1);
     EXPECT_EQ(AafDatum("1.1.-44")->ev, -44);
+    EXPECT_EQ(AafDatum("31.12.9999")->ev, 9999);
     EXPECT_EQ(AafDatum("31.2.1999")->nap, 31);  // whether the month has it is not asked
 }
 
@@ -110,6 +111,9 @@ TEST(AafMezok, AzIdozona) {
     EXPECT_EQ(AafZona("5hw00"), -5 * 3600);
     EXPECT_EQ(AafZona("5he30"), 5 * 3600 + 1800);
     EXPECT_EQ(AafZona("0hw20:04"), -(20 * 60 + 4));
+    EXPECT_EQ(AafZona("24he00"), 24 * 3600);
+    EXPECT_EQ(AafZona("24hw00"), -24 * 3600);
+    EXPECT_FALSE(AafZona("24he00:01"));
     for (const char* rossz : {"1", "h", "1h", "1e00", "25he00", "1he60", "1hn00"})
         EXPECT_FALSE(AafZona(rossz)) << rossz;
     EXPECT_EQ(AafZonaSzoveg(1), "1he00");
@@ -125,6 +129,7 @@ TEST(AafMezok, ANyariIdoOraiEsAHelyiKozepido) {
         EXPECT_FALSE(ny->helyiKozepido);
     }
     EXPECT_TRUE(AafNyariIdo("L")->helyiKozepido);
+    EXPECT_TRUE(AafNyariIdo(" l ")->helyiKozepido);
     EXPECT_EQ(AafNyariIdo("L")->orak, 0);
     for (const char* rossz : {"3", "-1", "S", "", "1h"}) EXPECT_FALSE(AafNyariIdo(rossz)) << rossz;
 }
@@ -141,6 +146,10 @@ TEST(AafMezok, AJulianNapFelNappalTovabbiNapszam) {
     EXPECT_DOUBLE_EQ(AafJulian("2440065.1")->pontossag, 8640);
     EXPECT_DOUBLE_EQ(AafJulian("2440065")->pontossag, 86400);
     EXPECT_EQ(AafJulian("2415020.4999999999999999999999")->masodperc, 2415020 * nap);
+    // Nine digits count, a billionth of a day; more say nothing.
+    EXPECT_DOUBLE_EQ(AafJulian("2415020.123456789")->pontossag, 86400e-9);
+    EXPECT_DOUBLE_EQ(AafJulian("2415020.1234567891")->pontossag, 86400e-9);
+    EXPECT_EQ(AafJulian("9999999.5")->masodperc, 9999999 * nap);
     for (const char* rossz : {"", "x", "2415020,5", "24150205000", "-1.5", "2415020.5e1", ".5", "2415020.-5"})
         EXPECT_FALSE(AafJulian(rossz)) << rossz;
 }

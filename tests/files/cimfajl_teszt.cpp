@@ -34,6 +34,13 @@ TEST(CimFajl, AHosszuSorEgyszerSzerepel) {
     EXPECT_EQ(c[1], std::string(250, 'x') + " ");
 }
 
+TEST(CimFajl, AKetszazKarakterAHatar) {
+    // "ab " has 3 characters: 66 + 1 times; 199 with the blank are 200, which go in once and one more.
+    EXPECT_EQ(karakterSzam(cimek("ab")[1]), 201);
+    EXPECT_EQ(karakterSzam(cimek(std::string(199, 'x'))[1]), 400);
+    EXPECT_EQ(karakterSzam(cimek(std::string(200, 'x'))[1]), 201);
+}
+
 TEST(CimFajl, AzElsoUresSorMindentUresenHagy) {
     const TCimek c = cimek("\nszöveg\n");
     for (const std::string& cim : c) EXPECT_EQ(cim, "");

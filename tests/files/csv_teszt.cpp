@@ -172,6 +172,17 @@ TEST(Csv, AzIsmeretlenEsAzIsmeteltOszlopVeszteseg) {
     EXPECT_EQ(ki.jelentesek.size(), 3U);
 }
 
+TEST(Csv, AzEsemenyOszlopaEgytolSzamozottPonttal) {
+    for (const char* nev : {"0. ev", "1 ev", "1ev", "12", "-1. ev", ". ev", "99999999999999999999. ev"}) {
+        const auto ki = CsvOlvasas("nev,ho,nap,ora,perc,ev," + std::string(nev) + "\nX,7,21,6,4,1975,2000\n");
+        ASSERT_EQ(ki.lapok.size(), 1U) << nev;
+        EXPECT_EQ(ki.lapok[0].keplet.adat.pillanat.ev, 1975) << nev;
+        EXPECT_TRUE(ki.lapok[0].esemenyek.empty()) << nev;
+        EXPECT_TRUE(jelenti(ki, veszteseg, 1, "ismeretlen oszlop, kimarad: „" + std::string(nev) + "”"));
+        EXPECT_EQ(ki.jelentesek.size(), 1U) << nev;
+    }
+}
+
 TEST(Csv, AHuszonegyedikEsemenyVeszteseg) {
     const TAdatRekord esemeny{{"e", {2000, 7, 1, 12, 0, 0}, 1, 1, "Pécs", 65640, 165840, "", 0, "7"}, {}, 0};
     TAdatlap lap;
@@ -255,6 +266,14 @@ TEST(Csv, ANemUtf8SorHibaKodlappalOlvashato) {
     EXPECT_EQ(egyben.lapok[0].keplet.adat.szelesseg, 166440);
     EXPECT_EQ(egyben.lapok[0].keplet.adat.jegyzet, "?");
     EXPECT_TRUE(jelenti(egyben, veszteseg, 2, "1 bájt nem karakter"));
+    EXPECT_EQ(egyben.jelentesek.size(), 1U);
+    // A row that is UTF-8 stays so, and one of which each byte is a character loses nothing.
+    const auto vegyes =
+        CsvOlvasas(fejlec + "\n" + kovacs + "\nK\xF5v\xE1ri,1975,7,21,6,4\n", TKodlap::cp1250);
+    ASSERT_EQ(vegyes.lapok.size(), 2U);
+    EXPECT_EQ(vegyes.lapok[0].keplet.adat, kovacsRekord());
+    EXPECT_EQ(vegyes.lapok[1].keplet.adat.nev, "Kővári");
+    EXPECT_TRUE(vegyes.jelentesek.empty());
 }
 
 TEST(Csv, ANagyonHosszuSor) {

@@ -48,8 +48,15 @@ TEST(KvhRekord, AMezokHelyei) {
 TEST(KvhRekord, ATulHosszuSzovegLevagva) {
     TKvhRekord r;
     r.nev = std::string(31, 'x') + "őy";
+    r.helyseg = std::string(33, 'h');
     r.jegyzet = std::string(300, 'j');
+    r.hang = std::string(300, 'H');
     const TKvhRekord vissza = KvhDekodolas(KvhKodolas(r));
+    EXPECT_EQ(vissza.helyseg, std::string(32, 'h'));
+    EXPECT_EQ(vissza.hang, std::string(255, 'H'));
+    EXPECT_EQ(vissza.pillanat, r.pillanat);  // no field runs into the next
+    EXPECT_EQ(vissza.hosszusag, r.hosszusag);
+    EXPECT_EQ(vissza.esemenySzam, r.esemenySzam);
     EXPECT_EQ(vissza.nev, std::string(31, 'x') + "ő");  // 32 characters of the code page
     EXPECT_EQ(vissza.jegyzet, std::string(255, 'j'));
 }

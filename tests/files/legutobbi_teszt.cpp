@@ -33,6 +33,8 @@ TEST(Legutobbi, AzElsoSorAMappaUtanaAFajlok) {
 TEST(Legutobbi, AmitLeirAztOlvassaVissza) {
     const TLegutobbiak furcsak{"C:\\képletek\\n", {"/sor\ntörés.kvh", "\\\\szerver\\new.kvh", " .kvh"}};
     EXPECT_EQ(LegutobbiOlvas(LegutobbiSzoveg(furcsak)), furcsak);
+    const TLegutobbiak vegukon{"C:\\", {"/sor\n", "C:\\mappa\\", "\\", "\n"}};
+    EXPECT_EQ(LegutobbiOlvas(LegutobbiSzoveg(vegukon)), vegukon);
     EXPECT_EQ(LegutobbiOlvas(LegutobbiSzoveg({})), TLegutobbiak{});
 }
 

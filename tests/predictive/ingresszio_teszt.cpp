@@ -44,6 +44,25 @@ TEST(Ingresszio, AParokTavolsagaANapokSzoge) {
     }
 }
 
+/// The first day past the half of the year: 183 x 360 / 365 is 180.49, folded to 179.51.
+TEST(Ingresszio, AFelevUtaniElsoNapMarVisszafele) {
+    constexpr double szog = 360 - 183 * 360 / 365.0;
+    int talalt = 0;
+    for (int nap = 0; nap < 60; ++nap) {  // two full Moons among them
+        const TPillanat szuletett = napokkal(szuletesnap, nap);
+        Allapot a = szuletes(szuletett);
+        const std::string szoveg = IngresszioKeres(a, szuletett, napokkal(szuletett, 183), "Szeged");
+        std::string vart;
+        for (int i = 1; i <= 10; ++i)
+            for (int j = i; j <= 10; ++j)
+                if (std::abs(a.Munka.Elteresek[i][j] - szog) < 180 / 365.0)
+                    vart += {' ', static_cast<char>('A' + i - 1), 'M', static_cast<char>('A' + j - 1)};
+        EXPECT_EQ(szoveg, vart) << nap;
+        talalt += !vart.empty();
+    }
+    EXPECT_GT(talalt, 0);
+}
+
 TEST(IngresszioParok, AHatarokonNincsTalalat) {
     constexpr double szog = 30;
     const auto also = static_cast<double>(szog - 180 / 365.0L);

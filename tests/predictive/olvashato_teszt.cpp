@@ -30,7 +30,31 @@ TEST(Olvashato, ABolygokEsFenyszogeik) {
     EXPECT_EQ(OlvashatoParok("CR"), "Merkúr 90°");
     EXPECT_EQ(OlvashatoParok("CRBMJV"), "Merkúr 90°, Hold együttállás, Plutó 150°");
     // Not of pairs: left as it is.
-    for (const char* mas : {"", "CRB", "RC", "CC", "aM", "jó"}) EXPECT_EQ(OlvashatoParok(mas), mas);
+    for (const char* mas : {"", "CRB", "RC", "CC", "aM", "jó", "CRBB", "CRRM"})
+        EXPECT_EQ(OlvashatoParok(mas), mas);
+}
+
+/// A part of a longer text ends where it ends, whatever letters follow.
+TEST(Olvashato, AFelPartNemEgeszitiKiAmiUtanaAll) {
+    constexpr std::string_view sor = "CRBM";
+    EXPECT_EQ(OlvashatoParok(sor.substr(0, 3)), "CRB");
+    EXPECT_EQ(OlvashatoParok(sor.substr(0, 2)), "Merkúr 90°");
+    EXPECT_EQ(OlvashatoTercier(sor.substr(2, 1)), "Hold");
+    EXPECT_EQ(OlvashatoTercier(std::string_view("eAM").substr(0, 2)), "Nap (Oroszlán)");
+    EXPECT_EQ(OlvashatoTercier(std::string_view("AMfB").substr(0, 3)).find("Hold"), std::string::npos);
+    EXPECT_EQ(OlvashatoIngresszio(std::string_view(" AMB CMJ").substr(0, 4)), "Nap együttállás Hold");
+    EXPECT_EQ(OlvashatoIdok(std::string_view("3. CR(05:33:21) BM").substr(0, 15)),
+              "3. Merkúr 90° (05:33:21)");
+    EXPECT_EQ(OlvashatoIdok(std::string_view("20. CR").substr(0, 4)), "20. –");
+}
+
+TEST(Olvashato, ACsonkaSorNemOlvasTulAVegen) {
+    const std::string sor = "2000.04.10.   wv     CR";
+    for (std::size_t hossz = 0; hossz < 21; ++hossz)  // up to the last blank before the hits
+        EXPECT_EQ(OlvashatoPrimer(std::string_view(sor).substr(0, hossz)), sor.substr(0, hossz));
+    EXPECT_EQ(OlvashatoTalalatok(4, std::string_view("vww   CRBM; AW; ").substr(0, 10)),
+              "4. Solar-Nap: VII; dMc: Merkúr 90°, Hold együttállás; cMc: ; dAsc: ; cAsc: ");
+    EXPECT_EQ(OlvashatoTalalatok(4, ""), "4. Solar-Nap: –; dMc: ; cMc: ; dAsc: ; cAsc: ");
 }
 
 TEST(Olvashato, APrimerListaSorai) {

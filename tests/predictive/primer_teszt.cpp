@@ -59,6 +59,8 @@ TEST(Primer, APontTalalatHatarai) {
     EXPECT_TRUE(PontTalalat(10, {10, 12}));
     EXPECT_TRUE(PontTalalat(12, {10, 12}));
     EXPECT_FALSE(PontTalalat(9.99, {10, 12}));
+    EXPECT_TRUE(PontTalalat(10, {10, 10}));  // a plain window of one place
+    EXPECT_FALSE(PontTalalat(10.01, {10, 10}));
     const TOrbisAblak atlepo = OrbisAblak(0.5, 1);
     EXPECT_DOUBLE_EQ(atlepo.also, 359.5);
     EXPECT_DOUBLE_EQ(atlepo.felso, 1.5);
@@ -170,6 +172,16 @@ TEST(Primer, ASorAzUtolsoSolarNapHazaval) {
         hazak.insert(haz);
     }
     EXPECT_EQ(hazak.size(), 12U);
+}
+
+/// A clock beyond all dialogs carries the Sun many turns away: it fits no house, and the line names none.
+TEST(Primer, AHazNelkuliNapSorabanNincsHaz) {
+    Allapot a = egyPont(pontok(szuletes(), 100)[dMC]);
+    a.Keplet.bolygo[1] = 1000;
+    const auto sorok = PrimerFutas(a, kezdo);
+    ASSERT_EQ(sorok.size(), 1U);
+    EXPECT_TRUE(sorok[0].starts_with("2000.04.")) << sorok[0];
+    EXPECT_EQ(sorok[0].substr(11), std::string(3 + 5, ' ') + "CR");
 }
 
 TEST(Primer, KetNaponAtBenneMaradoPontEgySor) {

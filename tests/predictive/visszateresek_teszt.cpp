@@ -3,6 +3,7 @@
 #include "chart/statuszsor.h"
 #include "engine/bolygohelyek.h"
 #include "engine/csillagido.h"
+#include "engine/fenyszogek.h"
 #include "engine/hazak.h"
 #include "mintakeplet.h"
 #include "predictive/visszateresek.h"
@@ -177,6 +178,14 @@ TEST(Visszateresek, AzAlloLepesMindenCelraTalalat) {
     EXPECT_EQ(a.Visszateresek.szamlalo, vart);
 }
 
+/// The search ends behind the first day above row 65000, which is 2077-12-17.
+TEST(Visszateresek, AHatvanotezerUtaniElsoSorAzUtolso) {
+    for (const auto& [sor, talalt] : {std::pair(65000, 1), std::pair(65001, 1), std::pair(65002, 0)}) {
+        Allapot a = szuletes({2077, 12, 10, 12, 0, 0});
+        EXPECT_EQ(talalatok(a, RevolucioFajta(1), Efemerida[sor].nap_hossz + 10), talalt) << sor;
+    }
+}
+
 TEST(Visszateresek, UresKeresesUtanARegiElsoSor) {
     Allapot a = szuletes({1975, 7, 21, 6, 4, 9});
     const TPillanat regi = keres(a, RevolucioFajta(1)).pillanat;
@@ -212,6 +221,12 @@ TEST(VisszateresKeplet, EgyIvperccelKeletreEsEszakraNyariIdoNelkul) {
     EXPECT_NEAR(k.bolygo[1], hossz({1975, 7, 21, 5, 4, 9}, 1), 1.0 / 3600);
     for (int i = 1; i <= 10; ++i)  // all bodies stand where they are at the return, not at the birth
         EXPECT_NEAR(k.bolygo[i], hossz(a.Visszateresek.sorok[31].pillanat, i), 1e-9) << i;
+
+    TFenyszogMunka munka;  // the aspects are the return's too
+    ElteresSzamitas(k.bolygo, munka);
+    Fenyszogek(a.OrbisTabla, munka);
+    EXPECT_EQ(a.FenyszogRadix, munka.FenyszogMatrix);
+    EXPECT_NE(a.FenyszogRadix, szuletes({1975, 7, 21, 6, 4, 9}).FenyszogRadix);
 
     THazcsucsok csucsok;
     std::int32_t nap = k.julianszam, ora = 0, perc = 0;

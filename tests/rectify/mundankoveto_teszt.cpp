@@ -1,10 +1,12 @@
 // The walking verdict beside the plain one: each chart of the walk is worked out anew in the test.
 
+#include <cmath>
 #include <random>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "engine/csillagido.h"
 #include "engine/mundanlanc.h"
 #include "rectify/analogiak.h"
 #include "rectify/mundankereses.h"
@@ -24,12 +26,12 @@ protected:
         if (szam(0, 2) == 0) h.nyariIdo = szam(0, 1);
         return h;
     }
-    /// Factory orbs, or ones that overlap.
-    TOrbisTabla orbisok() {
+    /// Factory orbs, or ones that overlap, up to so many half degrees.
+    TOrbisTabla orbisok(int legnagyobb = 40) {
         TOrbisTabla orbis = OrbisAlap;
         if (szam(0, 2) == 0)
             for (auto& sor : orbis)
-                for (double& o : sor) o = szam(0, 40) / 2.0;
+                for (double& o : sor) o = szam(0, legnagyobb) / 2.0;
         return orbis;
     }
 
@@ -59,6 +61,72 @@ TEST_F(TMundanKovetoTeszt, MindenLepesenASimaItelet) {
         for (int lepes = 0; lepes < 2500; ++lepes) {
             ASSERT_EQ(koveto(k, t), sima(t, h, orbis)) << seta << ' ' << t;
             t += szam(0, 40) == 0 ? lepesek[szam(0, 10)] : ut;
+        }
+    }
+}
+
+/// Without the steps between, which would each be a chance to work things out anew. The window of the orbs
+/// sets no upper limit: with wide ones any aspect may hold at any distance.
+TEST_F(TMundanKovetoTeszt, UgrasUtanIsASimaItelet) {
+    for (int n = 0; n < 1000; ++n) {
+        const TMundanHely h = hely();
+        const TOrbisTabla orbis = orbisok(n % 2 == 0 ? 40 : 400);
+        for (int ugras = 0; ugras < 20; ++ugras) {
+            TMundanKoveto k(h, orbis);
+            const std::int64_t t = std::int64_t{szam(elsoNap + 3, utolsoNap - 4)} * 86400 + szam(0, 86399);
+            koveto(k, t);
+            const std::int64_t vege = t + szam(-7200, 7200);
+            ASSERT_EQ(koveto(k, vege), sima(vege, h, orbis)) << n << ' ' << t << ' ' << vege;
+        }
+    }
+}
+
+/// Degrees from the Sun on to the Moon at a day's beginning in Greenwich.
+double holdKora(int nap) {
+    const TEfemeridaNap& sor = efemeridaNap(nap);
+    return std::fmod(sor.hold_hossz - sor.nap_hossz + 1296000.0, 1296000.0) / 3600;
+}
+
+/// With orbs of 100 degrees for the square of Sun and Moon the two are square where they meet as well, and
+/// there their sides alone change.
+TEST_F(TMundanKovetoTeszt, AzUjholdkorCserelOldalIs) {
+    TOrbisTabla orbis = OrbisAlap;
+    orbis[3][5] = orbis[4][5] = 100;
+    for (int n = 0; n < 500; ++n) {
+        TMundanHely h = hely();
+        h.nyariIdo = 0;
+        int nap = szam(elsoNap + 3, utolsoNap - 40);
+        while (!(holdKora(nap) > 300 && holdKora(nap + 1) < 60)) ++nap;
+        const double hianyzik = 360 - holdKora(nap);
+        const double resz = hianyzik / (hianyzik + holdKora(nap + 1));
+        const std::int64_t ujhold = std::int64_t{nap} * 86400 + static_cast<std::int64_t>(86400 * resz) +
+                                    std::int64_t{h.idozona} * 3600;
+        for (const int irany : {1, -1, 1, -1}) {
+            TMundanKoveto k(h, orbis);
+            koveto(k, ujhold - irany * szam(5, 2000));
+            const std::int64_t vege = ujhold + irany * szam(5, 2000);
+            ASSERT_EQ(koveto(k, vege), sima(vege, h, orbis)) << n << ' ' << vege;
+        }
+    }
+}
+
+/// At a sidereal time of 16 h and a high latitude the table's second cusp runs through half of the circle in
+/// four minutes, over the first one too: bodies change their houses though no boundary comes to them.
+TEST_F(TMundanKovetoTeszt, AMasodikCsucsRohanasaKozbenIs) {
+    for (int n = 0; n < 100; ++n) {
+        TMundanHely h = hely();
+        h.szelesseg = szam(56 * 3600, 60 * 3600);
+        h.nyariIdo = 0;
+        const int nap = szam(elsoNap + 3, utolsoNap - 4);
+        const TCsillagIdo ido = CsillagIdo(nap, 12, 0, 0, h.hosszusag, 0, h.idozona);
+        const double most = ido.armcOra * 3600 + ido.armcPerc * 60 + ido.armcMperc;
+        const double mulva = std::fmod(16 * 3600 - most + 2 * 86400, 86400) / 1.0027379;
+        const std::int64_t kezdet = std::int64_t{nap} * 86400 + 43200 + static_cast<std::int64_t>(mulva) - 5;
+        TMundanKoveto elore(h, OrbisAlap);
+        TMundanKoveto hatra(h, OrbisAlap);
+        for (int s = 0; s < 250; ++s) {
+            ASSERT_EQ(koveto(elore, kezdet + s), sima(kezdet + s, h, OrbisAlap)) << n << ' ' << s;
+            ASSERT_EQ(koveto(hatra, kezdet + 250 - s), sima(kezdet + 250 - s, h, OrbisAlap)) << n << ' ' << s;
         }
     }
 }

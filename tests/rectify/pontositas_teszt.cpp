@@ -302,6 +302,13 @@ TEST(Pontositas, TalalatNelkulHaromPontEsPusztaSorszam) {
     EXPECT_EQ(lista.Memo3[0], "1. ");
 }
 
+/// A clock beyond all dialogs carries the Sun many turns away: it fits no house, and the line names none.
+TEST(Pontositas, AHazNelkuliNapSorabanNincsHaz) {
+    Allapot a = pontokNelkul();
+    a.Keplet.bolygo[1] = 1000;
+    EXPECT_EQ(PontositasFutas(a).Memo2[0], "   ...;  ...;  ...;  ...;  ");
+}
+
 TEST(Pontositas, EgyTestTobbTalalataEgyIdotAdAzUtolsobol) {
     Allapot a = pontokNelkul();
     const double x = iranyPont(a, dMC);

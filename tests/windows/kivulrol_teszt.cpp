@@ -12,7 +12,6 @@
 
 namespace {
 
-
 /// Two charts in files, a window with the clock running.
 struct TKivulrol {
     TKivulrol() {
@@ -151,8 +150,10 @@ private slots:
         QVERIFY(rossz.open(QIODevice::WriteOnly));
         rossz.write("nem képlet");
         rossz.close();
+        k.a.allapot().Modositott = true;
         QVERIFY(k.ejt(k.ut("rossz.kvh")));
         QTRY_COMPARE(k.p.uzenetek, QStringList{"File olvasási hiba!"});
+        QVERIFY(!k.a.allapot().Modositott);  // as the menu's opening does
     }
 
     void aMegnyitottEsAMentettALegutobbiakKoze() {

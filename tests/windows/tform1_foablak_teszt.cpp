@@ -85,6 +85,30 @@ private slots:
         QCOMPARE(memo->geometry(), QRect(0, 600, 49, 281));
     }
 
+    /// The keys are the window's own until the note is clicked.
+    void aJegyzetbeCsakKattintasVisz() {
+        TFrissAblakok a;
+        QVERIFY(QTest::qWaitForWindowActive(&a.form1));
+        auto* memo = vezerlo<QPlainTextEdit>(a.form1, "Memo1");
+        QVERIFY(!memo->hasFocus());
+        for (const Qt::Key k : {Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Tab}) {
+            QTest::keyClick(a.form1.windowHandle(), k);
+            QVERIFY(!memo->hasFocus());
+        }
+        QTest::mouseClick(memo->viewport(), Qt::LeftButton);
+        QVERIFY(memo->hasFocus());
+    }
+
+    void aNevNemJelolonyelvAzAllapotsorban() {
+        TFrissAblakok a;
+        a.allapot().MostFut = false;
+        a.allapot().Feliratok.statusz[2] = "<b>x</b>";
+        a.form1.Mutat();
+        const auto* nev = vezerlo<QLabel>(a.form1, "StatusBar1Panel2");
+        QCOMPARE(nev->text(), "<b>x</b>");
+        QVERIFY(nev->sizeHint().width() >= nev->fontMetrics().horizontalAdvance("<b>x</b>"));
+    }
+
     void aJegyzetProgrambolValoValtozasaIsHelyetValt() {
         TFrissAblakok a;
         auto* memo = vezerlo<QPlainTextEdit>(a.form1, "Memo1");

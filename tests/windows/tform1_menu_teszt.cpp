@@ -1,6 +1,7 @@
 #include <QFile>
 #include <QMenu>
 #include <QMenuBar>
+#include <QStyleHints>
 
 #include "ablakteszt.h"
 #include "probaparbeszed.h"
@@ -180,6 +181,21 @@ private slots:
             QCOMPARE(panel(a.form1, 0), "Radix");
             QVERIFY(!a.form7.isVisible() && !a.form8.isVisible());
         }
+    }
+
+    /// Also on a desktop whose context menus show no keys.
+    void aKerekMenujeMutatjaABillentyuit() {
+        QStyleHints& asztal = *QGuiApplication::styleHints();
+        const bool regi = asztal.showShortcutsInContextMenus();
+        asztal.setShowShortcutsInContextMenus(false);
+        TFrissAblakok a;
+        for (const auto& [nev, billentyu] :
+             {std::pair("KepMasolas1", "Ctrl+C"), std::pair("AdatMasolas1", "Ctrl+Shift+C")}) {
+            const auto* pont = vezerlo<QAction>(a.form1, nev);
+            QCOMPARE(pont->shortcut(), QKeySequence(billentyu));
+            QVERIFY2(pont->isShortcutVisibleInContextMenu(), nev);
+        }
+        asztal.setShowShortcutsInContextMenus(regi);
     }
 
     void aKezikonyvAProgramMellol() {

@@ -372,6 +372,7 @@ private slots:
             const QString adatok = kimenet("pdfinfo", {ny.ut("lap.pdf")}).simplified();
             QVERIFY2(adatok.contains("Pages: 1 "), qPrintable(adatok));
             QVERIFY2(adatok.contains("Title: Születési képlet "), qPrintable(adatok));
+            QVERIFY2(adatok.contains("Creator: Korvend "), qPrintable(adatok));
             const bool allo = irany == QPageLayout::Portrait;
             QVERIFY2(adatok.contains(allo ? "Page size: 595 x 842" : "Page size: 842 x 595"),
                      qPrintable(adatok));

@@ -17,6 +17,7 @@ struct TProbaDialogus : QDialog {
         sor->addWidget(ujSzamMezo(this, "Ev", 1900, 2068));
         sor->addWidget(ujSzamMezo(this, "Nap", 1, 31));
         sor->addWidget(ujSzamMezo(this, "Fok", -180, 180));
+        sor->addWidget(ujSzamMezo(this, "Perc", 0, 59));
         hosszKorlat(*ujSzovegMezo(this, "Nev"), rovidSzovegHossz);
         sor->addWidget(vezerlo<QLineEdit>(*this, "Nev"));
         auto* jegyzet = new QPlainTextEdit(this);
@@ -177,6 +178,17 @@ private slots:
         QCOMPARE(d.szam("Nap").text(), "7");
         d.beir("Fok", "1-2");
         QCOMPARE(d.szam("Fok").text(), "12");
+        leut(Qt::Key_Home);
+        beut("a");
+        QCOMPARE(d.szam("Fok").text(), "12");
+        d.beir("Perc", "-5");  // nothing is below its least, 0
+        QCOMPARE(d.szam("Perc").text(), "5");
+        leut(Qt::Key_A, Qt::ControlModifier);
+        leut(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(d.szam("Perc").text(), "5");
+        leut(Qt::Key_Home);
+        beut("-");
+        QCOMPARE(d.szam("Perc").text(), "5");
     }
 
     void azUresreTorlottMezoARegiSzamotAdja() {

@@ -222,6 +222,22 @@ private slots:
         for (const char* gomb : gombok) QVERIFY2(d.rect().contains(hely(d, gomb)), gomb);
     }
 
+    /// Made larger by the user, a dialog opens next time as it was laid out.
+    void aParbeszedUjraATervezettMeretben() {
+        TFrissAblakok a;
+        szuletes(a);
+        for (const char* pont : {"Szemely_adatok1", "Szolar1", "Szimbolumok1"}) {
+            QSize elso;
+            parbeszedben(a, pont, [&](QWidget& d) {
+                elso = d.size();
+                d.resize(elso + QSize(80, 60));
+                QApplication::processEvents();
+                QCOMPARE(d.size(), elso + QSize(80, 60));
+            });
+            parbeszedben(a, pont, [&](QWidget& d) { QCOMPARE(d.size(), elso); });
+        }
+    }
+
     void aSzimbolumokRacsa() {
         TFrissAblakok a;
         mutat(a.form9);

@@ -1,5 +1,7 @@
 // The main window from start-up through clock and surface, driven with mouse and menu.
 
+#include <QStatusBar>
+
 #include "ablakteszt.h"
 #include "tables/szotar.h"
 #include "windows/datumformatum.h"
@@ -97,6 +99,36 @@ private slots:
         }
         QTest::mouseClick(memo->viewport(), Qt::LeftButton);
         QVERIFY(memo->hasFocus());
+    }
+
+    /// The wheel's white does not come through between the panel's rows.
+    void aPanelnekSajatHattereVan() {
+        TFrissAblakok a;
+        const auto* panel1 = vezerlo<QFrame>(a.form1, "Panel1");
+        const QImage kep = a.form1.grab().toImage();
+        const auto szin = [&](const QPoint& hely) {
+            const QPoint itt = panel1->mapTo(&a.form1, hely) * kep.devicePixelRatio();
+            return kep.pixelColor(itt);
+        };
+        QCOMPARE(szin({2, 145}), panel1->palette().color(QPalette::Window));  // between buttons and rows
+        QCOMPARE(szin({panel1->width() + 3, 3}), QColor(Qt::white));
+    }
+
+    void azAllapotsorPaneljeiSullyesztettek() {
+        TFrissAblakok a;
+        const auto* sav = vezerlo<QStatusBar>(a.form1, "StatusBar1");
+        QVERIFY(!sav->isSizeGripEnabled());  // it would lie on the last panel
+        for (int i = 0; i < 7; ++i) {
+            const auto* mezo =
+                vezerlo<QLabel>(a.form1, qPrintable(QStringLiteral("StatusBar1Panel%1").arg(i)));
+            QCOMPARE(mezo->frameShape(), QFrame::Panel);
+            QCOMPARE(mezo->frameShadow(), QFrame::Sunken);
+            QCOMPARE(mezo->font().family(), "Ariel");
+            QCOMPARE(mezo->font().pixelSize(), sav->font().pixelSize());
+        }
+        // The letters of a full moment fit in the panel of its width.
+        const auto* mikor = vezerlo<QLabel>(a.form1, "StatusBar1Panel3");
+        QVERIFY(mikor->fontMetrics().horizontalAdvance("1975.07.21. 06:04:09 GMT") < 135);
     }
 
     void aNevNemJelolonyelvAzAllapotsorban() {

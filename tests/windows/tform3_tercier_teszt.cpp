@@ -235,6 +235,22 @@ private slots:
         QCOMPARE(panel(a.form1, 0), "Radix");
     }
 
+    /// The dialog opens over the wheel, also from a view whose window was to be left empty.
+    void aParbeszedMogottAKerekAll() {
+        TFrissAblakok a;
+        szuletes(a);
+        for (const char* parancs : {"Tercier1", "Szolaringresszio11"}) {
+            menu(a.form1, "Mundan1");
+            QVERIFY(a.allapot().TeljesTorles);
+            valasz([&a](QWidget& d) {
+                const auto* felulet = a.form1.findChild<KepletFelulet*>("Felulet");
+                QVERIFY(fekete(felulet->kep().toImage()) > 100);
+                kattint(d, "Button_Megsem1");
+            });
+            menu(a.form1, parancs);
+        }
+    }
+
     void aMegsemNemIrAFeluletre() {
         TFrissAblakok a;
         szuletes(a);

@@ -137,11 +137,13 @@ private slots:
         a.allapot().PontositasHatotav = 5;
         kattint(a.form13, "Button_Rendben1");
         QCOMPARE(a.allapot().PontositasHatotav, 99);
-        // So does the Enter key in the field.
-        a.allapot().PontositasHatotav = 5;
-        mezo->setFocus();
-        QTest::keyClick(mezo, Qt::Key_Return);
-        QCOMPARE(a.allapot().PontositasHatotav, 99);
+        // So does the Enter key, in the field and from the list of events.
+        for (QWidget* honnan : {static_cast<QWidget*>(mezo), vezerlo<QWidget>(a.form13, "Memo1")}) {
+            a.allapot().PontositasHatotav = 5;
+            honnan->setFocus();
+            QTest::keyClick(honnan, Qt::Key_Return);
+            QCOMPARE(a.allapot().PontositasHatotav, 99);
+        }
     }
 
     void aLeptetesEsMindenUjraszamitasMozgatjaATalalatokat() {

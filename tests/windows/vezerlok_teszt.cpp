@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "kezteszt.h"
+#include "windows/mezojeloles.h"
 #include "windows/vezerlok.h"
 
 namespace {
@@ -234,6 +235,40 @@ private slots:
         leut(Qt::Key_Backspace);
         beut("x");
         QCOMPARE(jegyzet->toPlainText(), QString(100, u'a') + "0123x" + QString(150, u'b'));
+    }
+
+    void aJelolesOkaValtozhatEsASajatSugoVisszajon() {
+        TProbaDialogus d;
+        QSpinBox& mezo = d.szam("Nap");
+        mezo.setToolTip("saját");
+        const auto szin = [&mezo] { return mezo.findChild<QLineEdit*>()->palette().color(QPalette::Text); };
+        const QColor rendes = szin();
+        mezoJeloles(mezo, "");
+        QCOMPARE(mezo.toolTip(), "saját");
+        for (int kor = 0; kor < 2; ++kor) {
+            for (const char* miert : {"egyik ok", "másik ok"}) {
+                mezoJeloles(mezo, miert);
+                QCOMPARE(mezo.toolTip(), miert);
+                QVERIFY(szin() != rendes);
+            }
+            mezoJeloles(mezo, "");
+            QCOMPARE(mezo.toolTip(), "saját");
+            QCOMPARE(szin(), rendes);
+            mezo.setToolTip("új");  // of a field that is not marked the tooltip is its owner's
+            mezoJeloles(mezo, "");
+            QCOMPARE(mezo.toolTip(), "új");
+            mezo.setToolTip("saját");
+        }
+    }
+
+    void kilencJegynelTobbNemIrhato() {
+        TProbaDialogus d;
+        d.beir("Fok", "1234567890");
+        QCOMPARE(d.szam("Fok").text(), "123456789");
+        d.beir("Fok", "-1234567890");
+        QCOMPARE(d.szam("Fok").text(), "-123456789");
+        leut(Qt::Key_Return);
+        QCOMPARE(d.szam("Fok").value(), -180);
     }
 
     void aKettosKarakterNemSzakadSzet() {

@@ -55,7 +55,6 @@ void TForm12::epites() {
         if (pontositas) pontositas();
     });
     setTabOrder(megsem, memo1_);
-    setTabOrder(memo1_, pontositasGomb);
 
     label8_ = new QLabel("Solar-Nap:", this);
     label8_->setObjectName("Label8");

@@ -155,7 +155,6 @@ void TForm14::kitoltes(const TVisszateresFajta& fajta, const TPillanat& kezdo) {
     helyseg_->helysegBeallitasa(qszoveg(allapot_.Keplet.helyseg));
     listBox1_->clear();
     findChildren<QRadioButton*>().last()->setChecked(true);
-    sor_ = 1;
     const std::array<int, 3> datum{kezdo.ev, kezdo.ho, kezdo.nap};
     for (std::size_t i = 0; i < datum.size(); ++i) {
         datum_[i]->setValue(datum[i]);

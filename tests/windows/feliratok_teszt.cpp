@@ -309,10 +309,17 @@ private slots:
         cimkek(a.form10,
                {"Életesemény:", "Életesemény:", "Házanalógiák:", "Házanalógiák:", "Esemény ideje (GMT):",
                 "Solar-évforduló helye:", "Solar-évforduló helye:", "Solar-Nap:", "Solar-Nap:"});
-        hatarok(a.form10, {{"SpinEditIdozona1", -12, 12},
+        hatarok(a.form10, {{"SpinEditEv1", 1900, 2068},
+                           {"SpinEditHo1", 1, 12},
+                           {"SpinEditNap1", 1, 31},
+                           {"SpinEditOra1", 0, 23},
+                           {"SpinEditPerc1", 0, 59},
+                           {"SpinEditMperc1", 0, 59},
+                           {"SpinEditIdozona1", -12, 12},
                            {"SpinEditNyariidosz1", 0, 1},
                            {"SpinEditHosszFok1", -180, 180},
                            {"SpinEditHosszPerc1", 0, 59},
+                           {"SpinEditSzelFok1", -180, 180},
                            {"SpinEditSzelPerc1", 0, 59}});
     }
 
@@ -404,6 +411,7 @@ private slots:
                 const int c = resz[2].toInt() - 1;
                 QCOMPARE(gomb->geometry(), QRect(295 - 32 * (8 - c), 140 - 26 * (3 - r), 30, 24));
                 QCOMPARE(gomb->font().pointSize(), 10);
+                QCOMPARE(gomb->font().family(), "Ariel");
                 QVERIFY(r > 1 || c == 0 || c == 3 || c == 4 || c == 5 || c == 8);
             }
             const QString bolygok = "ABCDEFGHIJ";
@@ -411,6 +419,7 @@ private slots:
             QStringList megvan;
             for (const auto* jel : d.findChildren<QLabel*>()) {
                 QCOMPARE(jel->font().pointSize(), 10);
+                QCOMPARE(jel->font().family(), jel->text().size() > 1 ? "Ariel" : "Astro Symbols");
                 megvan << QStringLiteral("%1 %2 %3").arg(jel->text()).arg(jel->x()).arg(jel->y());
             }
             QStringList vart{"Asc 12 65", "MC 12 91"};

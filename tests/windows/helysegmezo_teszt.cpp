@@ -4,6 +4,7 @@
 
 #include <QAbstractItemView>
 #include <QDialog>
+#include <QSignalSpy>
 #include <QVBoxLayout>
 
 #include "kezteszt.h"
@@ -147,6 +148,8 @@ private slots:
         beut("komlo");
         leut(Qt::Key_Return);
         QCOMPARE(d.mezo.currentText(), "komlo");
+        QCOMPARE(d.mezo.count(), nevek);  // nor is it put into the list
+        QCOMPARE(d.mezo.findText("komlo", Qt::MatchExactly | Qt::MatchCaseSensitive), -1);
     }
 
     void aListabolNyillalValasztott() {
@@ -310,8 +313,18 @@ private slots:
 
     void aSoroknakNincsAlsoSora() {
         HelysegModell modell;
+        QCOMPARE(modell.rowCount(), 0);
+        const QSignalSpy ujSorok(&modell, &QAbstractItemModel::rowsInserted);
         modell.noveles();
         QCOMPARE(modell.rowCount(), 3138);
+        modell.noveles();
+        QCOMPARE(ujSorok.size(), 2);
+        for (int n = 0; n < 2; ++n) {
+            QCOMPARE(ujSorok[n][1].toInt(), n * nevek);
+            QCOMPARE(ujSorok[n][2].toInt(), (n + 1) * nevek - 1);
+        }
+        QVERIFY(!modell.data({}, Qt::DisplayRole).isValid());
+        QVERIFY(!modell.data(modell.index(0), Qt::ToolTipRole).isValid());
         QCOMPARE(modell.rowCount(modell.index(0)), 0);
     }
 

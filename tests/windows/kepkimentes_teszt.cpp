@@ -79,6 +79,8 @@ private slots:
         QImage kep = QImage::fromData(png, "PNG");
         QCOMPARE(kep.size(), QSize(3 * 946, 3 * 650));
         QCOMPARE(kep.text("Title"), "Minta Anna, 1975.07.21. 06:04:09 ZN, Szeged");
+        QCOMPARE(kep.text("Software"), "Korvend");
+        QCOMPARE(kep.dotsPerMeterY(), kep.dotsPerMeterX());
         // In its natural size it is as large as on a screen of 96 dots an inch.
         QVERIFY(qAbs(kep.dotsPerMeterX() * 0.0254 - 3 * 96) < 1);
         const QImage kicsi = kep.scaled(946, 650, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)

@@ -188,21 +188,38 @@ private slots:
     }
 
     void aReszlegesFestesCsakAReszetFesti() {
+        const QRect resz(300, 200, 120, 80);  // whole pixels at each ratio
         TJaroAblakok a;
-        menu(a.form1, "Mundan1");
-        QVERIFY(a.allapot().TeljesTorles);
-        const QRect resz(300, 200, 120, 80);
-        QImage vart = a.felszin();
-        QPainter(&vart).fillRect(resz, Qt::white);
-        QVERIFY(vart != a.felszin());
-        a.felulet().update(resz);
-        QApplication::processEvents();
-        QCOMPARE(a.felszin(), vart);
-        // Without the flag the part comes back.
-        a.allapot().TeljesTorles = false;
-        a.felulet().update(resz);
-        QApplication::processEvents();
-        QCOMPARE(a.felszin(), a.tisztaRajz());
+        for (std::size_t i = 0; i < aranyok.size(); ++i) {
+            a.atvisz(i);
+            menu(a.form1, i % 2 == 0 ? "Mundan1" : "Dekad1");
+            QVERIFY(a.allapot().TeljesTorles);
+            QImage vart = a.felszin();
+            QCOMPARE(vart.devicePixelRatio(), aranyok[i]);
+            QPainter(&vart).fillRect(resz, Qt::white);
+            QVERIFY(vart != a.felszin());
+            a.felulet().update(resz);
+            QApplication::processEvents();
+            QCOMPARE(a.felszin(), vart);
+            // Without the flag the part comes back.
+            a.allapot().TeljesTorles = false;
+            a.felulet().update(resz);
+            QApplication::processEvents();
+            QCOMPARE(a.felszin(), a.tisztaRajz());
+        }
+    }
+
+    void azUjMeretuKepFeher() {
+        KepletFelulet felulet;
+        felulet.show();
+        for (const QSize& meret : {QSize(100, 80), QSize(300, 200), QSize(90, 250)}) {
+            felulet.resize(meret);
+            QApplication::processEvents();
+            QImage feher = felulet.kep().toImage();
+            QCOMPARE(feher.size(), meret);
+            feher.fill(Qt::white);
+            QCOMPARE(felulet.kep().toImage(), feher);
+        }
     }
 
     void aReszlegesUjrarajzolasAReszenUjAzonKivulRegi() {

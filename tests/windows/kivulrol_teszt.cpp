@@ -12,7 +12,6 @@
 
 namespace {
 
-
 /// Two charts in files, a window with the clock running.
 struct TKivulrol {
     TKivulrol() {
@@ -39,7 +38,10 @@ struct TKivulrol {
         mit.setUrls(cimek);
         QDragEnterEvent be({20, 20}, Qt::CopyAction | Qt::MoveAction, &mit, Qt::LeftButton, {});
         QApplication::sendEvent(&hova, &be);
-        if (!be.isAccepted()) return false;
+        QDragMoveEvent felett({40, 40}, Qt::CopyAction | Qt::MoveAction, &mit, Qt::LeftButton, {});
+        QApplication::sendEvent(&hova, &felett);
+        if (be.isAccepted() != felett.isAccepted()) qFatal("the drag is taken at its entry or nowhere");
+        if (!be.isAccepted() || elhagyja) return false;
         QDropEvent le({20, 20}, Qt::CopyAction | Qt::MoveAction, &mit, Qt::LeftButton, {});
         QApplication::sendEvent(&hova, &le);
         ejtesMuvelet = le.dropAction();
@@ -52,6 +54,7 @@ struct TKivulrol {
     TFrissAblakok a;
     TProbaParbeszed p;
     Qt::DropAction ejtesMuvelet = Qt::IgnoreAction;
+    bool elhagyja = false;  ///< the drag goes on without a drop
 };
 
 }  // namespace
@@ -78,6 +81,14 @@ private slots:
         }
         QVERIFY(k.p.uzenetek.isEmpty());
         QVERIFY(k.p.kerdesek.isEmpty());
+    }
+
+    void azAblakFelettElhuzottFajlNemNyilikMeg() {
+        TKivulrol k;
+        k.elhagyja = true;
+        QVERIFY(!k.ejt(k.ut("anna.kvh")));
+        QTest::qWait(tobbOrajel);
+        QCOMPARE(k.nev(), "Minta Anna");
     }
 
     void aJegyzetreEjtettFajlIsMegnyilik() {
@@ -151,8 +162,10 @@ private slots:
         QVERIFY(rossz.open(QIODevice::WriteOnly));
         rossz.write("nem képlet");
         rossz.close();
+        k.a.allapot().Modositott = true;
         QVERIFY(k.ejt(k.ut("rossz.kvh")));
         QTRY_COMPARE(k.p.uzenetek, QStringList{"File olvasási hiba!"});
+        QVERIFY(!k.a.allapot().Modositott);  // as the menu's opening does
     }
 
     void aMegnyitottEsAMentettALegutobbiakKoze() {

@@ -117,6 +117,9 @@ private slots:
                 QCOMPARE(sorok->item(0)->text(), "béla");
                 QCOMPARE(sorok->item(1)->text(), "anna");
                 QCOMPARE(sorok->item(1)->toolTip(), ut("a/anna.kvh"));
+                // The files have more room than the list beside them.
+                const auto* fajlok = vezerlo<QWidget>(d, "listView")->parentWidget();
+                QVERIFY2(fajlok->width() > 2 * sorok->width(), qPrintable(QString::number(sorok->width())));
                 const QPoint hely = sorok->visualItemRect(sorok->item(sor)).center();
                 QTest::mouseClick(sorok->viewport(), Qt::LeftButton, {}, hely);
                 QCOMPARE(vezerlo<QLineEdit>(d, "fileNameEdit")->text(), QFileInfo(fajl).fileName());

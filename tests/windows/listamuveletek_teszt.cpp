@@ -355,6 +355,25 @@ private slots:
         QCOMPARE(ki.p.uzenetek.size(), 1);
     }
 
+    void aNyomtatasAValasztottLapra() {
+        TFrissAblakok a;
+        TKimenet ki(a);
+        szuletes(a);
+        primerLista(a);
+        ki.p.nyomtatas = [&ki](QPrinter& nyomtato) {
+            nyomtato.setOutputFormat(QPrinter::PdfFormat);
+            nyomtato.setPageSize(QPageSize(QPageSize::A5));
+            nyomtato.setPageOrientation(QPageLayout::Landscape);
+            nyomtato.setOutputFileName(ki.p.fajl);
+        };
+        ki.ide("a5.pdf");
+        helyiMenuPont(*vezerlo<QPlainTextEdit>(a.form12, "Memo1")->viewport(), "Nyomtatás…");
+        const QString adatok = kimenet("pdfinfo", {ki.p.fajl}).simplified();
+        // 210 by 148 millimetres in points.
+        QVERIFY2(adatok.contains("Page size: 595 x 420 "), qPrintable(adatok));
+        QVERIFY2(adatok.contains("Creator: Korvend "), qPrintable(adatok));
+    }
+
     void aHosszuListaTobbLapra() {
         TFrissAblakok a;
         TKimenet ki(a);

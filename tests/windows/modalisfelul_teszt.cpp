@@ -120,9 +120,18 @@ private slots:
         const QRect hely = a.form1.screen()->availableGeometry();
         for (const QPoint& sarok : {hely.topLeft() - QPoint(900, 600), hely.bottomRight() - QPoint(40, 40)}) {
             a.form1.move(sarok);
+            const bool bal = sarok.x() < hely.left();
             for (const char* parancs : {"Kilepes1", "Orbisok1", "Szolar1"}) {
-                valasz([](QWidget& d) {
+                valasz([&](QWidget& d) {
                     QVERIFY2(kepernyon(d), qPrintable(d.objectName()));
+                    // No further in than it has to be; a message's first place is the toolkit's.
+                    const QRect keret = d.frameGeometry();
+                    if (qobject_cast<QMessageBox*>(&d) != nullptr)
+                        QVERIFY(d.isVisible());
+                    else if (bal)
+                        QCOMPARE(keret.topLeft(), hely.topLeft());
+                    else
+                        QCOMPARE(keret.bottomRight(), hely.bottomRight());
                     QTest::keyClick(&d, Qt::Key_Escape);
                 });
                 menu(a.form1, parancs);

@@ -69,6 +69,8 @@ private slots:
                 QCOMPARE(d.windowTitle(), "Megnyitás");
                 QCOMPARE(dynamic_cast<QFileDialog&>(d).directory().canonicalPath(), ut(""));
                 QCOMPARE(dynamic_cast<QFileDialog&>(d).nameFilters(), QStringList({kvhSzuro}));
+                QCOMPARE(dynamic_cast<QFileDialog&>(d).acceptMode(), QFileDialog::AcceptOpen);
+                QCOMPARE(dynamic_cast<QFileDialog&>(d).fileMode(), QFileDialog::ExistingFile);
                 fajlnevBeirasa(d, "alatta/a.kvh");
             });
             QCOMPARE(p_.megnyitando(nullptr, kvhSzuro), ut("alatta/a.kvh"));
@@ -150,6 +152,7 @@ private slots:
             QTest::keyClick(&d, Qt::Key_I, Qt::AltModifier);
         }));
         QVERIFY(!kerdez([](QWidget& d) { QTest::keyClick(&d, Qt::Key_N, Qt::AltModifier); }));
+        QVERIFY(kerdez([](QWidget& d) { QTest::keyClick(&d, Qt::Key_Return); }));
         for (const auto& zar : zarasok()) QVERIFY(!kerdez(zar));
     }
 
@@ -176,6 +179,8 @@ private slots:
                 QCOMPARE(doboz.text(), "<b>a</b>.pdf");
                 QCOMPARE(doboz.textFormat(), Qt::PlainText);
                 QCOMPARE(doboz.windowTitle(), "Korvend");
+                QCOMPARE(doboz.icon(), QMessageBox::Warning);
+                QCOMPARE(doboz.button(QMessageBox::Ok)->text(), "Rendben");
                 zar(doboz);
             });
             p_.uzenet(nullptr, "<b>a</b>.pdf");
@@ -190,8 +195,12 @@ private slots:
                 QCOMPARE(d.windowTitle(), "Nyomtatás");
                 QVERIFY(!d.findChildren<QLabel*>().isEmpty());
                 QCOMPARE(d.findChildren<QLabel*>().first()->text(), "Kérek egy megnevezést:");
+                const auto* gombok = d.findChild<QDialogButtonBox*>();
+                QCOMPARE(gombok->button(QDialogButtonBox::Ok)->text(), "Rendben");
+                QCOMPARE(gombok->button(QDialogButtonBox::Cancel)->text(), "Mégsem");
                 auto* mezo = d.findChild<QLineEdit*>();
                 QCOMPARE(mezo->text(), "");
+                QCOMPARE(mezo->echoMode(), QLineEdit::Normal);
                 QTest::keyClicks(mezo, "Anna");
                 QTest::keyClick(mezo, Qt::Key_Return);
             });

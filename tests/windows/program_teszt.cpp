@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTemporaryDir>
 
 #include "aktivvalasz.h"
@@ -77,6 +78,13 @@ TTeendo tudomasul(const QString& szoveg) {
     };
 }
 
+/// The main window as it was when it was closed.
+struct TLatott {
+    QSize meret, elerheto;
+    bool ikon = false;
+};
+TLatott latott;
+
 /// Closes the main window as soon as it is there.
 void bezar() {
     for (QWidget* ablak : QApplication::topLevelWidgets()) {
@@ -84,6 +92,7 @@ void bezar() {
         valasz([](QWidget& d) {
             QTest::mouseClick(dynamic_cast<QMessageBox&>(d).button(QMessageBox::Yes), Qt::LeftButton);
         });
+        latott = {ablak->size(), ablak->screen()->availableSize(), !ablak->windowIcon().isNull()};
         ablak->close();
         return;
     }
@@ -215,6 +224,16 @@ private slots:
                                          QStringList{"/nincs/ilyen.kvh"}, QStringList{mappa_->path()}})
             QCOMPARE(ProgramFutas(QStringList{"korvend"} + rossz), 2);
         for (const char* jo : {"--help", "--version"}) QCOMPARE(ProgramFutas({"korvend", jo}), 0);
+    }
+
+    /// The desktop finds the program's own file by its name.
+    void azAblakElferAKepernyonEsIkonjaVan() {
+        taroltJelszo("");
+        QCOMPARE(futas(rendes), 0);
+        QVERIFY(latott.ikon);
+        QVERIFY(latott.meret.width() < latott.elerheto.width());
+        QVERIFY(latott.meret.height() < latott.elerheto.height());
+        QCOMPARE(QGuiApplication::desktopFileName(), "korvend");
     }
 
     void aParancssorFajljaMegnyilik() {

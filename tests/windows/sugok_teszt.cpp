@@ -135,6 +135,12 @@ private slots:
         cimke(2)->setText("l");
         QCOMPARE(olvasott(cimke(2)), "Halak");
         QCOMPARE(olvasott(cimke(43)), "11");
+        // A house is its number, though the same letter may be a symbol.
+        QCOMPARE(olvasott(cimke(31)), "I");
+        QCOMPARE(olvasott(cimke(34)), "2");
+        QCOMPARE(olvasott(cimke(40)), "X");
+        cimke(2)->setText("12");
+        QCOMPARE(olvasott(cimke(2)), "12");
         QCOMPARE(olvasott(cimke(3)), cimke(3)->text());
         auto* talalatok = vezerlo<QLabel>(a.form3, "Tercier_Direkcio2");
         QFont betu = talalatok->font();
@@ -142,6 +148,19 @@ private slots:
         talalatok->setFont(betu);
         talalatok->setText("ACR");
         QCOMPARE(olvasott(talalatok), "Nap Merkúr 90°");
+    }
+
+    /// Only the name is read for the symbols, and a name that was given goes before them.
+    void aSzimbolumokCsakNevNelkulEsCsakNevkentSzolnak() {
+        TFrissAblakok a;
+        a.form1.show();
+        auto* nap = vezerlo<QLabel>(a.form1, "Label1");
+        QCOMPARE(olvasott(nap), "Nap");
+        const QAccessibleInterface* felulet = QAccessible::queryAccessibleInterface(nap);
+        QVERIFY(!felulet->text(QAccessible::Description).contains("Nap"));
+        QVERIFY(!felulet->text(QAccessible::Accelerator).contains("Nap"));
+        nap->setAccessibleName("Központi égitest");
+        QCOMPARE(olvasott(nap), "Központi égitest");
     }
 
     void azAblakokNelkulNincsTobbSugo() {

@@ -201,6 +201,84 @@ private slots:
         QVERIFY(a.parbeszed.kerdesek.isEmpty());
     }
 
+    void aKijeloltEsemenyMindenMezojeVisszajon() {
+        const std::pair<const char*, int> szamok[]{
+            {"SpinEditEv1", 1993},     {"SpinEditHo1", 11},        {"SpinEditNap1", 27},
+            {"SpinEditOra1", 17},      {"SpinEditPerc1", 43},      {"SpinEditMperc1", 58},
+            {"SpinEditIdozona1", 3},   {"SpinEditNyariidosz1", 1}, {"SpinEditHosszFok1", 25},
+            {"SpinEditHosszPerc1", 7}, {"SpinEditSzelFok1", 44},   {"SpinEditSzelPerc1", 36}};
+        TKetEsemeny a;
+        a.szerkeszt([&szamok](QWidget& d) {
+            gepel(d, "Edit_Eletesemenyek1", "harmadik");
+            gepel(d, "Edit_Hazanalogiak1", "5,7");
+            gepel(d, "ComboBoxHelyseg1", "Messze");
+            for (const auto& [nev, szam] : szamok) gepel(d, nev, qPrintable(QString::number(szam)));
+            kattint(d, "Button_Rendben1");
+            const QString solarNap = cimke(d, "LabelSolarNap1");
+            QVERIFY(!solarNap.isEmpty());
+            QTest::mouseClick(vezerlo<QLabel>(d, "LEletes_1_1"), Qt::LeftButton);
+            for (const auto& [nev, szam] : szamok) {
+                if (nev != QStringLiteral("SpinEditNyariidosz1")) QVERIFY2(ertek(d, nev) != szam, nev);
+            }
+            QTest::mouseClick(vezerlo<QLabel>(d, "LEletes_3_1"), Qt::LeftButton);
+            QCOMPARE(sor(d, "Edit_Eletesemenyek1"), "harmadik");
+            QCOMPARE(sor(d, "Edit_Hazanalogiak1"), "5,VII");
+            QCOMPARE(helyseg(d), "Messze");
+            for (const auto& [nev, szam] : szamok) QVERIFY2(ertek(d, nev) == szam, nev);
+            QCOMPARE(cimke(d, "LabelSolarNap1"), solarNap);
+            kattint(d, "Button_Megsem2");
+        });
+    }
+
+    void aHelyAzIdozonajatEsAKoordinataitIsHozza() {
+        TKetEsemeny a;
+        a.szerkeszt([](QWidget& d) {
+            for (const char* nev : {"SpinEditIdozona1", "SpinEditHosszFok1", "SpinEditHosszPerc1",
+                                    "SpinEditSzelFok1", "SpinEditSzelPerc1"})
+                gepel(d, nev, "5");
+            gepel(d, "ComboBoxHelyseg1", "Győr");
+            QCOMPARE(ertek(d, "SpinEditIdozona1"), 1);
+            QCOMPARE(ertek(d, "SpinEditHosszFok1"), 17);  // 63478" is 17°37'
+            QCOMPARE(ertek(d, "SpinEditHosszPerc1"), 37);
+            QCOMPARE(ertek(d, "SpinEditSzelFok1"), 47);  // 171676" is 47°41'
+            QCOMPARE(ertek(d, "SpinEditSzelPerc1"), 41);
+            kattint(d, "Button_Megsem2");
+        });
+    }
+
+    /// What is not taken stays in the fields.
+    void aSzovegNelkuliEsATeliListaraJovoEsemenyMegmarad() {
+        TKetEsemeny a;
+        a.szerkeszt([&a](QWidget& d) {
+            gepel(d, "Edit_Hazanalogiak1", "4,5");
+            kattint(d, "Button_Rendben1");
+            QCOMPARE(a.esemenyek(), 2);
+            QCOMPARE(sor(d, "Edit_Hazanalogiak1"), "4,5");
+            QCOMPARE(cimke(d, "LabelSolarNap1"), "");
+            for (int n = 3; n <= esemenyHelyek; ++n) esemenyGepelese(d, "sok", "1", "2001");
+            QCOMPARE(a.esemenyek(), esemenyHelyek);
+            gepel(d, "Edit_Eletesemenyek1", "még egy");
+            gepel(d, "Edit_Hazanalogiak1", "6");
+            kattint(d, "Button_Rendben1");
+            QCOMPARE(a.esemenyek(), esemenyHelyek);
+            QCOMPARE(sor(d, "Edit_Eletesemenyek1"), "még egy");
+            QCOMPARE(sor(d, "Edit_Hazanalogiak1"), "6");
+            kattint(d, "Button_Megsem2");
+        });
+    }
+
+    /// Names are shown as they were typed, whatever signs are in them.
+    void azEsemenySzovegeNemJelolonyelv() {
+        TKetEsemeny a;
+        a.szerkeszt([](QWidget& d) {
+            esemenyGepelese(d, "<b>x</b>", "1", "2001");
+            const auto* felirat = vezerlo<QLabel>(d, "LEletes_3_2");
+            QCOMPARE(felirat->text(), "<b>x</b>");
+            QVERIFY(felirat->sizeHint().width() >= felirat->fontMetrics().horizontalAdvance("<b>x</b>"));
+            kattint(d, "Button_Megsem2");
+        });
+    }
+
     void aKijeloltSorLatszik() {
         TKetEsemeny a;
         a.szerkeszt([](QWidget& d) {

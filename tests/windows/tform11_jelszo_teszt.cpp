@@ -59,6 +59,9 @@ private slots:
             QCOMPARE(d.windowTitle(), "Kérem a jelszót!");
             QCOMPARE(vezerlo<QLineEdit>(d, "Edit1")->echoMode(), QLineEdit::Password);
             QCOMPARE(vezerlo<QLineEdit>(d, "Edit1")->maxLength(), 15);
+            // All of its signs are seen.
+            QVERIFY(vezerlo<QLineEdit>(d, "Edit1")->width() >
+                    vezerlo<QLineEdit>(d, "Edit1")->fontMetrics().horizontalAdvance(QString(15, u'●')));
             gepel(d, "Edit1", "tizenotbetusje");
             QVERIFY(d.isVisible());
             gepel(d, "Edit1", "");

@@ -59,7 +59,7 @@ private slots:
         };
         const QString datum = "2000.01.01.   ";
         const auto* solarNap = vezerlo<QLabel>(a.form12, "Label8");
-        QVERIFY(qAbs(solarNap->geometry().center().x() - helye(datum)) <= 3);
+        QVERIFY(qAbs(solarNap->geometry().center().x() - helye(datum)) <= 1);
         QVERIFY(solarNap->geometry().bottom() < memo->y());
         const std::pair<const char*, int> oszlopok[]{{"dMC:", 5}, {"cMC:", 20}, {"dAsc:", 32}, {"cAsc:", 46}};
         for (const auto& [fej, behuzas] : oszlopok) {
@@ -67,7 +67,7 @@ private slots:
             for (const auto* l : a.form12.findChildren<QLabel*>())
                 if (l->text() == fej) felirat = l;
             QVERIFY2(felirat != nullptr, fej);
-            QVERIFY2(qAbs(felirat->x() - helye(datum + "w" + QString(behuzas, u' '))) <= 3, fej);
+            QVERIFY2(qAbs(felirat->x() - helye(datum + "w" + QString(behuzas, u' '))) <= 1, fej);
             QVERIFY2(felirat->geometry().bottom() < memo->y(), fej);
         }
     }

@@ -1,5 +1,7 @@
 // The main window from start-up through clock and surface, driven with mouse and menu.
 
+#include <QStatusBar>
+
 #include "ablakteszt.h"
 #include "tables/szotar.h"
 #include "windows/datumformatum.h"
@@ -83,6 +85,60 @@ private slots:
         QCOMPARE(memo->geometry(), QRect(0, 144, 49, 737));
         QTest::mouseClick(memo->viewport(), Qt::LeftButton);
         QCOMPARE(memo->geometry(), QRect(0, 600, 49, 281));
+    }
+
+    /// The keys are the window's own until the note is clicked.
+    void aJegyzetbeCsakKattintasVisz() {
+        TFrissAblakok a;
+        QVERIFY(QTest::qWaitForWindowActive(&a.form1));
+        auto* memo = vezerlo<QPlainTextEdit>(a.form1, "Memo1");
+        QVERIFY(!memo->hasFocus());
+        for (const Qt::Key k : {Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Tab}) {
+            QTest::keyClick(a.form1.windowHandle(), k);
+            QVERIFY(!memo->hasFocus());
+        }
+        QTest::mouseClick(memo->viewport(), Qt::LeftButton);
+        QVERIFY(memo->hasFocus());
+    }
+
+    /// The wheel's white does not come through between the panel's rows.
+    void aPanelnekSajatHattereVan() {
+        TFrissAblakok a;
+        const auto* panel1 = vezerlo<QFrame>(a.form1, "Panel1");
+        const QImage kep = a.form1.grab().toImage();
+        const auto szin = [&](const QPoint& hely) {
+            const QPoint itt = panel1->mapTo(&a.form1, hely) * kep.devicePixelRatio();
+            return kep.pixelColor(itt);
+        };
+        QCOMPARE(szin({2, 145}), panel1->palette().color(QPalette::Window));  // between buttons and rows
+        QCOMPARE(szin({panel1->width() + 3, 3}), QColor(Qt::white));
+    }
+
+    void azAllapotsorPaneljeiSullyesztettek() {
+        TFrissAblakok a;
+        const auto* sav = vezerlo<QStatusBar>(a.form1, "StatusBar1");
+        QVERIFY(!sav->isSizeGripEnabled());  // it would lie on the last panel
+        for (int i = 0; i < 7; ++i) {
+            const auto* mezo =
+                vezerlo<QLabel>(a.form1, qPrintable(QStringLiteral("StatusBar1Panel%1").arg(i)));
+            QCOMPARE(mezo->frameShape(), QFrame::Panel);
+            QCOMPARE(mezo->frameShadow(), QFrame::Sunken);
+            QCOMPARE(mezo->font().family(), "Ariel");
+            QCOMPARE(mezo->font().pixelSize(), sav->font().pixelSize());
+        }
+        // The letters of a full moment fit in the panel of its width.
+        const auto* mikor = vezerlo<QLabel>(a.form1, "StatusBar1Panel3");
+        QVERIFY(mikor->fontMetrics().horizontalAdvance("1975.07.21. 06:04:09 GMT") < 135);
+    }
+
+    void aNevNemJelolonyelvAzAllapotsorban() {
+        TFrissAblakok a;
+        a.allapot().MostFut = false;
+        a.allapot().Feliratok.statusz[2] = "<b>x</b>";
+        a.form1.Mutat();
+        const auto* nev = vezerlo<QLabel>(a.form1, "StatusBar1Panel2");
+        QCOMPARE(nev->text(), "<b>x</b>");
+        QVERIFY(nev->sizeHint().width() >= nev->fontMetrics().horizontalAdvance("<b>x</b>"));
     }
 
     void aJegyzetProgrambolValoValtozasaIsHelyetValt() {

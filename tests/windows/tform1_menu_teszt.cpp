@@ -182,6 +182,19 @@ private slots:
         }
     }
 
+    /// Also on a desktop whose context menus show no keys.
+    void aKerekMenujeMutatjaABillentyuit() {
+        QCoreApplication::setAttribute(Qt::AA_DontShowShortcutsInContextMenus);
+        TFrissAblakok a;
+        for (const auto& [nev, billentyu] :
+             {std::pair("KepMasolas1", "Ctrl+C"), std::pair("AdatMasolas1", "Ctrl+Shift+C")}) {
+            const auto* pont = vezerlo<QAction>(a.form1, nev);
+            QCOMPARE(pont->shortcut(), QKeySequence(billentyu));
+            QVERIFY2(pont->isShortcutVisibleInContextMenu(), nev);
+        }
+        QCoreApplication::setAttribute(Qt::AA_DontShowShortcutsInContextMenus, false);
+    }
+
     void aKezikonyvAProgramMellol() {
         TFrissAblakok a;
         TProbaParbeszed parbeszed;

@@ -372,6 +372,7 @@ private slots:
             const QString adatok = kimenet("pdfinfo", {ny.ut("lap.pdf")}).simplified();
             QVERIFY2(adatok.contains("Pages: 1 "), qPrintable(adatok));
             QVERIFY2(adatok.contains("Title: Születési képlet "), qPrintable(adatok));
+            QVERIFY2(adatok.contains("Creator: Korvend "), qPrintable(adatok));
             const bool allo = irany == QPageLayout::Portrait;
             QVERIFY2(adatok.contains(allo ? "Page size: 595 x 842" : "Page size: 842 x 595"),
                      qPrintable(adatok));
@@ -498,6 +499,41 @@ private slots:
         menu(a.form1, "Nyomtat1");
         QCOMPARE(p.beallitasok, 1);
         QVERIFY(p.kerdesek.isEmpty());
+    }
+
+    void aMeglevoNyomtatohozNemKellBeallitas() {
+        struct TVanNyomtato : TProbaParbeszed {
+            bool vanNyomtato() override { return true; }
+        };
+        TFrissAblakok a;
+        TVanNyomtato p;
+        a.form1.parbeszedBeallitasa(p);
+        menu(a.form1, "Nyomtat1");
+        QCOMPARE(p.beallitasok, 0);
+        QCOMPARE(p.kerdesek, QStringList({"Nyomtatás", "Kérek egy megnevezést:"}));
+    }
+
+    /// The mode lasts as long as the command, its questions too.
+    void aNyomtatasModbanKerdez() {
+        TNyomtatas ny;
+        bool modban = false;
+        ny.p.nyomtatas = [&](QPrinter&) { modban = ny.a.allapot().Rajz.nyomtatasMod; };
+        ny.p.beirt.clear();
+        QVERIFY(!ny.a.allapot().Rajz.nyomtatasMod);
+        menu(ny.a.form1, "Nyomtat1");
+        QVERIFY(modban);
+        QVERIFY(!ny.a.allapot().Rajz.nyomtatasMod);
+    }
+
+    void azEgyszerElfogadottBeallitasNemVeszEl() {
+        TNyomtatas ny;
+        menu(ny.a.form1, "Nyomtato_beallitas1");
+        ny.p.nyomtatas = nullptr;  // looked at again, and left
+        menu(ny.a.form1, "Nyomtato_beallitas1");
+        QCOMPARE(ny.p.beallitasok, 2);
+        ny.nyomtat(ny.ut("lap.pdf"));
+        QCOMPARE(ny.p.beallitasok, 2);
+        QCOMPARE(ny.fajlok(), QStringList({"lap.pdf"}));
     }
 
     void aBeallitasMegallitjaAzOrat() {

@@ -270,6 +270,50 @@ private slots:
         menu(a.form1, "Szemely_adatok1");
     }
 
+    void mindenMezoVisszajonAhogyBeirtak() {
+        const std::pair<const char*, int> szamok[]{
+            {"SpinEditEv1", 1963},     {"SpinEditHo1", 11},        {"SpinEditNap1", 27},
+            {"SpinEditOra1", 17},      {"SpinEditPerc1", 43},      {"SpinEditMperc1", 58},
+            {"SpinEditIdozona1", 3},   {"SpinEditNyariidosz1", 1}, {"SpinEditHosszFok1", 25},
+            {"SpinEditHosszPerc1", 7}, {"SpinEditSzelFok1", 44},   {"SpinEditSzelPerc1", 36}};
+        TFrissAblakok a;
+        valasz([&szamok](QWidget& d) {
+            gepel(d, "EditNev1", "Kiss Ödön");
+            gepel(d, "ComboBoxHelyseg1", "Kolozsvár mellett");
+            for (const auto& [nev, ertek] : szamok) gepel(d, nev, qPrintable(QString::number(ertek)));
+            gepel(d, "Memo_Jegyzet1", "két szó");
+            kattint(d, "Button_Rendben1");
+        });
+        menu(a.form1, "Uj1");
+        for (const bool maskent : {false, true}) {
+            valasz([&](QWidget& d) {
+                QCOMPARE(vezerlo<QLineEdit>(d, "EditNev1")->text(), "Kiss Ödön");
+                QCOMPARE(vezerlo<QComboBox>(d, "ComboBoxHelyseg1")->currentText(), "Kolozsvár mellett");
+                QCOMPARE(vezerlo<QPlainTextEdit>(d, "Memo_Jegyzet1")->toPlainText(), "két szó");
+                for (const auto& [nev, vart] : szamok) {
+                    QVERIFY2(ertek(d, nev) == vart, nev);
+                    // What is left in the fields by "Mégsem" does not come back.
+                    if (!maskent) vezerlo<QSpinBox>(d, nev)->setValue(vart == 1 ? 0 : vart - 1);
+                }
+                vezerlo<QLineEdit>(d, "EditNev1")->setText("Más");
+                vezerlo<QPlainTextEdit>(d, "Memo_Jegyzet1")->setPlainText("más");
+                kattint(d, "Button_Megsem1");
+            });
+            menu(a.form1, "Szemely_adatok1");
+        }
+    }
+
+    void aHelysegAzIdozonajatIsHozza() {
+        TFrissAblakok a;
+        valasz([](QWidget& d) {
+            gepel(d, "SpinEditIdozona1", "5");
+            gepel(d, "ComboBoxHelyseg1", "Pécs");
+            QCOMPARE(ertek(d, "SpinEditIdozona1"), 1);
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Uj1");
+    }
+
     void aKilepoBillentyuMegsem() {
         TFrissAblakok a;
         a.allapot().Megsem2 = false;
@@ -497,6 +541,20 @@ private slots:
         QCOMPARE(panel(a.form1, 2), "Minta Anna ");
         QCOMPARE(panel(a.form1, 3), "1975.03.21. 06:04:09 ZN");
         QCOMPARE(panel(a.form1, 4), "Szeged ");
+    }
+
+    void aTabulatorAJegyzetbolIsTovabbvisz() {
+        TFrissAblakok a;
+        valasz([](QWidget& d) {
+            auto* jegyzet = vezerlo<QPlainTextEdit>(d, "Memo_Jegyzet1");
+            jegyzet->setFocus();
+            beut("egy");
+            leut(Qt::Key_Tab);
+            QVERIFY(!jegyzet->hasFocus());
+            QCOMPARE(jegyzet->toPlainText(), "egy");
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Uj1");
     }
 
     void azOraADialogusAlattIsJar() {

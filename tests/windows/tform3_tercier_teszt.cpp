@@ -2,8 +2,8 @@
 
 #include <QListWidget>
 
-#include "ablakteszt.h"
 #include "commands/lepteto.h"
+#include "kezteszt.h"
 
 class TForm3Teszt : public QObject {
     Q_OBJECT
@@ -233,6 +233,80 @@ private slots:
         const QImage utana = a.form1.findChild<KepletFelulet*>("Felulet")->kep().toImage();
         QVERIFY(elobb.copy(55, 7, 300, 24) != utana.copy(55, 7, 300, 24));
         QCOMPARE(panel(a.form1, 0), "Radix");
+    }
+
+    /// The dialog opens over the wheel, also from a view whose window was to be left empty.
+    void aParbeszedMogottAKerekAll() {
+        TFrissAblakok a;
+        szuletes(a);
+        for (const char* parancs : {"Tercier1", "Szolaringresszio11"}) {
+            menu(a.form1, "Mundan1");
+            QVERIFY(a.allapot().TeljesTorles);
+            valasz([&a](QWidget& d) {
+                const auto* felulet = a.form1.findChild<KepletFelulet*>("Felulet");
+                QVERIFY(fekete(felulet->kep().toImage()) > 100);
+                kattint(d, "Button_Megsem1");
+            });
+            menu(a.form1, parancs);
+        }
+    }
+
+    void aMegsemNemIrAFeluletre() {
+        TFrissAblakok a;
+        szuletes(a);
+        const QImage elobb = a.form1.findChild<KepletFelulet*>("Felulet")->kep().toImage();
+        for (const char* parancs : {"Tercier1", "Szolaringresszio11"}) {
+            valasz([](QWidget& d) { kattint(d, "Button_Megsem1"); });
+            menu(a.form1, parancs);
+            QCOMPARE(a.form1.findChild<KepletFelulet*>("Felulet")->kep().toImage(), elobb);
+        }
+    }
+
+    void aMegsemUtanAzElfogadottDatumJonVissza() {
+        TFrissAblakok a;
+        szuletes(a);
+        valasz([](QWidget& d) {
+            gepel(d, "SpinEditEv1", "2001");
+            gepel(d, "SpinEditHo1", "4");
+            gepel(d, "SpinEditNap1", "5");
+            kattint(d, "Button_Rendben1");
+        });
+        menu(a.form1, "Tercier1");
+        valasz([](QWidget& d) {
+            gepel(d, "SpinEditEv1", "1995");
+            gepel(d, "SpinEditHo1", "11");
+            gepel(d, "SpinEditNap1", "23");
+            gepel(d, "SpinEditOrbis1", "7");
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Tercier1");
+        valasz([](QWidget& d) {
+            QCOMPARE(ertek(d, "SpinEditEv1"), 2001);
+            QCOMPARE(ertek(d, "SpinEditHo1"), 4);
+            QCOMPARE(ertek(d, "SpinEditNap1"), 5);
+            QCOMPARE(ertek(d, "SpinEditOrbis1"), 45);
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Tercier1");
+    }
+
+    /// Its text is copied from there, so that it shows where the keys go.
+    void aTalalatokAFokusztMegmutatjak() {
+        TFrissAblakok a;
+        szuletes(a);
+        valasz([](QWidget& d) {
+            fokuszig(d);
+            auto* jelek = vezerlo<QLabel>(d, "Tercier_Direkcio2");
+            QVERIFY(!jelek->hasFocus());
+            const QImage nelkule = jelek->grab().toImage();
+            for (int n = 0; n < 10 && !jelek->hasFocus(); ++n) leut(Qt::Key_Tab);
+            QVERIFY(jelek->hasFocus());
+            QVERIFY(jelek->grab().toImage() != nelkule);
+            leut(Qt::Key_Tab);
+            QCOMPARE(jelek->grab().toImage(), nelkule);
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Tercier1");
     }
 
     void azIngresszioOrbisaAzAblakonKivul() {

@@ -137,6 +137,8 @@ private slots:
         menu(a.form1, "Megnyitas1");
         QVERIFY(a.form5.isVisible());
         QCOMPARE(a.form5.size(), QSize(208, 30));
+        // Halfway across the main window, 30 pixels under its top.
+        QCOMPARE(a.form5.pos(), QPoint(a.form1.x() + a.form1.width() / 2 - 208 / 2, a.form1.y() + 30));
         QVERIFY(a.allapot().HangAktiv);
         QCOMPARE(a.allapot().HangCim, std::string("Szép hang   "));
         a.orajelek(1);

@@ -1,4 +1,4 @@
-#include "ablakteszt.h"
+#include "kezteszt.h"
 
 namespace {
 
@@ -98,6 +98,40 @@ private slots:
             QCOMPARE(negy->text(), "15.5");
             QVERIFY(negy->font().stretch() < 100);
             QVERIFY(negy->fontMetrics().horizontalAdvance("15.5") <= negy->width());
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Orbisok1");
+    }
+
+    /// A cell narrowed for a long value is as wide as the others again with the next one.
+    void aSzukitettBetuVisszaallitaskorRendes() {
+        TFrissAblakok a;
+        valasz([](QWidget& d) {
+            for (const char* gomb : {"Button_vissza3", "Button_vissza4"}) {
+                kattint(d, "BOrbis_3_1");
+                QCOMPARE(cella(d, 3, 1)->text(), "15.5");
+                QVERIFY(cella(d, 3, 1)->font().stretch() < 100);
+                kattint(d, gomb);
+                QCOMPARE(cella(d, 3, 1)->text(), "15");
+                QCOMPARE(cella(d, 3, 1)->font().stretch(), cella(d, 4, 1)->font().stretch());
+            }
+            kattint(d, "BOrbis_3_1");
+            kattint(d, "BOrbis_3_1");
+            QCOMPARE(cella(d, 3, 1)->text(), "16");
+            QCOMPARE(cella(d, 3, 1)->font().stretch(), cella(d, 4, 1)->font().stretch());
+            kattint(d, "Button_Megsem1");
+        });
+        menu(a.form1, "Orbisok1");
+    }
+
+    void aKattintottCellaElengediAFokuszt() {
+        TFrissAblakok a;
+        valasz([](QWidget& d) {
+            fokuszig(d);
+            cella(d, 4, 4)->setFocus();
+            QVERIFY(cella(d, 4, 4)->hasFocus());
+            kattint(d, "BOrbis_4_4");
+            QVERIFY(!cella(d, 4, 4)->hasFocus());
             kattint(d, "Button_Megsem1");
         });
         menu(a.form1, "Orbisok1");

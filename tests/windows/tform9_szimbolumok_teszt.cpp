@@ -1,3 +1,7 @@
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
 #include "ablakteszt.h"
 
 class TForm9Teszt : public QObject {
@@ -18,6 +22,27 @@ private slots:
         QCOMPARE(a.allapot().Rajz.szimbolumFont, std::string("Valami"));
         QCOMPARE(vezerlo<QLabel>(a.form1, "Label1")->font().family(), "Valami");
     }
+
+#ifndef Q_OS_WIN
+    void aTobbMappabanMeglevoBetuEgyszerSzerepel() {
+        const QTemporaryDir adatok;
+        const QByteArray regi = qgetenv("XDG_DATA_HOME");
+        qputenv("XDG_DATA_HOME", adatok.path().toUtf8());
+        QVERIFY(QDir(adatok.path()).mkdir("fonts"));
+        for (const char* nev : {"Astro Symbols.ttf", "Astro Próba.ttf", "Más.ttf", "Astro.txt"}) {
+            QFile ki(adatok.filePath(QStringLiteral("fonts/") + nev));
+            QVERIFY(ki.open(QIODevice::WriteOnly));
+        }
+        const QStringList nevek = szimbolumFontok();
+        if (regi.isNull())
+            qunsetenv("XDG_DATA_HOME");
+        else
+            qputenv("XDG_DATA_HOME", regi);
+        QCOMPARE(nevek.count("Astro Symbols"), 1);
+        QCOMPARE(nevek.count("Astro Próba"), 1);
+        for (const QString& nev : nevek) QVERIFY2(nev.startsWith("Astro "), qPrintable(nev));
+    }
+#endif
 
     void uresenVagyMegsemmelMarad() {
         TFrissAblakok a;

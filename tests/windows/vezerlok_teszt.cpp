@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "kezteszt.h"
+#include "windows/mezojeloles.h"
 #include "windows/vezerlok.h"
 
 namespace {
@@ -17,6 +18,7 @@ struct TProbaDialogus : QDialog {
         sor->addWidget(ujSzamMezo(this, "Ev", 1900, 2068));
         sor->addWidget(ujSzamMezo(this, "Nap", 1, 31));
         sor->addWidget(ujSzamMezo(this, "Fok", -180, 180));
+        sor->addWidget(ujSzamMezo(this, "Perc", 0, 59));
         hosszKorlat(*ujSzovegMezo(this, "Nev"), rovidSzovegHossz);
         sor->addWidget(vezerlo<QLineEdit>(*this, "Nev"));
         auto* jegyzet = new QPlainTextEdit(this);
@@ -177,6 +179,17 @@ private slots:
         QCOMPARE(d.szam("Nap").text(), "7");
         d.beir("Fok", "1-2");
         QCOMPARE(d.szam("Fok").text(), "12");
+        leut(Qt::Key_Home);
+        beut("a");
+        QCOMPARE(d.szam("Fok").text(), "12");
+        d.beir("Perc", "-5");  // nothing is below its least, 0
+        QCOMPARE(d.szam("Perc").text(), "5");
+        leut(Qt::Key_A, Qt::ControlModifier);
+        leut(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(d.szam("Perc").text(), "5");
+        leut(Qt::Key_Home);
+        beut("-");
+        QCOMPARE(d.szam("Perc").text(), "5");
     }
 
     void azUresreTorlottMezoARegiSzamotAdja() {
@@ -222,6 +235,40 @@ private slots:
         leut(Qt::Key_Backspace);
         beut("x");
         QCOMPARE(jegyzet->toPlainText(), QString(100, u'a') + "0123x" + QString(150, u'b'));
+    }
+
+    void aJelolesOkaValtozhatEsASajatSugoVisszajon() {
+        TProbaDialogus d;
+        QSpinBox& mezo = d.szam("Nap");
+        mezo.setToolTip("saját");
+        const auto szin = [&mezo] { return mezo.findChild<QLineEdit*>()->palette().color(QPalette::Text); };
+        const QColor rendes = szin();
+        mezoJeloles(mezo, "");
+        QCOMPARE(mezo.toolTip(), "saját");
+        for (int kor = 0; kor < 2; ++kor) {
+            for (const char* miert : {"egyik ok", "másik ok"}) {
+                mezoJeloles(mezo, miert);
+                QCOMPARE(mezo.toolTip(), miert);
+                QVERIFY(szin() != rendes);
+            }
+            mezoJeloles(mezo, "");
+            QCOMPARE(mezo.toolTip(), "saját");
+            QCOMPARE(szin(), rendes);
+            mezo.setToolTip("új");  // of a field that is not marked the tooltip is its owner's
+            mezoJeloles(mezo, "");
+            QCOMPARE(mezo.toolTip(), "új");
+            mezo.setToolTip("saját");
+        }
+    }
+
+    void kilencJegynelTobbNemIrhato() {
+        TProbaDialogus d;
+        d.beir("Fok", "1234567890");
+        QCOMPARE(d.szam("Fok").text(), "123456789");
+        d.beir("Fok", "-1234567890");
+        QCOMPARE(d.szam("Fok").text(), "-123456789");
+        leut(Qt::Key_Return);
+        QCOMPARE(d.szam("Fok").value(), -180);
     }
 
     void aKettosKarakterNemSzakadSzet() {

@@ -137,4 +137,10 @@ TEST(Rendezett, ATavoliErtekSemPorgetiAVegtelenbe) {
     EXPECT_LT(std::abs(hely(r, 'A')), 4000);
 }
 
+/// By whole turns: 7205 degrees are 20 turns and 5 degrees.
+TEST(Rendezett, ATavoliErtekEgeszKorokkelJonVissza) {
+    EXPECT_DOUBLE_EQ(hely(szetterit({7205}), 'A'), 5);
+    EXPECT_DOUBLE_EQ(hely(szetterit({7285, 77}), 'A'), 85);
+}
+
 }  // namespace

@@ -35,6 +35,13 @@ TEST(Hazak, RacspontonATablaCellaja) {
     EXPECT_DOUBLE_EQ(csucsok(0, 4, 0, fok(42))[1], 6631 / 60.0);
 }
 
+TEST(Hazak, AzEgeszFokElottiMasodpercMegAzAlsoSavbanAll) {
+    for (int f = 43; f <= 60; ++f)
+        EXPECT_NEAR(csucsok(0, 0, 0, fok(f) - 1)[1], (cella(f - 1, 0, 0) + 3599 * cella(f, 0, 0)) / 3600,
+                    1e-9)
+            << f;
+}
+
 TEST(Hazak, EgyFokRamcNegyPercCsillagido) {
     // Two minutes past the grid: half way between the rows 0 and 1.
     const THazcsucsok h = csucsok(0, 2, 0, fok(42));

@@ -1,5 +1,6 @@
 #include "windows/korkeszlet.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <map>
 #include <optional>
@@ -24,8 +25,12 @@ constexpr std::size_t legtobbKor = 200;
 
 using TKulcs = std::tuple<int, int, int, Qt::PenStyle, bool>;
 
+/// Requests from which on a circle is kept: one drawing of the wheel asks for some circles twice.
+constexpr int megmarad = 3;
+
 struct TKor {
-    std::optional<std::vector<TKorDarab>> darabok;  ///< made at the second request
+    std::optional<std::vector<TKorDarab>> darabok;
+    int keresek = 1;
     bool nagy = false;
 };
 
@@ -110,7 +115,8 @@ const std::vector<TKorDarab>* korDarabok(const QSize& meret, const QPen& toll, b
         return nullptr;
     }
     TKor& kor = ismert->second;
-    if (!kor.darabok && !kor.nagy) {
+    kor.keresek = std::min(kor.keresek + 1, megmarad);
+    if (kor.keresek == megmarad && !kor.darabok && !kor.nagy) {
         std::vector<TKorDarab> uj = darabok(meret, toll, feher);
         kor.nagy = pixelek(uj) > legnagyobbKor;
         if (!kor.nagy) {

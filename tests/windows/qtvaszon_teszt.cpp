@@ -453,7 +453,7 @@ private slots:
         }
     }
 
-    /// A circle that comes back is copied from the parts that the second drawing has kept; no pixel tells it.
+    /// A circle that comes back is copied from the parts that the third drawing has kept; no pixel tells it.
     void aVisszateroKorUgyanaz() {
         for (const int toll : {0, 1, 4, 5}) {
             for (const TollStilus stilus : stilusok) {
@@ -477,7 +477,7 @@ private slots:
             for (const int sugar : {50, 33}) v.Ellipse(60 - sugar, 60 - sugar, 60 + sugar, 60 + sugar);
         };
         const QImage elso = rajz({120, 120}, 1, Qt::red, korok);
-        for (int i = 0; i < 2; ++i) {
+        for (int i = 0; i < 3; ++i) {
             const QImage kep = rajz({120, 120}, 1, Qt::red, korok);
             QCOMPARE(kep, elso);
             QCOMPARE(kep.pixel(60, 60), qRgb(255, 255, 255));
@@ -491,7 +491,7 @@ private slots:
             int toll, magassag;
             TLap lap;  // what is known to be white is not filled
         };
-        for (int kor = 0; kor < 3; ++kor) {
+        for (int kor = 0; kor < 4; ++kor) {
             for (const TFajta& f : {TFajta{1, 71, TLap::barmilyen}, TFajta{1, 71, TLap::feher},
                                     TFajta{3, 71, TLap::feher}, TFajta{1, 35, TLap::barmilyen}}) {
                 const auto rajzolas = [&](QtVaszon& v) {

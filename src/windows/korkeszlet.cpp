@@ -77,7 +77,8 @@ void reteg(const QSize& meret, const QPen& toll, const QBrush& ecset, std::vecto
     festo.setPen(toll);
     festo.setBrush(ecset);
     constexpr double pixelKozep = 0.5;
-    festo.drawEllipse(QRectF(szegely + pixelKozep, szegely + pixelKozep, meret.width(), meret.height()));
+    festo.translate(szegely, szegely);
+    festo.drawEllipse(QRectF(QPointF(pixelKozep, pixelKozep), meret));
     festo.end();
     const std::size_t elso = darabok.size();
     darabol(kep, kep.rect(), darabok);

@@ -92,15 +92,19 @@ void QtVaszon::Ellipse(int x1, int y1, int x2, int y2) {
     feherSugar_ = kor ? sugar - tollFele() : -1;
 }
 
+/// Both ways begin at the same place of the painter: its lines are rounded by where they are, and a kept
+/// circle must not differ from one drawn.
 void QtVaszon::korRajz(const QRectF& doboz, bool kitoltve) {
-    const auto* darabok = pixelesRaszter() ? korDarabok(doboz.size().toSize(), toll_, kitoltve) : nullptr;
-    if (darabok == nullptr) {
-        festo_.setBrush(kitoltve ? QBrush(Qt::white) : QBrush());
-        festo_.drawEllipse(doboz);
-        return;
-    }
     const QPointF hely = doboz.topLeft() - QPointF(pixelKozep, pixelKozep);
-    for (const TKorDarab& darab : *darabok) festo_.drawImage(hely + darab.hely, darab.kep);
+    festo_.translate(hely);
+    if (const auto* darabok =
+            pixelesRaszter() ? korDarabok(doboz.size().toSize(), toll_, kitoltve) : nullptr) {
+        for (const TKorDarab& darab : *darabok) festo_.drawImage(darab.hely, darab.kep);
+    } else {
+        festo_.setBrush(kitoltve ? QBrush(Qt::white) : QBrush());
+        festo_.drawEllipse(doboz.translated(-hely));
+    }
+    festo_.translate(-hely);
 }
 
 /// The device has pixels, and they are the units that are drawn in.

@@ -119,10 +119,9 @@ void TForm2::epites() {
     koordinataSor(*racs, 6, "Hosszúság (+/K, -/Ny):", spinEditHosszFok1_, spinEditHosszPerc1_);
     koordinataSor(*racs, 7, "Szélesség (+/É, -/D):", spinEditSzelFok1_, spinEditSzelPerc1_);
     racs->addWidget(idoValaszto(), 8, 0, 1, 6);
-    memo_Jegyzet1_ = new QPlainTextEdit(this);
+    memo_Jegyzet1_ = new JegyzetMezo(this, hosszuSzovegHossz);
     memo_Jegyzet1_->setObjectName("Memo_Jegyzet1");
     memo_Jegyzet1_->setTabChangesFocus(true);
-    hosszKorlat(*memo_Jegyzet1_, hosszuSzovegHossz);
     racs->addWidget(cimke("Jegyzet:"), 9, 0);
     racs->addWidget(memo_Jegyzet1_, 9, 1, 1, 5);
 

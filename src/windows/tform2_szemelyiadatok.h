@@ -6,13 +6,13 @@
 #include <QButtonGroup>
 #include <QGroupBox>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSpinBox>
 
 #include "chart/foablak.h"
 #include "commands/szemelyiadatok.h"
 #include "windows/helysegmezo.h"
+#include "windows/jegyzetmezo.h"
 #include "windows/kesobbiablak.h"
 
 /// Personal data: the one dialog where a chart is typed in.
@@ -59,5 +59,5 @@ private:
     QSpinBox *spinEditSzelFok1_ = nullptr, *spinEditSzelPerc1_ = nullptr;
     QButtonGroup* idovalaszto_ = nullptr;
     QPushButton* eletesemenyekGomb_ = nullptr;
-    QPlainTextEdit* memo_Jegyzet1_ = nullptr;
+    JegyzetMezo* memo_Jegyzet1_ = nullptr;
 };

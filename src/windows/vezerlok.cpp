@@ -1,11 +1,6 @@
 #include "windows/vezerlok.h"
 
-#include <algorithm>
-#include <memory>
-
 #include <QEvent>
-#include <QTextCursor>
-#include <QTextDocument>
 
 #include "windows/szammezo.h"
 
@@ -68,33 +63,4 @@ QString hosszSugo(int hossz) {
 void hosszKorlat(QLineEdit& mezo, int hossz) {
     mezo.setMaxLength(hossz);
     mezo.setToolTip(hosszSugo(hossz));
-}
-
-namespace {
-
-/// Takes the characters over the limit out, those before a place.
-void levag(QTextDocument& lap, int hossz, int vege) {
-    const int tobblet = lap.characterCount() - 1 - hossz;
-    if (tobblet <= 0) return;
-    QTextCursor kivagott(&lap);
-    const int eleje = std::max(0, vege - tobblet);
-    // A character of two units goes whole.
-    const bool fel = eleje > 0 && lap.characterAt(eleje).isLowSurrogate();
-    kivagott.joinPreviousEditBlock();
-    kivagott.setPosition(fel ? eleje - 1 : eleje);
-    kivagott.setPosition(vege, QTextCursor::KeepAnchor);
-    kivagott.removeSelectedText();
-    kivagott.endEditBlock();
-}
-
-}  // namespace
-
-void hosszKorlat(QPlainTextEdit& mezo, int hossz) {
-    mezo.setToolTip(hosszSugo(hossz));
-    QTextDocument* lap = mezo.document();
-    const auto vege = std::make_shared<int>(0);  // where the last insertion ends
-    QObject::connect(lap, &QTextDocument::contentsChange, &mezo,
-                     [vege](int hely, int, int uj) { *vege = hely + uj; });
-    QObject::connect(&mezo, &QPlainTextEdit::textChanged, &mezo,
-                     [lap, hossz, vege] { levag(*lap, hossz, std::min(*vege, lap->characterCount() - 1)); });
 }

@@ -2,7 +2,6 @@
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QString>
@@ -34,6 +33,3 @@ QString hosszSugo(int hossz);
 
 /// Limits a field to so many characters and says so in its tooltip.
 void hosszKorlat(QLineEdit& mezo, int hossz);
-/// The same for a text of lines. What does not fit is cut from the end of what was just typed or pasted, so
-/// that the text around the cursor and the cursor stay.
-void hosszKorlat(QPlainTextEdit& mezo, int hossz);

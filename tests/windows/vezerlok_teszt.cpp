@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "kezteszt.h"
+#include "windows/jegyzetmezo.h"
 #include "windows/mezojeloles.h"
 #include "windows/vezerlok.h"
 
@@ -21,9 +22,8 @@ struct TProbaDialogus : QDialog {
         sor->addWidget(ujSzamMezo(this, "Perc", 0, 59));
         hosszKorlat(*ujSzovegMezo(this, "Nev"), rovidSzovegHossz);
         sor->addWidget(vezerlo<QLineEdit>(*this, "Nev"));
-        auto* jegyzet = new QPlainTextEdit(this);
+        auto* jegyzet = new JegyzetMezo(this, hosszuSzovegHossz);
         jegyzet->setObjectName("Jegyzet");
-        hosszKorlat(*jegyzet, hosszuSzovegHossz);
         sor->addWidget(jegyzet);
         auto* rendben = ujGomb(this, "Rendben", "Rendben");
         rendben->setDefault(true);
@@ -45,6 +45,12 @@ struct TProbaDialogus : QDialog {
     }
     int rendbenek = 0, megsemek = 0;
 };
+
+/// Pastes a text where the cursor stands.
+void beilleszt(QPlainTextEdit& mezo, const QString& szoveg) {
+    QGuiApplication::clipboard()->setText(szoveg);
+    mezo.paste();
+}
 
 /// Counts the wheel turns that come to a window.
 struct TGorgoSzamlalo : QObject {
@@ -225,7 +231,7 @@ private slots:
         QTextCursor kurzor = jegyzet->textCursor();
         kurzor.setPosition(100);
         jegyzet->setTextCursor(kurzor);
-        jegyzet->insertPlainText("0123456789");  // five too many
+        beilleszt(*jegyzet, "0123456789");  // five too many
         QCOMPARE(jegyzet->toPlainText(), QString(100, u'a') + "01234" + QString(150, u'b'));
         QCOMPARE(jegyzet->textCursor().position(), 105);
         jegyzet->setFocus();
@@ -235,6 +241,42 @@ private slots:
         leut(Qt::Key_Backspace);
         beut("x");
         QCOMPARE(jegyzet->toPlainText(), QString(100, u'a') + "0123x" + QString(150, u'b'));
+    }
+
+    void aLevagottBeszurasEgyLepesbenVisszavonhato() {
+        TProbaDialogus d;
+        auto* jegyzet = vezerlo<QPlainTextEdit>(d, "Jegyzet");
+        const QString elobb = QString(100, u'a') + QString(150, u'b');
+        jegyzet->setPlainText(elobb);
+        for (int kor = 0; kor < 2; ++kor) {
+            QTextCursor kurzor = jegyzet->textCursor();
+            kurzor.setPosition(100);
+            jegyzet->setTextCursor(kurzor);
+            beilleszt(*jegyzet, "0123456789");  // five too many
+            const QString utana = QString(100, u'a') + "01234" + QString(150, u'b');
+            QCOMPARE(jegyzet->toPlainText(), utana);
+            jegyzet->undo();
+            QCOMPARE(jegyzet->toPlainText(), elobb);
+            jegyzet->redo();
+            QCOMPARE(jegyzet->toPlainText(), utana);
+            jegyzet->undo();
+            QCOMPARE(jegyzet->toPlainText(), elobb);
+        }
+    }
+
+    void aMegteltJegyzetbeIrtBetuNemTakarjaElAKorabbiLepest() {
+        TProbaDialogus d;
+        auto* jegyzet = vezerlo<QPlainTextEdit>(d, "Jegyzet");
+        jegyzet->setPlainText(QString(250, u'a'));
+        jegyzet->moveCursor(QTextCursor::End);
+        jegyzet->setFocus();
+        beut("bcdefgh");  // five of them stay
+        QCOMPARE(jegyzet->toPlainText(), QString(250, u'a') + "bcdef");
+        leut(Qt::Key_Return);
+        QCOMPARE(jegyzet->toPlainText(), QString(250, u'a') + "bcdef");
+        for (int kor = 0; kor < 7 && jegyzet->document()->isUndoAvailable(); ++kor)
+            leut(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(jegyzet->toPlainText(), QString(250, u'a'));
     }
 
     void aJelolesOkaValtozhatEsASajatSugoVisszajon() {
@@ -276,8 +318,52 @@ private slots:
         auto* jegyzet = vezerlo<QPlainTextEdit>(d, "Jegyzet");
         jegyzet->setPlainText(QString(254, u'a'));
         jegyzet->moveCursor(QTextCursor::End);
-        jegyzet->insertPlainText(QString::fromUtf8("🌟"));
+        beilleszt(*jegyzet, QString::fromUtf8("🌟"));
         QCOMPARE(jegyzet->toPlainText(), QString(254, u'a'));
+        jegyzet->setFocus();
+        leut(Qt::Key_Backspace);
+        beilleszt(*jegyzet, QString::fromUtf8("🌟"));
+        QCOMPARE(jegyzet->toPlainText(), QString(253, u'a') + QString::fromUtf8("🌟"));
+    }
+
+    void aKijelolesHelyeIsSzamitAJegyzetben() {
+        TProbaDialogus d;
+        auto* jegyzet = vezerlo<JegyzetMezo>(d, "Jegyzet");
+        jegyzet->setPlainText(QString(255, u'a'));
+        jegyzet->setFocus();
+        jegyzet->selectAll();
+        beilleszt(*jegyzet, "egy\r\nkettő");  // a line's end is one character, however it came
+        QCOMPARE(jegyzet->toPlainText(), "egy\nkettő");
+        jegyzet->setPlainText(QString(255, u'a'));
+        jegyzet->moveCursor(QTextCursor::End);
+        jegyzet->moveCursor(QTextCursor::Left, QTextCursor::KeepAnchor);
+        beut("xy");  // one letter in place of the selected one, none after it
+        QCOMPARE(jegyzet->toPlainText(), QString(254, u'a') + "x");
+        leut(Qt::Key_Left, Qt::ShiftModifier);
+        leut(Qt::Key_Return);
+        QCOMPARE(jegyzet->toPlainText(), QString(254, u'a') + "\n");
+        leut(Qt::Key_Backspace);  // a full field can be emptied by the keyboard
+        QCOMPARE(jegyzet->toPlainText(), QString(254, u'a'));
+        beilleszt(*jegyzet, "1\r\n");
+        QCOMPARE(jegyzet->toPlainText(), QString(254, u'a') + "1");
+    }
+
+    void azOsszetettKarakterIsCsakAmigBelefer() {
+        TProbaDialogus d;
+        auto* jegyzet = vezerlo<JegyzetMezo>(d, "Jegyzet");
+        jegyzet->setPlainText(QString(253, u'a'));
+        jegyzet->moveCursor(QTextCursor::End);
+        const auto veglegesit = [&](const QString& irt, int honnan, int csereltek) {
+            QInputMethodEvent esemeny;
+            esemeny.setCommitString(irt, honnan, csereltek);
+            QApplication::sendEvent(jegyzet, &esemeny);
+        };
+        veglegesit("őűí", 0, 0);
+        QCOMPARE(jegyzet->toPlainText(), QString(253, u'a') + "őű");
+        veglegesit("é", 0, 0);
+        QCOMPARE(jegyzet->toPlainText(), QString(253, u'a') + "őű");
+        veglegesit("éá", -1, 1);  // in place of the last
+        QCOMPARE(jegyzet->toPlainText(), QString(253, u'a') + "őé");
     }
 
     void aGorgoFokuszNelkulNemValtoztatFokusszalIgen() {

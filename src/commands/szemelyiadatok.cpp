@@ -15,14 +15,11 @@
 
 namespace {
 
-constexpr std::int64_t napMasodperc = 86400;
-
 /// Local mean time to zone time by the meridian's offset, 4 minutes of time a degree.
 void helyiKozepidobol(TPillanat& p, std::int32_t& julianszam, std::int32_t idozona, std::int32_t hosszusag) {
     const auto [fok, perc] = fokPercre(hosszusag);
     const std::int64_t eltolas = std::int64_t{perc} * 4 + std::int64_t{fok} * 240;
-    std::int64_t t = std::int64_t{p.ora} * 3600 + std::int64_t{p.perc} * 60 + p.mperc - eltolas +
-                     std::int64_t{idozona} * 3600;
+    std::int64_t t = idoMasodperc(std::int64_t{p.ora} + idozona, p.perc, p.mperc) - eltolas;
     if (t < 0) {
         t += napMasodperc;
         --julianszam;

@@ -16,8 +16,8 @@ void CsillagIdo(std::int32_t ora, std::int32_t perc, std::int32_t mperc, double&
         g += 24;
         julianszam = alsoBitek(std::int64_t{julianszam} - 1);
     }
-    const std::int64_t t = g * 3600 + std::int64_t{perc} * 60 + mperc;
-    napresz = static_cast<double>(t) / 86400;
+    const std::int64_t t = idoMasodperc(g, perc, mperc);
+    napresz = static_cast<double>(t) / napMasodperc;
 
     const long double k = static_cast<long double>(t) * csillagNyereseg;
     const auto ki = static_cast<std::int64_t>(k);

@@ -9,6 +9,7 @@
 #include "files/aafido.h"
 #include "files/aafmezok.h"
 #include "files/adatellenorzes.h"
+#include "tables/szamtan.h"
 #include "tables/szoveg.h"
 
 namespace {
@@ -391,10 +392,9 @@ std::string julianSzoveg(const TKvhRekord& r) {
     const auto datum = AafDatum(datumSzoveg(p));
     const auto ido = AafIdo(AafIdoSzoveg(p.ora, p.perc, p.mperc));
     if (!datum || !ido || p.ev < 1) return "*";
-    constexpr std::int64_t nap = 86400;
     const std::int64_t eltolas = (std::int64_t{r.idozona} + r.nyariIdo) * 3600;
-    if (std::abs(eltolas) > nap) return "*";
-    return AafJulianSzoveg(AafNapSzam(p.ev, p.ho, p.nap) * nap + *ido - eltolas);
+    if (std::abs(eltolas) > napMasodperc) return "*";
+    return AafJulianSzoveg(AafNapSzam(p.ev, p.ho, p.nap) * napMasodperc + *ido - eltolas);
 }
 
 std::string nyariIdoSzoveg(std::int32_t orak) {

@@ -3,12 +3,12 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "tables/szamtan.h"
 #include "tables/szoveg.h"
 
 namespace {
 
 constexpr std::int64_t ora = 3600;
-constexpr std::int64_t nap = 86400;
 constexpr std::int32_t ivmpEgyMasodpercre = 15;
 
 /// The multiple of a unit next to a number of seconds.
@@ -32,7 +32,7 @@ public:
     TMegoldo(const TAafIdopont& idopont, std::vector<std::string>& kozlesek)
         : be_(idopont), kozlesek_(kozlesek) {
         if (be_.datum && be_.ido)
-            helyi_ = AafNapSzam(be_.datum->ev, be_.datum->ho, be_.datum->nap) * nap + *be_.ido;
+            helyi_ = AafNapSzam(be_.datum->ev, be_.datum->ho, be_.datum->nap) * napMasodperc + *be_.ido;
     }
 
     std::optional<TAafPillanat> megold(std::string& hiba) {
@@ -163,8 +163,9 @@ private:
     }
 
     static TPillanat oraAllas(std::int64_t masodperc) {
-        const std::int64_t napok = masodperc >= 0 ? masodperc / nap : -((nap - 1 - masodperc) / nap);
-        const auto maradek = static_cast<std::int32_t>(masodperc - napok * nap);
+        const std::int64_t napok =
+            masodperc >= 0 ? masodperc / napMasodperc : -((napMasodperc - 1 - masodperc) / napMasodperc);
+        const auto maradek = static_cast<std::int32_t>(masodperc - napok * napMasodperc);
         const TAafDatum d = AafNapDatuma(napok);
         return {d.ev, d.ho, d.nap, maradek / 3600, maradek / 60 % 60, maradek % 60};
     }

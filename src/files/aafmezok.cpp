@@ -5,13 +5,13 @@
 #include <cstdlib>
 #include <vector>
 
+#include "tables/szamtan.h"
 #include "tables/szoveg.h"
 
 namespace {
 
 constexpr std::string_view feherek = " \t\r\n\v\f";
-constexpr std::int64_t napHossz = 86400;
-constexpr std::int64_t felNap = napHossz / 2;
+constexpr std::int64_t felNap = napMasodperc / 2;
 
 std::vector<std::string_view> darabok(std::string_view szoveg, char hatar) {
     std::vector<std::string_view> ki;
@@ -123,7 +123,7 @@ std::optional<std::int32_t> AafIdo(std::string_view mezo) {
     const auto perc = szam(reszek[1], 59);
     const auto masodperc = reszek.size() == 3 ? szam(reszek[2], 59) : 0;
     if (!ora || !perc || !masodperc) return std::nullopt;
-    return *ora * 3600 + *perc * 60 + *masodperc;
+    return alsoBitek(idoMasodperc(*ora, *perc, *masodperc));
 }
 
 std::string AafIdoSzoveg(std::int32_t ora, std::int32_t perc, std::int32_t mperc) {
@@ -191,14 +191,14 @@ std::optional<TAafJulian> AafJulian(std::string_view mezo) {
     if (!nap || !jegyek) return std::nullopt;
     std::int64_t egyseg = 1;
     for (int i = 0; i < jegyek->jegyek; ++i) egyseg *= 10;
-    const std::int64_t napbol = (jegyek->ertek * napHossz + egyseg / 2) / egyseg;
-    return TAafJulian{*nap * napHossz + napbol - felNap,
-                      static_cast<double>(napHossz) / static_cast<double>(egyseg)};
+    const std::int64_t napbol = (jegyek->ertek * napMasodperc + egyseg / 2) / egyseg;
+    return TAafJulian{*nap * napMasodperc + napbol - felNap,
+                      static_cast<double>(napMasodperc) / static_cast<double>(egyseg)};
 }
 
 std::string AafJulianSzoveg(std::int64_t masodperc) {
     constexpr std::int64_t milliomod = 1000000;
-    const std::int64_t ertek = ((masodperc + felNap) * milliomod + felNap) / napHossz;
+    const std::int64_t ertek = ((masodperc + felNap) * milliomod + felNap) / napMasodperc;
     std::string tizedesek = std::to_string(ertek % milliomod);
     tizedesek.insert(0, 6 - tizedesek.size(), '0');
     return std::to_string(ertek / milliomod) + "." + tizedesek;

@@ -14,7 +14,7 @@ double NapiResz(double a, double b, double hossz) {
 }
 
 TNapszak napszak(double resz) {
-    const double s = resz * 86400;
+    const double s = resz * napMasodperc;
     const int ora = egesz(s / 3600);
     const int perc = egesz((s - ora * 3600.0) / 60);
     return {ora, perc, egesz(s - perc * 60.0 - ora * 3600.0)};

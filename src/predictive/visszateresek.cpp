@@ -119,8 +119,7 @@ std::vector<std::string> VisszateresSorok(const Allapot& allapot, const TVisszat
 namespace {
 
 std::int64_t masodpercben(const TPillanat& p) {
-    return std::int64_t{napSzama(p)} * 86400 + std::int64_t{p.ora} * 3600 + std::int64_t{p.perc} * 60 +
-           p.mperc;
+    return napSzama(p) * napMasodperc + idoMasodperc(p.ora, p.perc, p.mperc);
 }
 
 }  // namespace

@@ -85,8 +85,8 @@ std::string fenyszogParok(const TMundanLanc& lanc, int bolygo) {
     return szoveg;
 }
 
-/// The six items of one ruler, in the order of the captions; the fifth is not the ruler's.
-std::array<std::string, 6> uralkodoOszlop(const TMundanLanc& lanc, char betu) {
+/// The items of one ruler, in the order of the captions; the fifth is not the ruler's.
+std::array<std::string, sorFeliratok.size()> uralkodoOszlop(const TMundanLanc& lanc, char betu) {
     const int b = betuBolygo(betu);
     if (b == 0) return {" "};
     const int haz = lanc.BolygoHazak[b];

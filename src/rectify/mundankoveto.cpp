@@ -10,6 +10,7 @@
 #include "rectify/analogiak.h"
 #include "tables/efemerida.h"
 #include "tables/nyariido.h"
+#include "tables/szamtan.h"
 #include "tables/szotar.h"
 
 /// Summer time changes at full hours and at most once a day, so a day that ends as it began has no change.
@@ -21,7 +22,8 @@ int TMundanKoveto::nyariIdo(std::int32_t julianszam, std::int32_t ora, std::int3
         nyariIdoElejen_ = NyariIdoE(julianszam, 0, 0, 0);
         nyariIdoVegen_ = NyariIdoE(julianszam, 23, 59, 59);
     }
-    const bool anap = ora >= 0 && ora <= 23 && perc >= 0 && perc <= 59 && mperc >= 0 && mperc <= 59;
+    const std::int64_t masodperc = idoMasodperc(ora, perc, mperc);
+    const bool anap = masodperc >= 0 && masodperc < napMasodperc;
     if (anap && nyariIdoElejen_ == nyariIdoVegen_) return nyariIdoElejen_;
     return NyariIdoE(julianszam, ora, perc, mperc);
 }
@@ -45,10 +47,10 @@ class TTurelem {
 public:
     /// @param hely  where it stands
     /// @param ut    its motion in a day; only the sign counts here
-    TTurelem(double hely, double ut) : hely_(hely), elore_(ut >= 0 ? 1 : -1) {}
+    TTurelem(double hely, double ut) : hely_(hely), novekszik_(ut >= 0) {}
 
     void hatar(double kuszob) {
-        const double tav = (kuszob - hely_) * elore_;
+        const double tav = novekszik_ ? kuszob - hely_ : hely_ - kuszob;
         if (tav >= -biztonsag) elore = std::min(elore, tav - biztonsag);
         if (tav <= biztonsag) hatra = std::min(hatra, -tav - biztonsag);
     }
@@ -57,7 +59,7 @@ public:
 
 private:
     double hely_;
-    double elore_;
+    bool novekszik_;
 };
 
 /// Start and end of a decan, where signs and decans change.

@@ -25,7 +25,6 @@
 namespace {
 
 constexpr int utolsoFerdeOszlop = 360;
-constexpr int napMasodperc = 86400;
 
 /// Oblique ascension in arcminutes of a longitude in degrees.
 double ferdeAszcenzio(double p, const TFerdeTabla& FerdeTabla) {

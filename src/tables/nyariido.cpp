@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "tables/efemerida.h"
+#include "tables/szamtan.h"
 
 namespace {
 
@@ -78,7 +79,7 @@ constexpr std::array<TNyariIdoszak, 116> osszesIdoszak() {
 constinit const std::array<TNyariIdoszak, 116> NyariIdoszakok = osszesIdoszak();
 
 int NyariIdoE(std::int32_t julianszam, std::int32_t ora, std::int32_t perc, std::int32_t mperc) {
-    const std::int64_t masodperc = std::int64_t{ora} * 3600 + std::int64_t{perc} * 60 + mperc;
+    const std::int64_t masodperc = idoMasodperc(ora, perc, mperc);
     for (const TNyariIdoszak& i : NyariIdoszakok) {
         if (julianszam < i.kezdoNap) return 0;
         if (julianszam > i.kezdoNap && julianszam < i.vegeNap) return 1;

@@ -29,6 +29,12 @@ constexpr int kormaradek(std::int64_t a, int b) {
 inline constexpr int korIvmasodperc = 1296000;
 inline constexpr int korIvperc = 21600;
 
+/// The day, and the seconds of a time in it; the numbers may also lie outside a day's.
+inline constexpr std::int64_t napMasodperc = 86400;
+constexpr std::int64_t idoMasodperc(std::int64_t ora, std::int64_t perc, std::int64_t mperc) {
+    return ora * 3600 + perc * 60 + mperc;
+}
+
 /// Keeps the low 32 bits of a sum that input beyond all dialogs' ranges may carry over int32.
 constexpr std::int32_t alsoBitek(std::int64_t x) {
     return static_cast<std::int32_t>(x);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "chart/kepletciklus.h"
 #include "chart/statuszsor.h"
 #include "commands/indulas.h"
 #include "ideiglenesmappa.h"
@@ -33,6 +34,32 @@ TEST_F(TIndulas, IndulasUtanAJelenPillanatBudapesten) {
     EXPECT_FALSE(a.TeljesTorles);
     EXPECT_EQ(a.PontositasHatotav, 25);
     EXPECT_EQ(a.TercierOrbisNap, 45.0);
+}
+
+/// Notes where the Sun and the Ascendant stand when the first drawing is asked for.
+struct TElsoRajz : TProbaAblak {
+    explicit TElsoRajz(const Allapot& allapot) : a(allapot) {}
+    void RajzolKeplet() override {
+        nap = a.Keplet.bolygo[1];
+        elsoCsucs = a.Keplet.hazCsucs[1];
+        torles = a.TeljesTorles;
+    }
+    const Allapot& a;
+    double nap = 0, elsoCsucs = 0;
+    bool torles = true;
+};
+
+TEST(Indulas, AzElsoRajzEgyKeszKepleteE) {
+    Allapot a;
+    TElsoRajz ablak(a);
+    ASSERT_TRUE(Indulas(a, ablak, {}));
+    EXPECT_NEAR(ablak.nap, 345, 0.5);  // on the 5th of March the Sun is halfway through Pisces
+    EXPECT_GT(ablak.elsoCsucs, 0);
+    EXPECT_FALSE(ablak.torles);
+    Allapot ujra = a;
+    KepletCiklus(ujra);
+    EXPECT_EQ(ujra.Keplet.bolygo[1], ablak.nap);
+    EXPECT_EQ(ujra.Keplet.hazCsucs[1], ablak.elsoCsucs);
 }
 
 TEST(Indulas, OlvashatatlanDatumnalMegall) {

@@ -46,6 +46,18 @@ TEST(IdoAtvaltas, HelyiKozepidoMasodpercei) {
               (TPillanat{2000, 1, 1, 11, 44, 14}));
 }
 
+TEST(IdoAtvaltas, HelyiKozepidoAzOrakEsPercekSzelein) {
+    // On the zone's own meridian nothing changes.
+    for (const TPillanat& p : {TPillanat{2000, 1, 1, 0, 59, 59},
+                               {2000, 1, 1, 1, 0, 0},
+                               {2000, 1, 1, 1, 0, 59},
+                               {2000, 1, 1, 1, 1, 0},
+                               {2000, 1, 1, 23, 0, 0},
+                               {2000, 1, 1, 23, 59, 59}})
+        EXPECT_EQ(atvalt(p, TIdoTipus::LMT, 1, 54000).pillanat, p)
+            << p.ora << ':' << p.perc << ':' << p.mperc;
+}
+
 TEST(IdoAtvaltas, HelyiKozepidoPontosanEjfelkor) {
     // 15 degrees are an hour: 1:00 less it is 0:00 of the same day, 23:00 and an hour 0:00 of the next.
     const TAtvaltott eleje = atvalt({2000, 1, 1, 1, 0, 0}, TIdoTipus::LMT, 0, 54000);

@@ -66,6 +66,18 @@ TEST(DekadNezet, AKisRadixbolHianyzikABolygokKore) {
     EXPECT_EQ(a.Rajz.kerekSugar, 120);
 }
 
+/// A body at the Ascendant, alone: its pointer goes straight in from the left edge of the scale. The small
+/// wheel of radius 2396 has its scale at 2330 and pointers of 2330 / 18, 129.
+TEST(Nezetek, AKisRadixKeretenIsMutatok) {
+    Allapot a = probaKeplet(0);
+    a.Keplet.bolygo[1] = 0;
+    for (const auto& [tipus, y] : {std::pair(2, 3220), std::pair(3, 9660)}) {
+        const auto v = csak<TVonalMuvelet>(nagyRajz(a, tipus));
+        const TVonalMuvelet mutato{16099 - 2330, y, 16099 - 2330 + 129, y, 16, 0};
+        EXPECT_EQ(std::count(v.begin(), v.end(), mutato), 1) << tipus;
+    }
+}
+
 TEST(Nezetek, NegyvenotAlattNincsenekKisKerekek) {
     for (int tipus = 1; tipus <= 3; ++tipus) {
         Allapot a = probaKeplet();

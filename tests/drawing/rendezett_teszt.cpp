@@ -90,6 +90,17 @@ TEST(Rendezett, AFokEsAPercAzIgaziHelye) {
     }
 }
 
+TEST(Rendezett, AFokAJegyElejetolAVegeig) {
+    for (int jegy = 0; jegy < 12; ++jegy) {
+        const TRendezett r = szetterit({jegy * 30.0, jegy * 30 + 29.75});
+        for (const TRendezettSor& sor : r) {
+            if (sor.rendJel == 'C') break;
+            EXPECT_DOUBLE_EQ(sor.rendFok, sor.rendJel == 'A' ? 0 : 29.75) << jegy;
+            EXPECT_DOUBLE_EQ(sor.rendPerc, sor.rendJel == 'A' ? 0 : 45) << jegy;
+        }
+    }
+}
+
 TEST(Rendezett, ANullaAlaTolodottElolAll) {
     // 1 and 2.5: they move to -1 and 4.5 at the threshold 2, and -1 is the first row of the next pass. At the
     // wrap the last body is greater, so the row takes 360 and stands at 359.

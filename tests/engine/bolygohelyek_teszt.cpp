@@ -65,6 +65,16 @@ TEST(BolygoHelyek, EgyFolottANapreszARetrogradotIsTovabbviszi) {
     EXPECT_DOUBLE_EQ(KoztesHossz(1270000, 24000, 1.5, 'D'), 1270000 + 50000 * 1.5 - 1296000);
 }
 
+TEST(BolygoHelyek, ALepesElojeleAMozgasBetujetol) {
+    EXPECT_EQ(KoztesLepes(100, 40, 'R'), -60);
+    EXPECT_EQ(KoztesLepes(100, 100, 'R'), 0);
+    EXPECT_EQ(KoztesLepes(100, 101, 'R'), 1 - 1296000);  // over Aries, the long way round
+    EXPECT_EQ(KoztesLepes(40, 100, 'D'), 60);
+    EXPECT_EQ(KoztesLepes(100, 100, 'S'), 0);
+    EXPECT_EQ(KoztesLepes(101, 100, 'D'), 1296000 - 1);
+    EXPECT_EQ(KoztesLepes(101, 100, 'S'), 1296000 - 1);
+}
+
 TEST(BolygoHelyek, AzAtfordulasElottAzErtekMarad) {
     EXPECT_DOUBLE_EQ(KoztesHossz(1295000, 20000, 0.04, 'D'), 1295840);
     EXPECT_DOUBLE_EQ(KoztesHossz(0, 21000, 0, 'D'), 0);

@@ -211,6 +211,16 @@ TEST(UralkodoSzamitas, AParatlanJegyMindATizenketJegyben) {
     }
 }
 
+TEST(UralkodoSzamitas, AParatlanJegyAJegyElejetolAVegeig) {
+    for (int jegy = 1; jegy <= 12; ++jegy)
+        for (const double fok : {0.0, 29.999}) {
+            TRend r;
+            r.b.tolt(jegyben(jegy, fok));
+            r.szamit();
+            for (int i = 1; i <= 10; ++i) EXPECT_EQ(r.u.PratlanJegy[i], jegy % 2 == 1) << i << ' ' << jegy;
+        }
+}
+
 TEST(UralkodoSzamitas, AMerkurABikabanAzIkreketUraNelkulHagyja) {
     TRend r;
     r.b.tolt(jegyben(2));

@@ -64,7 +64,9 @@ TEST(Napszak, LevagvaKerekitesNelkul) {
     egyezik(0, 0, 0, 0);
     egyezik(0.5, 12, 0, 0);
     egyezik(59.9 / 86400, 0, 0, 59);
+    egyezik(60.1 / 86400, 0, 1, 0);
     egyezik(3599.9 / 86400, 0, 59, 59);
+    egyezik(3600.1 / 86400, 1, 0, 0);
     egyezik(86399.9 / 86400, 23, 59, 59);
     egyezik(45296.7 / 86400, 12, 34, 56);
 }

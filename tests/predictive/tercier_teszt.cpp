@@ -59,6 +59,21 @@ TEST(Tercier, ASzuletesNapjanCsakARadixEgyuttallasai) {
     EXPECT_EQ(t.TercierSzoveg, vartTercier(a.Keplet.Bolygok, 0, 99));
 }
 
+/// Whoever comes after finds the natal chart in hand, with its distances.
+TEST(Tercier, ASzuletesKepleteMaradUtana) {
+    Allapot a;
+    TercierKeres(a, szuletesnap, napokkal(szuletesnap, 9000), "Szeged", 45);
+    EXPECT_EQ(a.Keplet.pillanat, szuletesnap);
+    const Allapot natalis = szuletes();
+    for (int i = 1; i <= 10; ++i) {
+        EXPECT_EQ(a.Keplet.Bolygok[i], natalis.Keplet.Bolygok[i]) << i;
+        for (int j = 1; j <= 10; ++j)
+            EXPECT_NEAR(a.Munka.Elteresek[i][j],
+                        std::abs(std::remainder(natalis.Keplet.Bolygok[i] - natalis.Keplet.Bolygok[j], 360)),
+                        1e-9);
+    }
+}
+
 TEST(Tercier, ASzuletesElottiEsemenyIranyaElore) {
     int talalt = 0;
     int koronKivul = 0;

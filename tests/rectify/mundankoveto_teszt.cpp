@@ -135,7 +135,8 @@ TEST_F(TMundanKovetoTeszt, ANyariIdoHatarainIs) {
     const TMundanHely szeged{1, 166500, 72540};
     TMundanKoveto k(szeged, OrbisAlap);
     for (const TPillanat nap :
-         {TPillanat{1916, 4, 30, 0, 0, 0}, TPillanat{2000, 3, 26, 0, 0, 0}, TPillanat{2000, 10, 29, 0, 0, 0}})
+         {TPillanat{1916, 4, 30, 0, 0, 0}, TPillanat{1981, 9, 27, 0, 0, 0}, TPillanat{1982, 9, 26, 0, 0, 0},
+          TPillanat{1983, 9, 25, 0, 0, 0}, TPillanat{2000, 3, 26, 0, 0, 0}, TPillanat{2000, 10, 29, 0, 0, 0}})
         for (int s = 0; s < 86400; s += 30) {
             const std::int64_t t = std::int64_t{napSzama(nap)} * 86400 + s;
             ASSERT_EQ(koveto(k, t), sima(t, szeged, OrbisAlap)) << t;

@@ -128,7 +128,8 @@ struct TOszlop {
 constexpr TMezo kellenek[]{TMezo::nev, TMezo::ev, TMezo::ho, TMezo::nap, TMezo::ora, TMezo::perc};
 
 TOszlop oszlop(const std::string& fejlec) {
-    TOszlop ki{0, nullptr, std::string(vagott(fejlec))};
+    TOszlop ki;
+    ki.nev = vagott(fejlec);
     std::string_view nev = ki.nev;
     std::size_t szam = 0;
     const auto [vege, hiba] = std::from_chars(nev.data(), nev.data() + nev.size(), szam);

@@ -52,6 +52,16 @@ TEST(CimFajl, AzUresSorNalMegallEsHatnalTobbetNemOlvas) {
     EXPECT_EQ(c[6].substr(0, 2), "f ");
 }
 
+TEST(CimFajl, AKorabbiCimekbolSemmiSemMarad) {
+    TCimek c;
+    for (const char* fajl : {"egy\nkettő\nhárom\n", "négy\n", ""}) {
+        std::istringstream be(fajl);
+        CimFajlOlvas(be, c);
+        for (int i = 1; i <= feliratHelyek; ++i) EXPECT_EQ(c[i], cimek(fajl)[i]) << fajl << i;
+    }
+    EXPECT_EQ(c[1], "");
+}
+
 TEST(CimFajl, ANemUtf8SorKodlap1250) {
     // "Őrző sor", once in code page 1250 and once in UTF-8, in the same file.
     const TCimek c = cimek("\xD5rz\xF5 sor\nŐrző sor\n");

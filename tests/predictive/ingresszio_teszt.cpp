@@ -34,6 +34,17 @@ TEST(Ingresszio, ASolarNapjanMindenBolygoOnmagaval) {
     EXPECT_EQ(ingresszio(1).find(" AMA"), std::string::npos);  // an angle of 0.986
 }
 
+/// Just after midnight in Greenwich the Sun has gone a minute or two of the day's arc, and still the day is
+/// its own return.
+TEST(Ingresszio, AHajnalbanSzuletettNapjaIsASolarNapja) {
+    for (int nap = 0; nap < 365; nap += 5) {
+        const TPillanat hajnal = napokkal({1977, 1, 1, 1, 10, 0}, nap);  // no summer time yet in that year
+        Allapot a = szuletes(hajnal);
+        const std::string szoveg = IngresszioKeres(a, hajnal, hajnal, "Szeged");
+        EXPECT_NE(szoveg.find(" AMA"), std::string::npos) << nap;
+    }
+}
+
 TEST(Ingresszio, AFelevEsAzEvVegeVisszahajlik) {
     EXPECT_EQ(ingresszio(183).find(" AMA"), std::string::npos);
     // The last day before the next return: 364 x 360 / 365 is 359.01, folded to 0.99; 365 days are exactly

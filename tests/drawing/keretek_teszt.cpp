@@ -285,6 +285,13 @@ TEST(KisMundanKerek, AHuszszorosFeluletenIsArany) {
     EXPECT_EQ(kos[1].magassag, 129);         // 124 + 5
     EXPECT_EQ(kos[1].x, 16099 - 2686 - 64);  // 2696 - 3 at 4 degrees; 64.5 to the even
     EXPECT_EQ(kos[1].y, 3220 + 188 - 64);
+    for (int jegy = 0; jegy < 12; ++jegy) {
+        const auto betu = szovegek(m, {static_cast<char>('a' + jegy)});
+        ASSERT_EQ(betu.size(), 3U);
+        const double szog = (30 * jegy + 4) * 3.141592653589793 / 180;
+        EXPECT_NEAR(betu[1].x, 16099 - 2693 * std::cos(szog) - 64, 1) << jegy;
+        EXPECT_NEAR(betu[1].y, 3220 + 2693 * std::sin(szog) - 64, 1) << jegy;
+    }
 }
 
 }  // namespace

@@ -46,6 +46,14 @@ TEST(Analogia, ARomaiAlakok) {
     EXPECT_EQ(analogia("II"), "I");
 }
 
+TEST(Analogia, SzamEsBetuElvalasztoNelkul) {
+    EXPECT_EQ(analogia("3X"), "3,X");
+    EXPECT_EQ(analogia("9IV"), "IV,9");
+    EXPECT_EQ(analogia("2VII"), "2,VII");
+    EXPECT_EQ(analogia("X3"), "3,X");
+    EXPECT_EQ(analogia("1X"), "I,X");
+}
+
 TEST(Analogia, IsmetlesRendezesEsSzemet) {
     EXPECT_EQ(analogia("9 2 9 5"), "2,5,9");
     EXPECT_EQ(analogia(",,;; 5 --- 2"), "2,5");

@@ -60,7 +60,6 @@ public:
 private:
     /// The file goes before the player: one that ends over its file is still told of the file's end.
     void elengedes() {
-        indulo_ = false;
         if (!lejatszo_) return;
         lejatszo_->setSource(QUrl());
         lejatszo_.reset();

@@ -26,7 +26,6 @@ constexpr int mezokTeteje = listaTeteje + esemenyHelyek * sorMagassag + 10;
 
 constexpr int mezoMagassag = 22;
 constexpr int mezoSorKoz = 28;
-constexpr int feliratLejjebb = 4;  ///< a caption stands so much lower than its field
 
 /// Columns whose click selects the row: number, event, analogies.
 constexpr std::size_t kijeloloOszlopok = 3;
@@ -78,8 +77,9 @@ void TForm10::listaEpitese() {
 
 void TForm10::szamMezok(std::span<const TSzamMezo> leirasok, int y) {
     for (const TSzamMezo& l : leirasok) {
-        if (l.felirat != nullptr) ujCimke(this, l.felirat, {l.feliratX, y + feliratLejjebb});
-        this->*l.mezo = ujSzamMezo(this, l.nev, l.also, l.felso, {l.x, y, l.szelesseg, mezoMagassag});
+        QSpinBox* uj = ujSzamMezo(this, l.nev, l.also, l.felso, {l.x, y, l.szelesseg, mezoMagassag});
+        if (l.felirat != nullptr) ujCimke(this, l.felirat, l.feliratX, *uj);
+        this->*l.mezo = uj;
     }
 }
 
@@ -100,24 +100,24 @@ void TForm10::mezokEpitese() {
         {nullptr, 0, "SpinEditSzelPerc1", 0, 59, 557, 44, &TForm10::szelPerc_}};
 
     const int y = mezokTeteje;
-    ujCimke(this, "Életesemény:", {7, y + feliratLejjebb});
     esemeny_ = ujSzovegMezo(this, "Edit_Eletesemenyek1", {90, y, 230, mezoMagassag});
+    ujCimke(this, "Életesemény:", 7, *esemeny_);
     hosszKorlat(*esemeny_, rovidSzovegHossz);
-    ujCimke(this, "Házanalógiák:", {335, y + feliratLejjebb});
     analogia_ = ujSzovegMezo(this, "Edit_Hazanalogiak1", {420, y, 260, mezoMagassag});
+    ujCimke(this, "Házanalógiák:", 335, *analogia_);
     hosszKorlat(*analogia_, hosszuSzovegHossz);
 
     szamMezok(idoMezok, y + mezoSorKoz);
 
     const int y3 = y + 2 * mezoSorKoz;
-    ujCimke(this, "Solar-évforduló helye:", {7, y3 + feliratLejjebb});
     helyseg_ = ujHelysegMezo(this, "ComboBoxHelyseg1");
     helyseg_->setGeometry(125, y3, 195, mezoMagassag);
+    ujCimke(this, "Solar-évforduló helye:", 7, *helyseg_);
     szamMezok(helyMezok, y3);
-    ujCimke(this, "Solar-Nap:", {607, y3 + feliratLejjebb});
     solarNap_ = new QLabel(this);
     solarNap_->setObjectName("LabelSolarNap1");
     solarNap_->setGeometry(666, y3, 24, mezoMagassag);
+    ujCimke(this, "Solar-Nap:", 607, *solarNap_);
 
     connect(helyseg_, &QComboBox::editTextChanged, this, &TForm10::ComboBoxHelyseg1Change);
     for (const QSpinBox* mezo : {ev_, ho_, nap_, ora_, perc_, mperc_})

@@ -36,8 +36,9 @@ void TForm12::epites() {
                     {memoBal, memoAlja + 4});
     const auto mezo = [this](const char* nev, const char* felirat, int also, int felso, int x,
                              int feliratSzelesseg) {
-        ujCimke(this, felirat, {x, 15});
-        return ujSzamMezo(this, nev, also, felso, {x + feliratSzelesseg, 10, 66, 26});
+        QSpinBox* uj = ujSzamMezo(this, nev, also, felso, {x + feliratSzelesseg, 10, 66, 26});
+        ujCimke(this, felirat, x, *uj);
+        return uj;
     };
     ev_ = mezo("SpinEditEv1", "Kezdő év:", 1900, 2068, 10, 66);
     ho_ = mezo("SpinEditHo1", "hó:", 1, 12, 156, 28);

@@ -70,14 +70,14 @@ void TForm13::epites() {
 }
 
 void TForm13::hatotavSor() {
-    auto* label1 = new QLabel("Direkciós hatótávolság:   0,", this);
+    constexpr QRect hely(szel, 9, 56, 26);
+    spinEdit1_->setGeometry(hely);
+    auto* label1 = ujCimke(this, "Direkciós hatótávolság:   0,", szel, *spinEdit1_);
     label1->setObjectName("Label1");
-    label1->move(szel, 14);
-    label1->adjustSize();
     spinEdit1_->setObjectName("SpinEdit1");
     spinEdit1_->setRange(1, 99);
     spinEdit1_->setValue(allapot_.PontositasHatotav);
-    spinEdit1_->setGeometry(label1->geometry().right() + 2, 9, 56, 26);
+    spinEdit1_->move(label1->geometry().right() + 2, hely.y());
     connect(spinEdit1_, &QSpinBox::valueChanged, this, &TForm13::SpinEdit1Change);
 }
 

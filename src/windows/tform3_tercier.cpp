@@ -39,9 +39,10 @@ void TForm3::epites() {
     ev_ = mezo("SpinEditEv1", "Év:", 1900, 2068, 24);
     ho_ = mezo("SpinEditHo1", "Hó:", 0, 13, 150);
     nap_ = mezo("SpinEditNap1", "Nap:", 0, 32, 256);
-    orbisFelirat_ = new QLabel("Orbis napokban:", this);
-    orbisFelirat_->setObjectName("Orbis_napokban1");
     orbis_ = ujSzamMezo(this, "SpinEditOrbis1", 1, 99);
+    orbis_->adjustSize();
+    orbisFelirat_ = ujCimke(this, "Orbis napokban:", orbisFeliratBal, *orbis_);
+    orbisFelirat_->setObjectName("Orbis_napokban1");
     direkcio1_ = new QLabel(this);
     direkcio1_->setObjectName("Tercier_Direkcio1");
     direkcio1_->setGeometry(24, 120, szovegSzelesseg, 22);
@@ -65,8 +66,9 @@ void TForm3::epites() {
 }
 
 QSpinBox* TForm3::mezo(const char* nev, const char* felirat, int also, int felso, int x) {
-    ujCimke(this, felirat, {x, 45});
-    return ujSzamMezo(this, nev, also, felso, {x + 36, 40, 62, 26});
+    QSpinBox* uj = ujSzamMezo(this, nev, also, felso, {x + 36, 40, 62, 26});
+    ujCimke(this, felirat, x, *uj);
+    return uj;
 }
 
 void TForm3::megmutat() {

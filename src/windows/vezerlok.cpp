@@ -51,6 +51,12 @@ QLabel* ujCimke(QWidget* szulo, const QString& felirat, const QPoint& hely) {
     return cimke;
 }
 
+QLabel* ujCimke(QWidget* szulo, const QString& felirat, int bal, const QWidget& mezo) {
+    QLabel* cimke = ujCimke(szulo, felirat, {bal, mezo.y()});
+    cimke->resize(cimke->sizeHint().width(), mezo.height());
+    return cimke;
+}
+
 void gorgoCsakFokusszal(QWidget& mezo) {
     mezo.setFocusPolicy(Qt::StrongFocus);
     new TGorgoSzuro(mezo);

@@ -19,6 +19,8 @@ QLineEdit* ujSzovegMezo(QWidget* szulo, const QString& nev, const QRect& hely = 
 
 /// A caption.
 QLabel* ujCimke(QWidget* szulo, const QString& felirat, const QPoint& hely);
+/// The caption of a field, at the middle of the field's height.
+QLabel* ujCimke(QWidget* szulo, const QString& felirat, int bal, const QWidget& mezo);
 
 /// Lets the wheel change a field only while it has the focus; else the turn goes on to the window. A wheel
 /// turned over a dialog would change whatever field happens to lie under the pointer.

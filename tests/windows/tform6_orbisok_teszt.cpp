@@ -57,6 +57,11 @@ private slots:
             QCOMPARE(vezerlo<QPushButton>(d, "Button_minusz2")->font().pointSize(), 16);
             kattint(d, "BOrbis_3_1");
             QCOMPARE(cella(d, 3, 1)->text(), "14");
+            kattint(d, "Button_plusz1");
+            for (const char* ertek : {"14.5", "15"}) {
+                kattint(d, "BOrbis_3_1");
+                QCOMPARE(cella(d, 3, 1)->text(), ertek);
+            }
             kattint(d, "Button_Megsem1");
         });
         menu(a.form1, "Orbisok1");

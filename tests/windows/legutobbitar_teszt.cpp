@@ -117,7 +117,11 @@ private slots:
                 QCOMPARE(sorok->item(0)->text(), "béla");
                 QCOMPARE(sorok->item(1)->text(), "anna");
                 QCOMPARE(sorok->item(1)->toolTip(), ut("a/anna.kvh"));
-                // The files have more room than the list beside them.
+                // The list fills its part but for the caption over it; the files have more room.
+                const QRect lap = sorok->parentWidget()->rect();
+                QCOMPARE(sorok->geometry().left(), lap.left());
+                QCOMPARE(sorok->geometry().bottomRight(), lap.bottomRight());
+                QCOMPARE(sorok->parentWidget()->findChild<QLabel*>()->geometry().topLeft(), lap.topLeft());
                 const auto* fajlok = vezerlo<QWidget>(d, "listView")->parentWidget();
                 QVERIFY2(fajlok->width() > 2 * sorok->width(), qPrintable(QString::number(sorok->width())));
                 const QPoint hely = sorok->visualItemRect(sorok->item(sor)).center();

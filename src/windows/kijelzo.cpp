@@ -33,7 +33,6 @@ QString kijelzoHiba(bool waylandHianyzik) {
 }
 
 TKijelzoOr::TKijelzoOr() {
-    nincsWayland = false;
     regi = qInstallMessageHandler(uzenet);
 }
 

@@ -38,6 +38,15 @@ void szemSorrend(QWidget& ablak) {
     }
 }
 
+void alapGomb(QWidget& ablak) {
+    QStringList alapok;
+    for (const auto* gomb : ablak.findChildren<QPushButton*>())
+        if (gomb->isDefault()) alapok << gomb->objectName();
+    const auto* rendben = ablak.findChild<QPushButton*>("Button_Rendben1");
+    const bool van = rendben != nullptr && ablak.objectName() != "TForm6";  // its grid is for the mouse
+    QCOMPARE(alapok, van ? QStringList{"Button_Rendben1"} : QStringList());
+}
+
 }  // namespace
 
 class TabSorrendTeszt : public QObject {
@@ -64,6 +73,27 @@ private slots:
             kattint(d, "Button_Megsem1");
         });
         menu(a.form1, "Tercier1");
+    }
+
+    /// Where there is an OK, the Enter key is its; where there is none, it presses nothing.
+    void azEnterARendbene() {
+        TFrissAblakok a;
+        szuletes(a);
+        a.form8.megmutat();
+        for (QWidget* ablak :
+             std::initializer_list<QWidget*>{&a.form2, &a.form5, &a.form7, &a.form8, &a.form9, &a.form10,
+                                             &a.form12, &a.form13, &a.form14}) {
+            ablak->show();
+            alapGomb(*ablak);
+            ablak->hide();
+        }
+        for (const char* pont : {"Tercier1", "Orbisok1"}) {
+            valasz([](QWidget& d) {
+                alapGomb(d);
+                kattint(d, "Button_Megsem1");
+            });
+            menu(a.form1, pont);
+        }
     }
 
     void azEnterATobbsorosMezobenSortNyit() {

@@ -173,7 +173,7 @@ private slots:
 
     void azIkonMindenMeretbenKesz() {
         const QList<QSize> meretek = programIkon().availableSizes();
-        for (const int meret : {16, 32, 48, 128}) QVERIFY(meretek.contains(QSize(meret, meret)));
+        for (const int meret : {16, 24, 32, 48, 64, 128}) QVERIFY(meretek.contains(QSize(meret, meret)));
     }
 };
 

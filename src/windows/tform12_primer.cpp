@@ -36,7 +36,7 @@ void TForm12::epites() {
                     {memoBal, memoAlja + 4});
     const auto mezo = [this](const char* nev, const char* felirat, int also, int felso, int x,
                              int feliratSzelesseg) {
-        QSpinBox* uj = ujSzamMezo(this, nev, also, felso, {x + feliratSzelesseg, 10, 66, 26});
+        QSpinBox* uj = ujSzamMezo(this, nev, also, felso, {x + feliratSzelesseg, 10, 66, mezoMagas});
         ujCimke(this, felirat, x, *uj);
         return uj;
     };
@@ -49,9 +49,10 @@ void TForm12::epites() {
         connect(uj, &QPushButton::clicked, this, kezelo);
         return uj;
     };
-    gomb("Button_Rendben1", "Rendben", {384, 9, 80, 28}, &TForm12::Button_Rendben1Click)->setDefault(true);
-    auto* megsem = gomb("Button_Megsem1", "Mégsem", {470, 9, 80, 28}, &TForm12::Button_Megsem1Click);
-    auto* pontositasGomb = ujGomb(this, "Button_Pontositas1", "Pontosítás", {450, 436, 100, 28});
+    gomb("Button_Rendben1", "Rendben", {384, 9, 80, gombMagas}, &TForm12::Button_Rendben1Click)
+        ->setDefault(true);
+    auto* megsem = gomb("Button_Megsem1", "Mégsem", {470, 9, 80, gombMagas}, &TForm12::Button_Megsem1Click);
+    auto* pontositasGomb = ujGomb(this, "Button_Pontositas1", "Pontosítás", {450, 436, 100, gombMagas});
     connect(pontositasGomb, &QPushButton::clicked, this, [this] {
         if (pontositas) pontositas();
     });

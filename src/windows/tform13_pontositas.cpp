@@ -70,7 +70,7 @@ void TForm13::epites() {
 }
 
 void TForm13::hatotavSor() {
-    constexpr QRect hely(szel, 9, 56, 26);
+    constexpr QRect hely(szel, 9, 56, mezoMagas);
     spinEdit1_->setGeometry(hely);
     auto* label1 = ujCimke(this, "Direkciós hatótávolság:   0,", szel, *spinEdit1_);
     label1->setObjectName("Label1");
@@ -131,9 +131,9 @@ void TForm13::lathatatlanVezerlok() {
         vezerlo->hide();
     };
     elrejtett(new QLabel("Direkció-elemzés:", this), "Label6", {400, 14, 120, 16});
-    elrejtett(new QPushButton("1", this), "Button_Elemzes1", {524, 9, 26, 26});
-    elrejtett(new QPushButton("+", this), "Button_Elemzesp1", {553, 9, 26, 26});
-    elrejtett(new QPushButton("-", this), "Button_Elemzesm2", {582, 9, 26, 26});
+    elrejtett(new QPushButton("1", this), "Button_Elemzes1", {524, 9, 26, mezoMagas});
+    elrejtett(new QPushButton("+", this), "Button_Elemzesp1", {553, 9, 26, mezoMagas});
+    elrejtett(new QPushButton("-", this), "Button_Elemzesm2", {582, 9, 26, mezoMagas});
 }
 
 void TForm13::resizeEvent(QResizeEvent* esemeny) {
@@ -142,7 +142,7 @@ void TForm13::resizeEvent(QResizeEvent* esemeny) {
     elrendezes();
     int bal = szel;
     for (const char* nev : {"Button_Rendben1", "Button_Megsem1", "Button_Eletesemenyek1"}) {
-        findChild<QPushButton*>(nev)->setGeometry(bal, height() - 37, 114, 28);
+        findChild<QPushButton*>(nev)->setGeometry(bal, height() - 37, 114, gombMagas);
         bal += 119;
     }
 }

@@ -39,8 +39,7 @@ void TForm3::epites() {
     ev_ = mezo("SpinEditEv1", "Év:", 1900, 2068, 24);
     ho_ = mezo("SpinEditHo1", "Hó:", 0, 13, 150);
     nap_ = mezo("SpinEditNap1", "Nap:", 0, 32, 256);
-    orbis_ = ujSzamMezo(this, "SpinEditOrbis1", 1, 99);
-    orbis_->adjustSize();
+    orbis_ = ujSzamMezo(this, "SpinEditOrbis1", 1, 99, {orbisMezoBal, orbisTetej, 62, mezoMagas});
     orbisFelirat_ = ujCimke(this, "Orbis napokban:", orbisFeliratBal, *orbis_);
     orbisFelirat_->setObjectName("Orbis_napokban1");
     direkcio1_ = new QLabel(this);
@@ -66,7 +65,7 @@ void TForm3::epites() {
 }
 
 QSpinBox* TForm3::mezo(const char* nev, const char* felirat, int also, int felso, int x) {
-    QSpinBox* uj = ujSzamMezo(this, nev, also, felso, {x + 36, 40, 62, 26});
+    QSpinBox* uj = ujSzamMezo(this, nev, also, felso, {x + 36, 40, 62, mezoMagas});
     ujCimke(this, felirat, x, *uj);
     return uj;
 }
@@ -93,7 +92,7 @@ void TForm3::megmutat() {
 
 /// The window has room for the whole text.
 void TForm3::elrendezes(int szovegMagassag) {
-    constexpr QSize gombMeret{100, 28};
+    constexpr QSize gombMeret{100, gombMagas};
     direkcio2_->setGeometry(24, szovegTetej, szovegSzelesseg, szovegMagassag);
     const int gombTetej = szovegTetej + szovegMagassag + 8;
     rendben_->setGeometry({{90, gombTetej}, gombMeret});

@@ -67,10 +67,10 @@ void TForm6::epites() {
     };
     plusz_ = gomb("Button_plusz1", "+0.5", {12, 6, 70, 30}, &TForm6::Button_plusz1Click);
     minusz_ = gomb("Button_minusz2", "-0.5", {88, 6, 70, 30}, &TForm6::Button_minusz2Click);
-    gomb("Button_vissza3", "Előzö beállítás", {12, 386, 150, 28}, &TForm6::Button_vissza3Click);
-    gomb("Button_vissza4", "Induló beállítás", {178, 386, 150, 28}, &TForm6::Button_vissza4Click);
-    gomb("Button_Rendben1", "Rendben", {12, 422, 150, 28}, &TForm6::Button_Rendben1Click);
-    gomb("Button_Megsem1", "Mégsem", {178, 422, 150, 28}, &TForm6::Button_Megsem1Click);
+    gomb("Button_vissza3", "Előzö beállítás", {12, 386, 150, gombMagas}, &TForm6::Button_vissza3Click);
+    gomb("Button_vissza4", "Induló beállítás", {178, 386, 150, gombMagas}, &TForm6::Button_vissza4Click);
+    gomb("Button_Rendben1", "Rendben", {12, 422, 150, gombMagas}, &TForm6::Button_Rendben1Click);
+    gomb("Button_Megsem1", "Mégsem", {178, 422, 150, gombMagas}, &TForm6::Button_Megsem1Click);
     betuMeret(*plusz_, kiemeltMeret);
     betuMeret(*minusz_, kisMeret);
 }

@@ -83,7 +83,7 @@ void TForm8::allandoVezerlok() {
 
     const auto gomb = [this](const char* nev, const char* felirat, int hely, void (TForm8::*kezelo)()) {
         constexpr int szelesseg = 74;
-        auto* uj = ujGomb(this, nev, felirat, {8 + hely * (szelesseg + 3), 56, szelesseg, 28});
+        auto* uj = ujGomb(this, nev, felirat, {8 + hely * (szelesseg + 3), 56, szelesseg, gombMagas});
         connect(uj, &QPushButton::clicked, this, kezelo);
     };
     gomb("Button1Keresesm", "Keresés -", 0, &TForm8::Button1KeresesmClick);

@@ -26,6 +26,10 @@ QLabel* ujCimke(QWidget* szulo, const QString& felirat, int bal, const QWidget& 
 /// turned over a dialog would change whatever field happens to lie under the pointer.
 void gorgoCsakFokusszal(QWidget& mezo);
 
+/// Heights of the buttons and fields in the windows that are laid out by coordinates, pixels.
+inline constexpr int gombMagas = 28;
+inline constexpr int mezoMagas = 26;
+
 /// Characters that a chart file holds of a name, a place or an event's text, and of a note or analogies.
 inline constexpr int rovidSzovegHossz = 32;
 inline constexpr int hosszuSzovegHossz = 255;

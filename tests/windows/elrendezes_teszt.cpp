@@ -572,6 +572,32 @@ private slots:
         QCOMPARE(hely(d, "Button_Elemzes1").height(), hely(d, "SpinEdit1").height());
     }
 
+    /// From one dialog to the next the buttons and the fields are of one height, whatever their widths.
+    void aGombokEsAMezokMindenuttEgyMagasak() {
+        TFrissAblakok a;
+        szuletes(a);
+        menu(a.form1, "Primer1");
+        kattint(a.form12, "Button_Pontositas1");
+        a.form8.megmutat();
+        const int gomb = hely(a.form12, "Button_Rendben1").height();
+        const int mezo = hely(a.form12, "SpinEditEv1").height();
+        const auto egyMagas = [](const QWidget& ablak, const TNevek& nevek, int magassag) {
+            for (const char* nev : nevek) QVERIFY2(hely(ablak, nev).height() == magassag, nev);
+        };
+        egyMagas(a.form12, {"Button_Rendben1", "Button_Megsem1", "Button_Pontositas1"}, gomb);
+        egyMagas(a.form12, {"SpinEditEv1", "SpinEditHo1", "SpinEditNap1"}, mezo);
+        egyMagas(a.form13, {"Button_Rendben1", "Button_Megsem1", "Button_Eletesemenyek1"}, gomb);
+        egyMagas(a.form13, {"SpinEdit1"}, mezo);
+        egyMagas(a.form8, {"Button1Keresesm", "Button2Keresesp", "Button3Vissza", "Button4Bezar"}, gomb);
+        parbeszedben(a, "Tercier1", [&](QWidget& d) {
+            egyMagas(d, {"Button_Rendben1", "Button_Megsem1"}, gomb);
+            egyMagas(d, {"SpinEditEv1", "SpinEditHo1", "SpinEditNap1", "SpinEditOrbis1"}, mezo);
+        });
+        parbeszedben(a, "Orbisok1", [&](QWidget& d) {
+            egyMagas(d, {"Button_vissza3", "Button_vissza4", "Button_Rendben1", "Button_Megsem1"}, gomb);
+        });
+    }
+
     void aPanelGombjaiEgymasAlatt() {
         TFrissAblakok a;
         const QWidget& panel = *vezerlo<QFrame>(a.form1, "Panel1");

@@ -6,6 +6,7 @@
 #include <QStandardPaths>
 
 #include "kezteszt.h"
+#include "probaablak.h"
 #include "tables/pillanat.h"
 
 namespace {
@@ -228,6 +229,29 @@ private slots:
             });
             QCOMPARE(a.allapot().Keplet.pillanat.ev, a.allapot().Visszateresek.sorok[ma + 1].pillanat.ev);
             kattint(a.form1, "PanelButton2_Most");
+        }
+    }
+
+    /// Of two rows of one day the hour tells which one is nearer.
+    void aMaiNaphozAzOratIsNezi() {
+        Allapot allapot;
+        TProbaAblak orak;
+        QWidget fo;
+        TForm14 d(allapot, orak, &fo);
+        allapot.Visszateresek.szamlalo = 2;
+        allapot.Visszateresek.sorok[1].pillanat = {2024, 3, 5, 2, 0, 0};
+        allapot.Visszateresek.sorok[2].pillanat = {2024, 3, 5, 20, 0, 0};
+        orak.datum = "2024.03.05";
+        for (const auto& [ido, sor] : {std::pair("22:00:00", 1), std::pair("1:00:00", 0)}) {
+            orak.ido = ido;
+            d.kitoltes(RevolucioFajta(1), {2024, 3, 1, 0, 0, 0});
+            valasz([sor = sor](QWidget& ablak) {
+                sorok(ablak).setCurrentRow(1 - sor);
+                sorok(ablak).actions()[0]->trigger();
+                QCOMPARE(sorok(ablak).currentRow(), sor);
+                QTest::keyClick(&ablak, Qt::Key_Escape);
+            });
+            d.megmutat({"egy", "kettő"});
         }
     }
 

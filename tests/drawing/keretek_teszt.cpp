@@ -22,6 +22,30 @@ int vonalak(const std::vector<TMuvelet>& m, int x, int y, double r1, double r2, 
     return szam;
 }
 
+/// Where twelve texts stand: about a centre, the first so many degrees on from the left, drawn from the top
+/// left corner of the first letter.
+struct TKorHely {
+    double x, y, sugar;
+    int elsoFok, eltolas;
+};
+
+void korben(const std::vector<TSzovegMuvelet>& tizenketto, const TKorHely& hely) {
+    ASSERT_EQ(tizenketto.size(), 12U);
+    for (int i = 0; i < 12; ++i) {
+        const double szog = (30 * i + hely.elsoFok) * 3.141592653589793 / 180;
+        const TSzovegMuvelet& sz = tizenketto[static_cast<std::size_t>(i)];
+        EXPECT_NEAR(sz.x, hely.x - hely.sugar * std::cos(szog) - hely.eltolas, 1) << i;
+        EXPECT_NEAR(sz.y, hely.y + hely.sugar * std::sin(szog) - hely.eltolas, 1) << i;
+    }
+}
+
+/// The signs of a drawing's first, second or third wheel.
+std::vector<TSzovegMuvelet> jegyek(const std::vector<TMuvelet>& m, std::size_t kerek) {
+    std::vector<TSzovegMuvelet> ki;
+    for (char jel = 'a'; jel <= 'l'; ++jel) ki.push_back(szovegek(m, {jel}).at(kerek));
+    return ki;
+}
+
 TEST(RadixKeret, AFokskalaOsztasai) {
     Allapot a = probaKeplet();
     const auto m = rajz(a);
@@ -85,6 +109,7 @@ TEST(RadixKeret, AJegyekAKerekenKivul) {
     EXPECT_EQ(kos[0].y, 322 + 72 - 14);   // 279 sin 15 is 72.2
     EXPECT_EQ(kos[0].magassag, 25);
     EXPECT_EQ(kos[0].betutipus, "Jelek");
+    korben(jegyek(m, 0), {342, 322, 279, 15, 14});
 }
 
 TEST(DekadKerek, AKeretEsASzovegek) {
@@ -252,6 +277,8 @@ TEST(DekadKerek, AHuszszorosFeluletenIsArany) {
     EXPECT_EQ(t[12].magassag, 214);         // 206.08 + 8
     EXPECT_EQ(t[12].x, 6460 - 1493 - 107);  // 1546 at 15 degrees
     EXPECT_EQ(t[12].y, 6440 + 400 - 107);
+    korben({t.begin(), t.begin() + 12}, {6460, 6440, 5152, 15, 178});
+    korben(jegyek(m, 0), {6460, 6440, 1546, 15, 107});
 }
 
 TEST(KisDekadKerek, AHuszszorosFeluletenIsArany) {
@@ -273,6 +300,7 @@ TEST(KisDekadKerek, AHuszszorosFeluletenIsArany) {
     EXPECT_EQ(kos[2].magassag, 127);        // 2966 / 25 + 8
     EXPECT_EQ(kos[2].x, 16099 - 860 - 63);  // 890 at 15 degrees
     EXPECT_EQ(kos[2].y, 9660 + 230 - 63);
+    korben(jegyek(m, 2), {16099, 9660, 890, 15, 63});
 }
 
 TEST(KisMundanKerek, AHuszszorosFeluletenIsArany) {
@@ -285,13 +313,7 @@ TEST(KisMundanKerek, AHuszszorosFeluletenIsArany) {
     EXPECT_EQ(kos[1].magassag, 129);         // 124 + 5
     EXPECT_EQ(kos[1].x, 16099 - 2686 - 64);  // 2696 - 3 at 4 degrees; 64.5 to the even
     EXPECT_EQ(kos[1].y, 3220 + 188 - 64);
-    for (int jegy = 0; jegy < 12; ++jegy) {
-        const auto betu = szovegek(m, {static_cast<char>('a' + jegy)});
-        ASSERT_EQ(betu.size(), 3U);
-        const double szog = (30 * jegy + 4) * 3.141592653589793 / 180;
-        EXPECT_NEAR(betu[1].x, 16099 - 2693 * std::cos(szog) - 64, 1) << jegy;
-        EXPECT_NEAR(betu[1].y, 3220 + 2693 * std::sin(szog) - 64, 1) << jegy;
-    }
+    korben(jegyek(m, 1), {16099, 3220, 2693, 4, 64});
 }
 
 }  // namespace

@@ -120,6 +120,28 @@ TEST(MundanKereses, ATablaVegenMegall) {
     EXPECT_EQ(eleje.Keplet.pillanat, (TPillanat{1900, 1, 1, 23, 59, 40}));
 }
 
+/// With orbs over the whole circle the last aspect holds for every pair at every moment; in the half year
+/// before the table's end the verdict then stands. A chart reads two rows, so the search ends with the first
+/// step into the last one's day.
+TEST(MundanKereses, AmiNemValtozikATablaVegeig) {
+    Allapot a = szegedi({2078, 12, 31, 12, 0, 10});
+    for (auto& sor : a.OrbisTabla) sor.tolt(200);
+    const auto akkor = [&](std::int64_t t) {
+        const auto m = static_cast<int>(t % 86400);
+        TMundanLanc lanc;
+        MundanLanc(static_cast<int>(t / 86400), m / 3600, m / 60 % 60, m % 60, szeged, a.OrbisTabla, lanc);
+        return Analogiak(lanc).AnalogiaAllapot;
+    };
+    const std::int64_t kezdet = masodpercek(a.Keplet);
+    for (std::int64_t t = kezdet; t < std::int64_t{utolsoNap} * 86400; t += 1800)
+        ASSERT_EQ(akkor(t), akkor(kezdet)) << t;
+    MundanKereses(a, szeged, 1);
+    EXPECT_EQ(a.Keplet.julianszam, utolsoNap);
+    EXPECT_EQ(a.Keplet.pillanat.ora, 0);
+    EXPECT_EQ(a.Keplet.pillanat.perc, 0);
+    EXPECT_EQ(a.Keplet.pillanat.mperc, 10);
+}
+
 TEST(MundanKereses, ANyariIdoMindenPillanatraUjra) {
     // Across the end of summer time: 29 September 1985, when the clock goes back. The typed flag stands
     // instead.

@@ -339,6 +339,7 @@ private slots:
         menu(a.form1, "Mentes1");
         QVERIFY(!a.allapot().Modositott);
         QCOMPARE(p.kerdesek.last(), ".kvh");  // no name yet
+        QCOMPARE(p.uzenetek, QStringList());
     }
 
     void aHibakUzenetei() {

@@ -43,7 +43,7 @@ private slots:
     }
 
     /// Small parts about the line, without the room inside it: of a large circle a narrow band is copied.
-    void aDarabokKicsikESUresHelyNelkul() {
+    void aDarabokKicsikEsUresHelyNelkul() {
         const auto* darabok = harmadszor(QSize(701, 701));
         QVERIFY(darabok != nullptr);
         for (const TKorDarab& darab : *darabok) {

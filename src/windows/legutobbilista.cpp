@@ -31,7 +31,7 @@ QListWidget* lista(QWidget& szulo, const QStringList& fajlok) {
 
 void legutobbiLista(QFileDialog& dialogus, const QStringList& fajlok) {
     auto* oszto = dialogus.findChild<QSplitter*>("splitter");
-    if (oszto == nullptr || fajlok.isEmpty()) return;
+    if (oszto == nullptr) return;
     auto* oldal = new QWidget;
     auto* felirat = new QLabel("&Legutóbbi képletek:");
     QListWidget* sorok = lista(*oldal, fajlok);

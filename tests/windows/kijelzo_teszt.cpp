@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLibraryInfo>
+#include <QLoggingCategory>
 #include <QProcess>
 #include <QTest>
 
@@ -56,6 +57,23 @@ private slots:
         if (!vanWaylandBovitmeny()) QCOMPARE(f.hibak.count('\n'), 1);
         QCOMPARE(f.vege, QProcess::NormalExit);
         QCOMPARE(f.kod, 1);
+    }
+
+    /// Only what the toolkit says of the display is kept back.
+    void aTobbiUzenetTovabbmegy() {
+        static QStringList jottek;
+        const QtMessageHandler eredeti = qInstallMessageHandler(
+            [](QtMsgType, const QMessageLogContext&, const QString& szoveg) { jottek << szoveg; });
+        {
+            const QLoggingCategory kijelzo("qt.qpa.plugin"), hang("qt.multimedia");
+            const TKijelzoOr jelzoOr;
+            qWarning("a mappa nem olvasható");
+            qCWarning(kijelzo) << "no plugin";
+            qCWarning(hang) << "no sound";
+        }
+        qWarning("utána");
+        qInstallMessageHandler(eredeti);
+        QCOMPARE(jottek, QStringList({"a mappa nem olvasható", "no sound", "utána"}));
     }
 
     void aMondatokMegnevezikAHianyzot() {

@@ -124,6 +124,7 @@ private slots:
         for (int kor = 0; kor < 2; ++kor) {
             menu(a.form1, "Primer1");
             QVERIFY(!vege->isVisible());
+            QCOMPARE(vezerlo<QPlainTextEdit>(a.form12, "Memo1")->toPlainText(), "");
             gepel(a.form12, "SpinEditEv1", "2000");
             kattint(a.form12, "Button_Rendben1");
             QCOMPARE(sorokSzama(a.form12), 22);

@@ -172,6 +172,19 @@ private slots:
         QVERIFY(p.uzenetek.isEmpty());
     }
 
+    /// A file plays as soon as it is read, but not any more when a button has been quicker.
+    void azIndulasElottMegallitottHangNemSzolalMeg() {
+        for (const char* gomb : {"Szunet1", "Megallitas1"}) {
+            TFrissAblakok a;
+            hangNyitasa(a, "Hosszú hang");
+            kattint(a.form5, gomb);
+            QTRY_VERIFY(hossza(a.form5) > 0);
+            QTest::qWait(300);
+            QVERIFY2(jatek(a.form5) != TJatek::megy, gomb);
+            QCOMPARE(helye(a.form5), 0);
+        }
+    }
+
     void jelVagyFajlNelkulSemmi() {
         TFrissAblakok a;
         a.allapot().Szemely.nev = "Szép hang";

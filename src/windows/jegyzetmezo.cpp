@@ -2,8 +2,11 @@
 
 #include <algorithm>
 
+#include <QInputMethodEvent>
+#include <QKeyEvent>
 #include <QMimeData>
-#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
 
 #include "windows/vezerlok.h"
 

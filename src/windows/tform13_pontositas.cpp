@@ -70,14 +70,13 @@ void TForm13::epites() {
 }
 
 void TForm13::hatotavSor() {
-    constexpr QRect hely(szel, 9, 56, mezoMagas);
-    spinEdit1_->setGeometry(hely);
+    spinEdit1_->setGeometry(szel, 9, 56, mezoMagas);
     auto* label1 = ujCimke(this, "Direkciós hatótávolság:   0,", szel, *spinEdit1_);
     label1->setObjectName("Label1");
     spinEdit1_->setObjectName("SpinEdit1");
     spinEdit1_->setRange(1, 99);
     spinEdit1_->setValue(allapot_.PontositasHatotav);
-    spinEdit1_->move(label1->geometry().right() + 2, hely.y());
+    spinEdit1_->move(label1->geometry().right() + 2, spinEdit1_->y());
     connect(spinEdit1_, &QSpinBox::valueChanged, this, &TForm13::SpinEdit1Change);
 }
 

@@ -107,6 +107,18 @@ inline int fekete(const QImage& kep) {
     return static_cast<int>(szam * 10000 / (qint64{kep.width()} * kep.height()));
 }
 
+/// Opens a dialog by a menu item and gives it to the test.
+inline void parbeszedben(TFrissAblakok& a, const char* pont, const std::function<void(QWidget&)>& teendo) {
+    bool volt = false;
+    valasz([&](QWidget& d) {
+        teendo(d);
+        volt = true;
+        d.hide();
+    });
+    menu(a.form1, pont);
+    QVERIFY2(volt, pont);
+}
+
 /// A typed birth on screen.
 inline void szuletes(TFrissAblakok& a) {
     SzemelyiRendben(a.allapot(), mintaSzemely({1975, 7, 21, 6, 4, 9}));

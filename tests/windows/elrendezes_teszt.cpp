@@ -80,18 +80,6 @@ void felirataMellette(const QWidget& ablak, const char* szoveg, const char* nev)
     QVERIFY2(cimke.right() < mezo.left(), nev);
 }
 
-/// Opens a dialog by a menu item and gives it to the test.
-void parbeszedben(TFrissAblakok& a, const char* pont, const std::function<void(QWidget&)>& teendo) {
-    bool volt = false;
-    valasz([&](QWidget& d) {
-        teendo(d);
-        volt = true;
-        d.hide();
-    });
-    menu(a.form1, pont);
-    QVERIFY2(volt, pont);
-}
-
 void mutat(QWidget& ablak) {
     ablak.show();
     QApplication::processEvents();

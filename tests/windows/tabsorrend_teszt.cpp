@@ -47,6 +47,22 @@ void alapGomb(QWidget& ablak) {
     QCOMPARE(alapok, van ? QStringList{"Button_Rendben1"} : QStringList());
 }
 
+/// Shows the windows with fields or buttons one by one.
+void sorban(TFrissAblakok& a, void (*teendo)(QWidget&)) {
+    szuletes(a);
+    a.form8.megmutat();
+    QWidget* const ablakok[]{&a.form2,  &a.form5,  &a.form7,  &a.form8, &a.form9,
+                             &a.form10, &a.form12, &a.form13, &a.form14};
+    for (QWidget* ablak : ablakok) {
+        ablak->show();
+        QApplication::processEvents();
+        teendo(*ablak);
+        ablak->hide();
+    }
+    // This one gets the places of its fields when it is opened.
+    parbeszedben(a, "Tercier1", teendo);
+}
+
 }  // namespace
 
 class TabSorrendTeszt : public QObject {
@@ -57,43 +73,14 @@ private slots:
 
     void mindenAblakban() {
         TFrissAblakok a;
-        szuletes(a);
-        a.form8.megmutat();
-        QWidget* const ablakok[]{&a.form2,  &a.form5,  &a.form7,  &a.form8, &a.form9,
-                                 &a.form10, &a.form12, &a.form13, &a.form14};
-        for (QWidget* ablak : ablakok) {
-            ablak->show();
-            QApplication::processEvents();
-            szemSorrend(*ablak);
-            ablak->hide();
-        }
-        // This one gets the places of its fields when it is opened.
-        valasz([](QWidget& d) {
-            szemSorrend(d);
-            kattint(d, "Button_Megsem1");
-        });
-        menu(a.form1, "Tercier1");
+        sorban(a, szemSorrend);
     }
 
     /// Where there is an OK, the Enter key is its; where there is none, it presses nothing.
     void azEnterARendbene() {
         TFrissAblakok a;
-        szuletes(a);
-        a.form8.megmutat();
-        for (QWidget* ablak :
-             std::initializer_list<QWidget*>{&a.form2, &a.form5, &a.form7, &a.form8, &a.form9, &a.form10,
-                                             &a.form12, &a.form13, &a.form14}) {
-            ablak->show();
-            alapGomb(*ablak);
-            ablak->hide();
-        }
-        for (const char* pont : {"Tercier1", "Orbisok1"}) {
-            valasz([](QWidget& d) {
-                alapGomb(d);
-                kattint(d, "Button_Megsem1");
-            });
-            menu(a.form1, pont);
-        }
+        sorban(a, alapGomb);
+        parbeszedben(a, "Orbisok1", alapGomb);
     }
 
     void azEnterATobbsorosMezobenSortNyit() {

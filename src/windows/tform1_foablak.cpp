@@ -17,6 +17,7 @@
 #include "commands/orajel.h"
 #include "drawing/geometria.h"
 #include "drawing/kepletrajz.h"
+#include "drawing/oldalpanel.h"
 #include "engine/keszlet.h"
 #include "tables/helyhatarok.h"
 #include "tables/szotar.h"
@@ -54,6 +55,18 @@ constexpr TMemoHely kicsiMemo{600, 281};
 constexpr TMemoHely nagyMemo{144, 737};  ///< over the side table too, so that the note can be read
 
 constexpr std::array<int, 7> statuszSzelessegek{48, 90, 150, 135, 150, 90, 750};
+
+/// The small text of the main window: the largest whose widest position still fits in the panel. The status
+/// bar has it too; each further face and size costs the start half a millisecond.
+QFont kisBetu(int dpi) {
+    const QString nev = qszoveg(szovegFont);
+    int magassag = panelSor.szovegMagassag;
+    while (magassag > 8 &&
+           QFontMetrics(cellaMagassaguBetu(nev, magassag, dpi)).horizontalAdvance("28°58'58''") >=
+               panelSzelesseg)
+        --magassag;
+    return cellaMagassaguBetu(nev, magassag, dpi);
+}
 
 }  // namespace
 
@@ -111,9 +124,7 @@ void TForm1::panelEpites() {
     panel1_->setObjectName("Panel1");
     panel1_->setAutoFillBackground(true);
     panel1_->installEventFilter(this);
-    QFont kicsi = font();
-    kicsi.setPixelSize(10);
-    panel1_->setFont(kicsi);
+    panel1_->setFont(kisBetu(logicalDpiY()));
 
     gombEpites(0, "PanelButton2_Most", qszoveg(allapot_.Feliratok.mostGomb), &TForm1::PanelButton2_MostClick);
     gombEpites(1, "PanelButton3_Valt", qszoveg(allapot_.Feliratok.valtGomb), &TForm1::PanelButton3_ValtClick);
@@ -142,9 +153,7 @@ void TForm1::statuszEpites() {
     auto* sav = statusBar();
     sav->setObjectName("StatusBar1");
     sav->setSizeGripEnabled(false);
-    QFont betu(qszoveg(szovegFont));
-    betu.setPixelSize(11);
-    sav->setFont(betu);
+    sav->setFont(panel1_->font());
     for (std::size_t i = 0; i < statusz_.size(); ++i) {
         auto* felirat = new QLabel(qszoveg(allapot_.Feliratok.statusz[i]), sav);
         felirat->setObjectName(QStringLiteral("StatusBar1Panel%1").arg(i));
@@ -162,6 +171,10 @@ void TForm1::statuszEpites() {
 void TForm1::FormCreate() {
     if (!Indulas(allapot_, *this, betuMappak()))
         QMessageBox::critical(this, "Korvend", "A rendszer dátuma vagy ideje nem olvasható.");
+    // The wheel is drawn by the first paint request. Its panel's texts stand by then: a text that changes
+    // while it is being painted asks for a second painting.
+    OldalPanelIras(allapot_.Keplet.bolygo, allapot_.Keplet.hazCsucs, allapot_.Rajz.panel);
+    oldalPanelMutatas();
 }
 
 void TForm1::kepletRajzolas(const QRegion& resz) {
@@ -195,21 +208,6 @@ void TForm1::FormResize() {
     if (megjelent_) RajzolKeplet();  // otherwise the first paint request draws
 }
 
-namespace {
-
-/// The largest text font whose widest position text still fits in the panel.
-QFont panelSzamBetu(int dpi) {
-    const QString nev = qszoveg(szovegFont);
-    int magassag = panelSor.szovegMagassag;
-    while (magassag > 8 &&
-           QFontMetrics(cellaMagassaguBetu(nev, magassag, dpi)).horizontalAdvance("28°58'58''") >=
-               panelSzelesseg)
-        --magassag;
-    return cellaMagassaguBetu(nev, magassag, dpi);
-}
-
-}  // namespace
-
 void TForm1::oldalPanelMutatas() {
     const QString szimbolum = qszoveg(allapot_.Rajz.szimbolumFont);
     const auto& panel = allapot_.Rajz.panel;
@@ -220,25 +218,20 @@ void TForm1::oldalPanelMutatas() {
     if (betutipus_ == szimbolum) return;
     betutipus_ = szimbolum;
     const QFont jel = cellaMagassaguBetu(szimbolum, panelSor.jelMagassag, logicalDpiY());
-    const QFont szam = panelSzamBetu(logicalDpiY());
     for (std::size_t sor = 0; sor < panel.size(); ++sor) {
-        label_[3 * sor]->setFont(sor < 10 ? jel : szam);
+        if (sor < 10) label_[3 * sor]->setFont(jel);
         label_[3 * sor + 1]->setFont(jel);
-        label_[3 * sor + 2]->setFont(szam);
     }
 }
 
 void TForm1::Mutat() {
     const TFeliratok& f = allapot_.Feliratok;
-    const auto frissit = [](auto* mezo, const std::string& ertek) {
-        if (const QString uj = qszoveg(ertek); mezo->text() != uj) mezo->setText(uj);
-    };
-    for (std::size_t i = 0; i < statusz_.size(); ++i) frissit(statusz_[i], f.statusz[i]);
+    for (std::size_t i = 0; i < statusz_.size(); ++i) statusz_[i]->setText(qszoveg(f.statusz[i]));
     const TKeplet& k = allapot_.Keplet;
     statusz_[panelKoordinata]->setToolTip(
         qszoveg(HelyenKivul(k.idozona, k.nyariIdo, k.hosszusag, k.szelesseg)));
-    frissit(mostGomb_, f.mostGomb);
-    frissit(valtGomb_, f.valtGomb);
+    mostGomb_->setText(qszoveg(f.mostGomb));
+    valtGomb_->setText(qszoveg(f.valtGomb));
     setWindowTitle(qszoveg(f.cim));
     if (const QString memo = qszoveg(f.memo); memo1_->toPlainText() != memo) memo1_->setPlainText(memo);
     if (ablakok_ == nullptr) return;

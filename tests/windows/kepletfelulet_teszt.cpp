@@ -62,9 +62,22 @@ QList<int> tintaSorok(const QImage& kep, int balra, int jobbra) {
     return sorok;
 }
 
-const QLabel* cimke(const TForm1& ablak, int szam) {
+QLabel* cimke(const TForm1& ablak, int szam) {
     return vezerlo<QLabel>(ablak, qPrintable(QStringLiteral("Label%1").arg(szam)));
 }
+
+/// Counts how often a widget is painted.
+class TFestesSzamlalo : public QObject {
+public:
+    explicit TFestesSzamlalo(QWidget& mezo) { mezo.installEventFilter(this); }
+    int szam = 0;
+
+private:
+    bool eventFilter(QObject* targy, QEvent* esemeny) override {
+        if (esemeny->type() == QEvent::Paint) ++szam;
+        return QObject::eventFilter(targy, esemeny);
+    }
+};
 
 }  // namespace
 
@@ -275,6 +288,15 @@ private slots:
                 QCOMPARE(a.felszin(), a.tisztaRajz());
             }
         }
+    }
+
+    void azIndulasEgyszerFestiAPanelt() {
+        TAblakok a;
+        a.form1.findChild<QTimer*>("Timer1")->stop();  // a tick paints anew
+        const TFestesSzamlalo helyzet(*cimke(a.form1, 3));
+        a.form1.show();
+        QApplication::processEvents();
+        QCOMPARE(helyzet.szam, 1);
     }
 
     void aHelyzetSzovegAJeleihezTartozik() {

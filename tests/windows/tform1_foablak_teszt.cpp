@@ -124,11 +124,20 @@ private slots:
             QCOMPARE(mezo->frameShape(), QFrame::Panel);
             QCOMPARE(mezo->frameShadow(), QFrame::Sunken);
             QCOMPARE(mezo->font().family(), "Ariel");
-            QCOMPARE(mezo->font().pixelSize(), sav->font().pixelSize());
+            QCOMPARE(mezo->font(), sav->font());
         }
         // The letters of a full moment fit in the panel of its width.
         const auto* mikor = vezerlo<QLabel>(a.form1, "StatusBar1Panel3");
         QVERIFY(mikor->fontMetrics().horizontalAdvance("1975.07.21. 06:04:09 GMT") < 135);
+    }
+
+    /// Each further face and size would be loaded at the start.
+    void aKisSzovegekEgyBetuvel() {
+        TFrissAblakok a;
+        const QFont kicsi = vezerlo<QStatusBar>(a.form1, "StatusBar1")->font();
+        for (const char* nev : {"PanelButton2_Most", "PanelButton7Tercier", "Label3", "Label31", "Label48",
+                                "Memo1", "StatusBar1Panel0", "StatusBar1Panel6"})
+            QVERIFY2(vezerlo<QWidget>(a.form1, nev)->font() == kicsi, nev);
     }
 
     void aNevNemJelolonyelvAzAllapotsorban() {

@@ -40,16 +40,18 @@ double eltero(const QImage& kep, const QImage& kepernyo) {
     return legnagyobbFolt(kicsinyitve(kep), kicsinyitve(kepernyo), oldal);
 }
 
+/// A file of the contents given. @return its path, empty where it can't be written
+QString fajlba(const QTemporaryDir& mappa, const char* nev, const QByteArray& tartalom) {
+    QFile fajl(mappa.filePath(nev));
+    return fajl.open(QIODevice::WriteOnly) && fajl.write(tartalom) == tartalom.size() ? fajl.fileName() : "";
+}
+
 /// A picture file of another program, made of one of ours; null without that program.
 QImage masProgrammal(const QByteArray& tartalom, const char* nev, const QString& program,
                      const QStringList& elotte) {
     const QTemporaryDir mappa;
-    const QString be = mappa.filePath(nev);
+    const QString be = fajlba(mappa, nev, tartalom);
     const QString ki = mappa.filePath("ki.png");
-    QFile fajl(be);
-    if (!fajl.open(QIODevice::WriteOnly)) return {};
-    fajl.write(tartalom);
-    fajl.close();
     QStringList argumentumok = elotte;
     argumentumok << be;
     if (program == "rsvg-convert")
@@ -126,6 +128,17 @@ private slots:
                                          {"-png", "-singlefile", "-r", "96"});
         QVERIFY(qAbs(kep.width() - 946) <= 1 && qAbs(kep.height() - 650) <= 1);
         QVERIFY(eltero(kep.copy(0, 0, 946, 650), kepernyo(allapot())) < 30);
+    }
+
+    void aPdfAdataiKozottACimEsAKeszito() {
+        if (QStandardPaths::findExecutable("pdfinfo").isEmpty()) QSKIP("no pdfinfo");
+        const QTemporaryDir mappa;
+        QProcess pdfinfo;
+        pdfinfo.start("pdfinfo", {fajlba(mappa, "k.pdf", kepletPdf(allapot(), mekkora))});
+        QVERIFY(pdfinfo.waitForFinished());
+        const QString adatok = QString::fromUtf8(pdfinfo.readAllStandardOutput()).simplified();
+        QVERIFY2(adatok.contains("Title: Minta Anna, 1975.07.21. 06:04:09 ZN, Szeged"), qPrintable(adatok));
+        QVERIFY2(adatok.contains("Creator: Korvend "), qPrintable(adatok));
     }
 
     void azAblakotNelkuliMeretNemOmlikOssze() {

@@ -160,6 +160,9 @@ private slots:
         const THazcsucsok csucsok = a.allapot().Keplet.hazCsucs;
 
         const char elobb = ertekeles(a).analogiak.AnalogiaAllapot;
+        a.allapot().Feliratok.leptetoCim = "1975.07.21.";
+        a.form1.Mutat();
+        QCOMPARE(a.form7.windowTitle(), "1975.07.21.");
         kattint(a.form8, "Button1Keresesm");
         QVERIFY(a.allapot().Keplet.pillanat != (TPillanat{1975, 7, 21, 6, 4, 9}));
         QVERIFY(ertekeles(a).analogiak.AnalogiaAllapot != elobb);

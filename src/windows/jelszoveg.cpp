@@ -8,7 +8,6 @@
 #include "windows/qszoveg.h"
 
 TJelSzoveg::TJelSzoveg(QWidget* szulo) : TJelCimke(szulo) {
-    setTextFormat(Qt::PlainText);
     setFocusPolicy(Qt::StrongFocus);  // its text is copied from here
 }
 

@@ -81,6 +81,19 @@ private slots:
         }
     }
 
+    /// 16 bytes and 32 bytes; less or more is of a file that was cut or is another's.
+    void aCsonkaSoEsKulcsOlvashatatlan() {
+        const QByteArray so(32, 'a'), kulcs(64, 'b');
+        irj(so + ' ' + kulcs);
+        QCOMPARE(TJelszoTar(tarFajl()).allas(), TJelszoTar::Allas::vanJelszo);
+        for (const QByteArray& tartalom :
+             {so + ' ' + kulcs.chopped(2), so.chopped(2) + ' ' + kulcs, so + ' ' + kulcs + "bb",
+              so + "aa " + kulcs, so + ' ' + kulcs + " x"}) {
+            irj(tartalom);
+            QCOMPARE(TJelszoTar(tarFajl()).allas(), TJelszoTar::Allas::olvashatatlan);
+        }
+    }
+
     void azUjJelszoARegitValtja() {
         TJelszoTar tar(tarFajl());
         QVERIFY(tar.ment("titok"));

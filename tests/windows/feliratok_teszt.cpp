@@ -426,9 +426,10 @@ private slots:
         kattint(a.form12, "Button_Pontositas1");
         QCOMPARE(a.form13.width(), 369);
         vezerlo<QWidget>(a.form13, "Memo3")->hide();  // it lies outside
+        a.form10.show();
         QApplication::processEvents();
         QCOMPARE(a.form12.font().pointSize(), 14);
-        for (QWidget* ablak : QWidgetList{&a.form12, &a.form13}) {
+        for (QWidget* ablak : QWidgetList{&a.form10, &a.form12, &a.form13}) {
             szabadon(*ablak);
             vagatlan(*ablak);
         }

@@ -111,11 +111,10 @@ QGridLayout* TForm10::mezokEpitese() {
     helyseg_ = ujHelysegMezo(this, "ComboBoxHelyseg1");
     racs->addLayout(felirattal("Solar-évforduló helye:", helyseg_), 2, 0);
     QHBoxLayout* hely = szamMezok(helyMezok);
-    solarNap_ = new QLabel(this);
+    solarNap_ = new QLabel("VII", this);  // the longest one
     hely->addStretch();
     hely->addLayout(felirattal("Solar-Nap:", solarNap_));
     racs->addLayout(hely, 2, 1);
-    racs->setColumnStretch(0, 1);
     return racs;
 }
 
@@ -123,8 +122,9 @@ void TForm10::mezokBeallitasa() {
     hosszKorlat(*esemeny_, rovidSzovegHossz);
     hosszKorlat(*analogia_, hosszuSzovegHossz);
     solarNap_->setObjectName("LabelSolarNap1");
-    solarNap_->setMinimumWidth(fontMetrics().horizontalAdvance("VII"));  // the longest one
-    helyseg_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);   // as wide as its row lets it be
+    solarNap_->setMinimumWidth(solarNap_->sizeHint().width());
+    solarNap_->clear();
+    helyseg_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);  // as wide as its row lets it be
     // All fields as high as the highest, all numbers at least as wide as the longest of two figures.
     const int magassag = helyseg_->sizeHint().height();
     for (auto* mezo : findChildren<QSpinBox*>()) mezo->setMinimumSize(idozona_->sizeHint().width(), magassag);

@@ -68,7 +68,6 @@ void TForm13::epites() {
     listakHelye_ = new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Expanding);
     auto* egesz = new QGridLayout(this);
     egesz->setContentsMargins(szel, szel, szel, szel);
-    egesz->setHorizontalSpacing(0);
     egesz->addLayout(hatotavSor(), 0, 0, 1, 2);
     egesz->addItem(listakHelye_, 1, 0, 1, 2);
     // The buttons share the first width, and keep to it in a wider window.
@@ -151,7 +150,7 @@ QHBoxLayout* TForm13::gombok() {
     const auto gomb = [&](const char* nev, const char* felirat) {
         auto* uj = ujGomb(this, nev, felirat);
         uj->setMinimumHeight(gombMagas);
-        sor->addWidget(uj, 1);
+        sor->addWidget(uj);
         return uj;
     };
     auto* rendben = gomb("Button_Rendben1", "Rendben");

@@ -416,6 +416,15 @@ private slots:
         QCOMPARE(hely(d, "SpinEditHosszPerc1").left() - hely(d, "SpinEditHosszFok1").right(),
                  hely(d, "SpinEditSzelPerc1").left() - hely(d, "SpinEditSzelFok1").right());
         QVERIFY(d.rect().contains(hely(d, "LabelSolarNap1")));
+        // The fields do not move with the house that is shown.
+        auto* solarNap = vezerlo<QLabel>(d, "LabelSolarNap1");
+        const QRect szelPerc = hely(d, "SpinEditSzelPerc1");
+        for (const char* haz : {"", "I", "VII", "12"}) {
+            solarNap->setText(haz);
+            QApplication::processEvents();
+            QCOMPARE(hely(d, "SpinEditSzelPerc1"), szelPerc);
+            QVERIFY(solarNap->sizeHint().width() <= solarNap->width());
+        }
     }
 
     void azEletesemenyekFelirataiEsGombjai() {
@@ -524,6 +533,8 @@ private slots:
             const int alul = d.height() - hely(d, "Memo1").bottom();
             QVERIFY(alul > hely(d, "Button_Rendben1").height());
             QVERIFY(alul < 2 * hely(d, "Button_Rendben1").height());
+            QCOMPARE(hely(d, "Button_Rendben1").top() - hely(d, "Memo1").bottom(),
+                     d.height() - hely(d, "Button_Rendben1").bottom());
             const auto* memo = vezerlo<QPlainTextEdit>(d, "Memo1");
             QVERIFY(memo->viewport()->height() > 3 * memo->fontMetrics().height());
         }

@@ -443,6 +443,21 @@ private slots:
         QVERIFY(memo->fontMetrics().height() * 22 <= memo->viewport()->height());
     }
 
+    /// The letters grow while the window is open.
+    void aPontositasAMegnovoBetuhozIsIgazodik() {
+        TFrissAblakok a;
+        menu(a.form1, "Primer1");
+        kattint(a.form12, "Button_Pontositas1");
+        vezerlo<QWidget>(a.form13, "Memo3")->hide();  // it lies outside
+        QApplication::processEvents();
+        const TNagyBetu nagy;
+        const auto* fej = vezerlo<QLabel>(a.form13, "Label2");
+        QTRY_COMPARE(fej->font().pointSize(), 14);
+        QTRY_VERIFY(fej->height() >= fej->sizeHint().height());  // in more than one round of events
+        szabadon(a.form13);
+        vagatlan(a.form13);
+    }
+
     void azEletesemenyekOszlopaiMegadottHelyen() {
         const QList<int> oszlopok{7, 22, 180, 290, 318, 333, 348, 363, 378, 410, 520, 538, 556, 574, 632};
         TFrissAblakok a;

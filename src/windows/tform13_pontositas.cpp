@@ -68,6 +68,7 @@ void TForm13::epites() {
     listakHelye_ = new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Expanding);
     auto* egesz = new QGridLayout(this);
     egesz->setContentsMargins(szel, szel, szel, szel);
+    egesz->setHorizontalSpacing(0);
     egesz->addLayout(hatotavSor(), 0, 0, 1, 2);
     egesz->addItem(listakHelye_, 1, 0, 1, 2);
     // The buttons share the first width, and keep to it in a wider window.

@@ -515,6 +515,8 @@ private slots:
         menu(a.form1, "Primer1");
         kattint(a.form12, "Button_Pontositas1");
         QWidget& d = a.form13;
+        QApplication::processEvents();
+        jobbraZarva(d, {"Memo2", "Button_Eletesemenyek1"});  // in the first width
         for (const QSize& meret : {QSize(369, 430), QSize(722, 430), QSize(900, 600), QSize(1, 1)}) {
             d.resize(meret);
             QApplication::processEvents();

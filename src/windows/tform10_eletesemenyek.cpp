@@ -1,7 +1,6 @@
 #include "windows/tform10_eletesemenyek.h"
 
 #include <QMouseEvent>
-#include <QSignalBlocker>
 
 #include "events/analogia.h"
 #include "tables/fokperc.h"
@@ -23,9 +22,7 @@ constexpr int listaTeteje = 26;
 constexpr int sorMagassag = 17;
 constexpr int ablakSzelesseg = 690;
 constexpr int mezokTeteje = listaTeteje + esemenyHelyek * sorMagassag + 10;
-
-constexpr int mezoMagassag = 22;
-constexpr int mezoSorKoz = 28;
+constexpr int koz = 4;  ///< between a caption and its field
 
 /// Columns whose click selects the row: number, event, analogies.
 constexpr std::size_t kijeloloOszlopok = 3;
@@ -42,17 +39,13 @@ void TForm10::epites() {
     kicsi.setFamily(qszoveg(szovegFont));
     kicsi.setPixelSize(11);
     setFont(kicsi);
-    setFixedSize(ablakSzelesseg, mezokTeteje + 150);
     listaEpitese();
-    mezokEpitese();
-    gombok();
-}
-
-QPushButton* TForm10::gomb(const char* nev, const QString& felirat, const QRect& hely,
-                           void (TForm10::*kezelo)()) {
-    auto* uj = ujGomb(this, nev, felirat, hely);
-    connect(uj, &QPushButton::clicked, this, kezelo);
-    return uj;
+    auto* egesz = new QVBoxLayout(this);
+    egesz->setContentsMargins(oszlopHelyek[0], mezokTeteje, oszlopHelyek[0], oszlopHelyek[0]);
+    egesz->addLayout(mezokEpitese());
+    mezokBeallitasa();
+    egesz->addLayout(gombok());
+    setFixedSize(ablakSzelesseg, sizeHint().height());
 }
 
 void TForm10::listaEpitese() {
@@ -75,61 +68,87 @@ void TForm10::listaEpitese() {
     }
 }
 
-void TForm10::szamMezok(std::span<const TSzamMezo> leirasok, int y) {
-    for (const TSzamMezo& l : leirasok) {
-        QSpinBox* uj = ujSzamMezo(this, l.nev, l.also, l.felso, {l.x, y, l.szelesseg, mezoMagassag});
-        if (l.felirat != nullptr) ujCimke(this, l.felirat, l.feliratX, *uj);
-        this->*l.mezo = uj;
-    }
+/// A field behind its caption, if it has one.
+QHBoxLayout* TForm10::felirattal(const char* felirat, QWidget* mezo) {
+    auto* sor = new QHBoxLayout;
+    sor->setSpacing(koz);
+    if (felirat != nullptr) sor->addWidget(new QLabel(felirat, this));
+    sor->addWidget(mezo, 1);
+    return sor;
 }
 
-void TForm10::mezokEpitese() {
-    static constexpr TSzamMezo idoMezok[]{
-        {"Év:", 7, "SpinEditEv1", 1900, 2068, 28, 60, &TForm10::ev_},
-        {"Hó:", 95, "SpinEditHo1", 1, 12, 117, 44, &TForm10::ho_},
-        {"Nap:", 168, "SpinEditNap1", 1, 31, 196, 44, &TForm10::nap_},
-        {"Óra:", 250, "SpinEditOra1", 0, 23, 275, 44, &TForm10::ora_},
-        {"Perc:", 326, "SpinEditPerc1", 0, 59, 356, 44, &TForm10::perc_},
-        {"Mp:", 407, "SpinEditMperc1", 0, 59, 430, 44, &TForm10::mperc_},
-        {"Időzóna:", 484, "SpinEditIdozona1", -12, 12, 534, 44, &TForm10::idozona_},
-        {"Nyári id.:", 586, "SpinEditNyariidosz1", 0, 1, 636, 44, &TForm10::nyariIdo_}};
-    static constexpr TSzamMezo helyMezok[]{
-        {"Hossz.:", 323, "SpinEditHosszFok1", -180, 180, 364, 52, &TForm10::hosszFok_},
-        {nullptr, 0, "SpinEditHosszPerc1", 0, 59, 419, 44, &TForm10::hosszPerc_},
-        {"Szél.:", 469, "SpinEditSzelFok1", -180, 180, 500, 54, &TForm10::szelFok_},
-        {nullptr, 0, "SpinEditSzelPerc1", 0, 59, 557, 44, &TForm10::szelPerc_}};
+/// The room that a row has over goes between the captioned fields.
+QHBoxLayout* TForm10::szamMezok(std::span<const TSzamMezo> leirasok) {
+    auto* sor = new QHBoxLayout;
+    sor->setSpacing(koz);
+    for (const TSzamMezo& l : leirasok) {
+        if (sor->count() > 0 && l.felirat != nullptr) sor->addStretch();
+        this->*l.mezo = ujSzamMezo(this, l.nev, l.also, l.felso);
+        sor->addLayout(felirattal(l.felirat, this->*l.mezo));
+    }
+    return sor;
+}
 
-    const int y = mezokTeteje;
-    esemeny_ = ujSzovegMezo(this, "Edit_Eletesemenyek1", {90, y, 230, mezoMagassag});
-    ujCimke(this, "Életesemény:", 7, *esemeny_);
-    hosszKorlat(*esemeny_, rovidSzovegHossz);
-    analogia_ = ujSzovegMezo(this, "Edit_Hazanalogiak1", {420, y, 260, mezoMagassag});
-    ujCimke(this, "Házanalógiák:", 335, *analogia_);
-    hosszKorlat(*analogia_, hosszuSzovegHossz);
-
-    szamMezok(idoMezok, y + mezoSorKoz);
-
-    const int y3 = y + 2 * mezoSorKoz;
+QGridLayout* TForm10::mezokEpitese() {
+    static constexpr TSzamMezo idoMezok[]{{"Év:", "SpinEditEv1", 1900, 2068, &TForm10::ev_},
+                                          {"Hó:", "SpinEditHo1", 1, 12, &TForm10::ho_},
+                                          {"Nap:", "SpinEditNap1", 1, 31, &TForm10::nap_},
+                                          {"Óra:", "SpinEditOra1", 0, 23, &TForm10::ora_},
+                                          {"Perc:", "SpinEditPerc1", 0, 59, &TForm10::perc_},
+                                          {"Mp:", "SpinEditMperc1", 0, 59, &TForm10::mperc_},
+                                          {"Időzóna:", "SpinEditIdozona1", -12, 12, &TForm10::idozona_},
+                                          {"Nyári id.:", "SpinEditNyariidosz1", 0, 1, &TForm10::nyariIdo_}};
+    static constexpr TSzamMezo helyMezok[]{{"Hossz.:", "SpinEditHosszFok1", -180, 180, &TForm10::hosszFok_},
+                                           {nullptr, "SpinEditHosszPerc1", 0, 59, &TForm10::hosszPerc_},
+                                           {"Szél.:", "SpinEditSzelFok1", -180, 180, &TForm10::szelFok_},
+                                           {nullptr, "SpinEditSzelPerc1", 0, 59, &TForm10::szelPerc_}};
+    auto* racs = new QGridLayout;
+    esemeny_ = ujSzovegMezo(this, "Edit_Eletesemenyek1");
+    racs->addLayout(felirattal("Életesemény:", esemeny_), 0, 0);
+    analogia_ = ujSzovegMezo(this, "Edit_Hazanalogiak1");
+    racs->addLayout(felirattal("Házanalógiák:", analogia_), 0, 1);
+    racs->addLayout(szamMezok(idoMezok), 1, 0, 1, 2);
     helyseg_ = ujHelysegMezo(this, "ComboBoxHelyseg1");
-    helyseg_->setGeometry(125, y3, 195, mezoMagassag);
-    ujCimke(this, "Solar-évforduló helye:", 7, *helyseg_);
-    szamMezok(helyMezok, y3);
-    solarNap_ = new QLabel(this);
+    racs->addLayout(felirattal("Solar-évforduló helye:", helyseg_), 2, 0);
+    QHBoxLayout* hely = szamMezok(helyMezok);
+    solarNap_ = new QLabel("VII", this);  // the longest one
+    hely->addStretch();
+    hely->addLayout(felirattal("Solar-Nap:", solarNap_));
+    racs->addLayout(hely, 2, 1);
+    return racs;
+}
+
+void TForm10::mezokBeallitasa() {
+    hosszKorlat(*esemeny_, rovidSzovegHossz);
+    hosszKorlat(*analogia_, hosszuSzovegHossz);
     solarNap_->setObjectName("LabelSolarNap1");
-    solarNap_->setGeometry(666, y3, 24, mezoMagassag);
-    ujCimke(this, "Solar-Nap:", 607, *solarNap_);
+    solarNap_->setMinimumWidth(solarNap_->sizeHint().width());
+    solarNap_->clear();
+    helyseg_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);  // as wide as its row lets it be
+    // All fields as high as the highest, all numbers at least as wide as the longest of two figures.
+    const int magassag = helyseg_->sizeHint().height();
+    for (auto* mezo : findChildren<QSpinBox*>()) mezo->setMinimumSize(idozona_->sizeHint().width(), magassag);
+    for (auto* mezo : QWidgetList{esemeny_, analogia_, solarNap_}) mezo->setMinimumHeight(magassag);
 
     connect(helyseg_, &QComboBox::editTextChanged, this, &TForm10::ComboBoxHelyseg1Change);
     for (const QSpinBox* mezo : {ev_, ho_, nap_, ora_, perc_, mperc_})
         connect(mezo, &QSpinBox::valueChanged, this, &TForm10::SpinEditEv1Change);
 }
 
-void TForm10::gombok() {
-    const int y = mezokTeteje + 2 * mezoSorKoz + 34;
-    gomb("Button_Rendben1", "Rendben", {90, y, 100, 26}, &TForm10::Button_Rendben1Click)->setDefault(true);
-    gomb("Button_Torol1", "Töröl", {196, y, 100, 26}, &TForm10::Button_Torol1Click);
-    gomb("Button_Rendben2", "Lista rendben", {440, y, 120, 26}, &TForm10::Button_Rendben2Click);
-    gomb("Button_Megsem2", "Mégsem", {566, y, 100, 26}, &TForm10::Button_Megsem2Click);
+QHBoxLayout* TForm10::gombok() {
+    auto* sor = new QHBoxLayout;
+    const auto gomb = [&](const char* nev, const char* felirat, void (TForm10::*kezelo)()) {
+        auto* uj = ujGomb(this, nev, felirat);
+        connect(uj, &QPushButton::clicked, this, kezelo);
+        sor->addWidget(uj);
+        return uj;
+    };
+    gomb("Button_Rendben1", "Rendben", &TForm10::Button_Rendben1Click)->setDefault(true);
+    gomb("Button_Torol1", "Töröl", &TForm10::Button_Torol1Click);
+    sor->addStretch();
+    gomb("Button_Rendben2", "Lista rendben", &TForm10::Button_Rendben2Click);
+    gomb("Button_Megsem2", "Mégsem", &TForm10::Button_Megsem2Click);
+    return sor;
 }
 
 void TForm10::megmutat(std::function<TSzuletes()> szuletes, const TEletesemeny& kezdoHely) {

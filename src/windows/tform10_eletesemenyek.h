@@ -4,9 +4,9 @@
 #include <functional>
 #include <span>
 
+#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QSpinBox>
 
 #include "chart/allapot.h"
@@ -42,20 +42,19 @@ private slots:
 
 private:
     void epites() override;
-    /// A number field with its caption, if it has one of its own; horizontal places in pixels.
+    /// A number field with its caption, if it has one of its own.
     struct TSzamMezo {
         const char* felirat;
-        int feliratX;
         const char* nev;
         int also, felso;
-        int x, szelesseg;
         QSpinBox* TForm10::*mezo;
     };
-    void szamMezok(std::span<const TSzamMezo> leirasok, int y);
-    void mezokEpitese();
-    void gombok();
+    QHBoxLayout* felirattal(const char* felirat, QWidget* mezo);
+    QHBoxLayout* szamMezok(std::span<const TSzamMezo> leirasok);
+    QGridLayout* mezokEpitese();
+    void mezokBeallitasa();
+    QHBoxLayout* gombok();
     void listaEpitese();
-    QPushButton* gomb(const char* nev, const QString& felirat, const QRect& hely, void (TForm10::*kezelo)());
     void LEletesClick(const QString& felirat);
     TPillanat pillanat() const;
     void listaMutatasa();

@@ -1,6 +1,8 @@
 #include "windows/tform12_primer.h"
 
-#include <QPushButton>
+#include <algorithm>
+
+#include <QVBoxLayout>
 
 #include "chart/allapot.h"
 #include "predictive/olvashato.h"
@@ -14,12 +16,8 @@
 
 namespace {
 
-constexpr QSize ablakMeret{560, 470};
-constexpr int alsoTav = 18;  ///< pixels above the main window's bottom
-constexpr int memoBal = 8;
-constexpr int fejTetej = 48;
-constexpr int memoTetej = fejTetej + 20;
-constexpr int memoAlja = memoTetej + 360;
+constexpr QSize legkisebbMeret{560, 470};  ///< large letters make the window larger
+constexpr int alsoTav = 18;                ///< pixels above the main window's bottom
 
 }  // namespace
 
@@ -27,48 +25,76 @@ TForm12::TForm12(Allapot& allapot, FoAblak&, QWidget* fo)
     : TKesobbiAblak(fo, Qt::Dialog | Qt::WindowStaysOnTopHint), allapot_(allapot), fo_(fo) {
     setObjectName("TForm12");
     setWindowTitle("Primer direkció");
-    setFixedSize(ablakMeret);
 }
 
 void TForm12::epites() {
+    auto* egesz = new QVBoxLayout(this);
+    egesz->addLayout(felsoSor());
+    egesz->addWidget(fejSav());
     memo1_ = new QPlainTextEdit(this);
-    vege_ = ujCimke(this, QStringLiteral("Legfeljebb %1 sor; a lista itt véget ér.").arg(primerLegtobbSor),
-                    {memoBal, memoAlja + 4});
-    const auto mezo = [this](const char* nev, const char* felirat, int also, int felso, int x,
-                             int feliratSzelesseg) {
-        QSpinBox* uj = ujSzamMezo(this, nev, also, felso, {x + feliratSzelesseg, 10, 66, mezoMagas});
-        ujCimke(this, felirat, x, *uj);
-        return uj;
-    };
-    ev_ = mezo("SpinEditEv1", "Kezdő év:", 1900, 2068, 10, 66);
-    ho_ = mezo("SpinEditHo1", "hó:", 1, 12, 156, 28);
-    nap_ = mezo("SpinEditNap1", "nap:", 1, 31, 264, 36);
-    const auto gomb = [this](const char* nev, const char* felirat, const QRect& hely,
-                             void (TForm12::*kezelo)()) {
-        auto* uj = ujGomb(this, nev, felirat, hely);
-        connect(uj, &QPushButton::clicked, this, kezelo);
-        return uj;
-    };
-    gomb("Button_Rendben1", "Rendben", {384, 9, 80, gombMagas}, &TForm12::Button_Rendben1Click)
-        ->setDefault(true);
-    auto* megsem = gomb("Button_Megsem1", "Mégsem", {470, 9, 80, gombMagas}, &TForm12::Button_Megsem1Click);
-    auto* pontositasGomb = ujGomb(this, "Button_Pontositas1", "Pontosítás", {450, 436, 100, gombMagas});
-    connect(pontositasGomb, &QPushButton::clicked, this, [this] {
-        if (pontositas) pontositas();
-    });
-    setTabOrder(megsem, memo1_);
-
-    label8_ = new QLabel("Solar-Nap:", this);
-    label8_->setObjectName("Label8");
-    std::size_t n = 0;
-    for (const char* fej : {"dMC:", "cMC:", "dAsc:", "cAsc:"}) fejek_[n++] = new QLabel(fej, this);
     memo1_->setObjectName("Memo1");
     memo1_->setReadOnly(true);
     memo1_->setLineWrapMode(QPlainTextEdit::NoWrap);
-    memo1_->setGeometry(memoBal, memoTetej, ablakMeret.width() - 2 * memoBal, memoAlja - memoTetej);
     new TListaMuveletek(*memo1_, [this] { return lista(); });
+    egesz->addWidget(memo1_);
+    egesz->addLayout(alsoSor());
+    setFixedSize(legkisebbMeret.expandedTo(sizeHint()));
+}
+
+QPushButton* TForm12::gomb(const char* nev, const char* felirat) {
+    auto* uj = ujGomb(this, nev, felirat);
+    uj->setMinimumHeight(gombMagas);
+    return uj;
+}
+
+QHBoxLayout* TForm12::felsoSor() {
+    auto* sor = new QHBoxLayout;
+    const auto mezo = [&](const char* nev, const char* felirat, int also, int felso) {
+        auto* uj = ujSzamMezo(this, nev, also, felso);
+        sor->addWidget(new QLabel(felirat, this));
+        sor->addWidget(uj);
+        sor->addStretch();
+        return uj;
+    };
+    ev_ = mezo("SpinEditEv1", "Kezdő év:", 1900, 2068);
+    ho_ = mezo("SpinEditHo1", "hó:", 1, 12);
+    nap_ = mezo("SpinEditNap1", "nap:", 1, 31);
+    for (QSpinBox* m : {ev_, ho_, nap_}) m->setMinimumSize(ev_->sizeHint().expandedTo({0, mezoMagas}));
+    auto* rendben = gomb("Button_Rendben1", "Rendben");
+    rendben->setDefault(true);
+    auto* megsem = gomb("Button_Megsem1", "Mégsem");
+    sor->addWidget(rendben);
+    sor->addWidget(megsem);
+    connect(rendben, &QPushButton::clicked, this, &TForm12::Button_Rendben1Click);
+    connect(megsem, &QPushButton::clicked, this, &TForm12::Button_Megsem1Click);
+    return sor;
+}
+
+/// The strip over the list; where in it a head stands is the list's font's matter.
+QWidget* TForm12::fejSav() {
+    auto* sav = new QWidget(this);
+    label8_ = new QLabel("Solar-Nap:", sav);
+    label8_->setObjectName("Label8");
+    std::size_t n = 0;
+    for (const char* fej : {"dMC:", "cMC:", "dAsc:", "cAsc:"}) fejek_[n++] = new QLabel(fej, sav);
+    sav->setFixedHeight(label8_->sizeHint().height());
+    return sav;
+}
+
+QHBoxLayout* TForm12::alsoSor() {
+    vege_ =
+        new QLabel(QStringLiteral("Legfeljebb %1 sor; a lista itt véget ér.").arg(primerLegtobbSor), this);
     vege_->setObjectName("LabelVege1");
     vege_->hide();
+    auto* pontositasGomb = gomb("Button_Pontositas1", "Pontosítás");
+    connect(pontositasGomb, &QPushButton::clicked, this, [this] {
+        if (pontositas) pontositas();
+    });
+    auto* sor = new QHBoxLayout;
+    sor->addWidget(vege_);
+    sor->addStretch();
+    sor->addWidget(pontositasGomb);
+    return sor;
 }
 
 /// Symbol font in the list, and each head over its column: the columns are indented by that font's blanks.
@@ -76,13 +102,17 @@ void TForm12::betukEsFejek() {
     const QFont betu = cellaMagassaguBetu(qszoveg(sajatSzimbolumFont), 14, logicalDpiY());
     memo1_->setFont(betu);
     const QFontMetrics meretek(betu);
-    const int bal = memoBal + memo1_->frameWidth() + static_cast<int>(memo1_->document()->documentMargin());
+    const int bal = memo1_->frameWidth() + static_cast<int>(memo1_->document()->documentMargin());
     const QString datum = "2000.01.01.   ";
-    label8_->move(bal + meretek.horizontalAdvance(datum) - label8_->sizeHint().width() / 2, fejTetej);
     for (std::size_t i = 0; i < fejek_.size(); ++i)
         fejek_[i]->move(bal + meretek.horizontalAdvance(
                                   datum + "w" + QString(static_cast<qsizetype>(PrimerOszlopKoz[i]), u' ')),
-                        fejTetej);
+                        0);
+    // The first one is centred, as far as its letters leave room for the next.
+    const int solarNap = label8_->sizeHint().width();
+    label8_->move(std::min(bal + meretek.horizontalAdvance(datum) - solarNap / 2,
+                           fejek_[0]->x() - meretek.horizontalAdvance(' ') - solarNap),
+                  0);
 }
 
 void TForm12::megmutat(int kezdoEv) {

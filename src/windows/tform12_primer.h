@@ -3,8 +3,10 @@
 #include <array>
 #include <functional>
 
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QSpinBox>
 
 #include "chart/allapot.h"
@@ -34,6 +36,10 @@ private slots:
 
 private:
     void epites() override;
+    QPushButton* gomb(const char* nev, const char* felirat);
+    QHBoxLayout* felsoSor();
+    QWidget* fejSav();
+    QHBoxLayout* alsoSor();
     void betukEsFejek();
     TListaSzoveg lista() const;
 

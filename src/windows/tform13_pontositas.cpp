@@ -4,6 +4,9 @@
 #include <cmath>
 
 #include <QAbstractTextDocumentLayout>
+#include <QEvent>
+#include <QGridLayout>
+#include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSignalBlocker>
@@ -27,10 +30,8 @@ constexpr QSize tervezettMeret{722, 430};
 constexpr int elsoSzelesseg = 369;  ///< hides `Memo3` until the user widens the window
 constexpr int leptetoTav = 30;      ///< pixels under the stepper
 
-constexpr int memokTeteje = 62;
-constexpr int memokAlja = 46;  ///< left for the buttons
 constexpr int szel = 8;
-constexpr int koz = 4;  ///< between the first two lists
+constexpr int koz = 4;  ///< between the first two lists, and between the buttons
 constexpr int memo1Legkisebb = 132;
 constexpr int memo2Szelesseg = elsoSzelesseg - 2 * szel - memo1Legkisebb - koz;
 constexpr int memo3Legkisebb = 170;
@@ -62,22 +63,45 @@ TForm13::TForm13(Allapot& allapot, FoAblak&, QWidget* fo)
 void TForm13::epites() {
     spinEdit1_ = new THatotavMezo(this);
     for (QPlainTextEdit** memo : {&memo1_, &memo2_, &memo3_}) *memo = new QPlainTextEdit(this);
-    hatotavSor();
     memokEpitese();
-    gombok();
-    lathatatlanVezerlok();
+    fejekEpitese();
+    listakHelye_ = new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Expanding);
+    auto* egesz = new QGridLayout(this);
+    egesz->setContentsMargins(szel, szel, szel, szel);
+    egesz->setHorizontalSpacing(0);
+    egesz->addLayout(hatotavSor(), 0, 0, 1, 2);
+    egesz->addItem(listakHelye_, 1, 0, 1, 2);
+    // The buttons share the first width, and keep to it in a wider window.
+    egesz->addLayout(gombok(), 2, 0);
+    egesz->setColumnMinimumWidth(0, elsoSzelesseg - 2 * szel);
+    egesz->setColumnStretch(1, 1);
     resize(tervezettMeret);
 }
 
-void TForm13::hatotavSor() {
-    spinEdit1_->setGeometry(szel, 9, 56, mezoMagas);
-    auto* label1 = ujCimke(this, "Direkciós hatótávolság:   0,", szel, *spinEdit1_);
+QHBoxLayout* TForm13::hatotavSor() {
+    auto* label1 = new QLabel("Direkciós hatótávolság:   0,", this);
     label1->setObjectName("Label1");
     spinEdit1_->setObjectName("SpinEdit1");
     spinEdit1_->setRange(1, 99);
     spinEdit1_->setValue(allapot_.PontositasHatotav);
-    spinEdit1_->move(label1->geometry().right() + 2, spinEdit1_->y());
+    spinEdit1_->setMinimumHeight(mezoMagas);
     connect(spinEdit1_, &QSpinBox::valueChanged, this, &TForm13::SpinEdit1Change);
+    auto* sor = new QHBoxLayout;
+    sor->setSpacing(2);
+    sor->addWidget(label1);
+    sor->addWidget(spinEdit1_);
+    sor->addStretch();
+    // Controls for an analysis of the directions: in their row, but never shown and without any action.
+    const auto elrejtett = [sor](QWidget* vezerlo, const char* nev) {
+        vezerlo->setObjectName(nev);
+        vezerlo->hide();
+        sor->addWidget(vezerlo);
+    };
+    elrejtett(new QLabel("Direkció-elemzés:", this), "Label6");
+    elrejtett(new QPushButton("1", this), "Button_Elemzes1");
+    elrejtett(new QPushButton("+", this), "Button_Elemzesp1");
+    elrejtett(new QPushButton("-", this), "Button_Elemzesm2");
+    return sor;
 }
 
 void TForm13::memokEpitese() {
@@ -93,14 +117,23 @@ void TForm13::memokEpitese() {
                 masik->verticalScrollBar()->setValue(ertek);
         });
     }
-    constexpr std::array<const char*, 4> fejek{"dMc", "cMc", "dAsc", "cAsc"};
-    for (std::size_t i = 0; i < fejek.size(); ++i) {
-        fejek_[i] = new QLabel(fejek[i], this);
-        fejek_[i]->setObjectName(QStringLiteral("Label%1").arg(i + 2));
-    }
     listaMuvelet(*memo1_, "események", [](int, std::string_view sor) { return std::string(sor); });
     listaMuvelet(*memo2_, "direkciók", OlvashatoTalalatok);
     listaMuvelet(*memo3_, "születési idők", [](int, std::string_view sor) { return OlvashatoIdok(sor); });
+}
+
+/// The heads of the hits at equal distances, behind the room of the house.
+void TForm13::fejekEpitese() {
+    fejek_ = new QWidget(this);
+    auto* sor = new QHBoxLayout(fejek_);
+    sor->setContentsMargins(21, koz, koz, koz);
+    sor->setSpacing(0);
+    int sorszam = 2;
+    for (const char* fej : {"dMc", "cMc", "dAsc", "cAsc"}) {
+        auto* felirat = new QLabel(fej, fejek_);
+        felirat->setObjectName(QStringLiteral("Label%1").arg(sorszam++));
+        sor->addWidget(felirat, 1);
+    }
 }
 
 void TForm13::listaMuvelet(QPlainTextEdit& memo, const char* cim,
@@ -111,39 +144,32 @@ void TForm13::listaMuvelet(QPlainTextEdit& memo, const char* cim,
     });
 }
 
-void TForm13::gombok() {
-    auto* rendben = ujGomb(this, "Button_Rendben1", "Rendben");
+QHBoxLayout* TForm13::gombok() {
+    auto* sor = new QHBoxLayout;
+    sor->setContentsMargins(0, szel, 0, 0);
+    sor->setSpacing(koz);
+    const auto gomb = [&](const char* nev, const char* felirat) {
+        auto* uj = ujGomb(this, nev, felirat);
+        uj->setMinimumHeight(gombMagas);
+        sor->addWidget(uj);
+        return uj;
+    };
+    auto* rendben = gomb("Button_Rendben1", "Rendben");
     rendben->setDefault(true);
     connect(rendben, &QPushButton::clicked, this, &TForm13::Button_Rendben1Click);
-    connect(ujGomb(this, "Button_Megsem1", "Mégsem"), &QPushButton::clicked, this,
-            &TForm13::Button_Megsem1Click);
-    connect(ujGomb(this, "Button_Eletesemenyek1", "Életesemények"), &QPushButton::clicked, this, [this] {
+    connect(gomb("Button_Megsem1", "Mégsem"), &QPushButton::clicked, this, &TForm13::Button_Megsem1Click);
+    connect(gomb("Button_Eletesemenyek1", "Életesemények"), &QPushButton::clicked, this, [this] {
         if (eletesemenyek) eletesemenyek();
     });
+    return sor;
 }
 
-/// Controls for an analysis of the directions: in their places, but never shown and without any action.
-void TForm13::lathatatlanVezerlok() {
-    const auto elrejtett = [](QWidget* vezerlo, const char* nev, const QRect& hely) {
-        vezerlo->setObjectName(nev);
-        vezerlo->setGeometry(hely);
-        vezerlo->hide();
-    };
-    elrejtett(new QLabel("Direkció-elemzés:", this), "Label6", {400, 14, 120, 16});
-    elrejtett(new QPushButton("1", this), "Button_Elemzes1", {524, 9, 26, mezoMagas});
-    elrejtett(new QPushButton("+", this), "Button_Elemzesp1", {553, 9, 26, mezoMagas});
-    elrejtett(new QPushButton("-", this), "Button_Elemzesm2", {582, 9, 26, mezoMagas});
-}
-
-void TForm13::resizeEvent(QResizeEvent* esemeny) {
-    QDialog::resizeEvent(esemeny);
-    if (memo1_ == nullptr) return;  // the contents are not there yet
-    elrendezes();
-    int bal = szel;
-    for (const char* nev : {"Button_Rendben1", "Button_Megsem1", "Button_Eletesemenyek1"}) {
-        findChild<QPushButton*>(nev)->setGeometry(bal, height() - 37, 114, gombMagas);
-        bal += 119;
-    }
+/// The lists follow whatever moves their place: another size of the window, or other letters in it.
+bool TForm13::event(QEvent* esemeny) {
+    const bool kesz = QDialog::event(esemeny);
+    if (memo1_ != nullptr && (esemeny->type() == QEvent::Resize || esemeny->type() == QEvent::LayoutRequest))
+        elrendezes();
+    return kesz;
 }
 
 /// The first list takes as much of the window's width as its texts need, as long as the third one keeps its
@@ -159,19 +185,20 @@ int TForm13::memo1Szelesseg() const {
     return std::clamp(szoveg + keret + 1, memo1Legkisebb, memo1Legkisebb + std::max(0, tobblet));
 }
 
+/// The heads and the three lists under them; the third one may lie outside the window.
 void TForm13::elrendezes() {
-    const int magassag = height() - memokTeteje - memokAlja;
+    const QRect hely = listakHelye_->geometry();
     const int elso = memo1Szelesseg();
     const int memo2Bal = szel + elso + koz;
     const int memo3Bal = memo2Bal + memo2Szelesseg + szel;
-    memo1_->setGeometry(szel, memokTeteje, elso, magassag);
-    memo2_->setGeometry(memo2Bal, memokTeteje, memo2Szelesseg, magassag);
-    memo3_->setGeometry(memo3Bal, memokTeteje, std::max(memo3Legkisebb, width() - memo3Bal - szel), magassag);
-    int fejBal = memo2Bal + 24;
-    for (QLabel* fej : fejek_) {
-        fej->move(fejBal, memokTeteje - 20);
-        fejBal += 46;
-    }
+    const int memo3Szelesseg = std::max(memo3Legkisebb, width() - memo3Bal - szel);
+    const int fejMagassag = fejek_->sizeHint().height();
+    const int teteje = hely.top() + fejMagassag;
+    const int magassag = hely.height() - fejMagassag;
+    fejek_->setGeometry(memo2Bal, hely.top(), memo2Szelesseg, fejMagassag);
+    memo1_->setGeometry(szel, teteje, elso, magassag);
+    memo2_->setGeometry(memo2Bal, teteje, memo2Szelesseg, magassag);
+    memo3_->setGeometry(memo3Bal, teteje, memo3Szelesseg, magassag);
 }
 
 /// The text font in the first list, and in the others the smallest symbol font whose lines are as high.

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <array>
 #include <functional>
 
-#include <QLabel>
+#include <QHBoxLayout>
 #include <QPlainTextEdit>
+#include <QSpacerItem>
 #include <QSpinBox>
 
 #include "chart/allapot.h"
@@ -36,16 +36,16 @@ private slots:
 
 private:
     void epites() override;
-    void hatotavSor();
+    QHBoxLayout* hatotavSor();
     void memokEpitese();
-    void gombok();
-    void lathatatlanVezerlok();
+    void fejekEpitese();
+    QHBoxLayout* gombok();
     void betuk();
     void elrendezes();
     int memo1Szelesseg() const;
     void listaMuvelet(QPlainTextEdit& memo, const char* cim,
                       std::string (*olvashato)(int szam, std::string_view sor));
-    void resizeEvent(QResizeEvent* esemeny) override;
+    bool event(QEvent* esemeny) override;
     void done(int eredmeny) override;
 
     Allapot& allapot_;
@@ -54,5 +54,6 @@ private:
     QPlainTextEdit* memo1_ = nullptr;
     QPlainTextEdit* memo2_ = nullptr;
     QPlainTextEdit* memo3_ = nullptr;
-    std::array<QLabel*, 4> fejek_{};  ///< over the hits
+    QWidget* fejek_ = nullptr;            ///< over the hits
+    QSpacerItem* listakHelye_ = nullptr;  ///< of the heads and the lists, as far as the window shows them
 };

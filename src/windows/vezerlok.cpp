@@ -41,13 +41,14 @@ QSpinBox* ujSzamMezo(QWidget* szulo, const QString& nev, int also, int felso, co
     return mezo;
 }
 
-QLineEdit* ujSzovegMezo(QWidget* szulo, const QString& nev, const QRect& hely) {
-    return elnevez(new QLineEdit(szulo), nev, hely);
+QLineEdit* ujSzovegMezo(QWidget* szulo, const QString& nev) {
+    return elnevez(new QLineEdit(szulo), nev, {});
 }
 
 QLabel* ujCimke(QWidget* szulo, const QString& felirat, const QPoint& hely) {
     auto* cimke = new QLabel(felirat, szulo);
     cimke->move(hely);
+    cimke->adjustSize();
     return cimke;
 }
 

@@ -15,9 +15,9 @@ QPushButton* ujGomb(QWidget* szulo, const QString& nev, const QString& felirat, 
 QSpinBox* ujSzamMezo(QWidget* szulo, const QString& nev, int also, int felso, const QRect& hely = {});
 
 /// A line of text.
-QLineEdit* ujSzovegMezo(QWidget* szulo, const QString& nev, const QRect& hely = {});
+QLineEdit* ujSzovegMezo(QWidget* szulo, const QString& nev);
 
-/// A caption.
+/// A caption, as large as its text.
 QLabel* ujCimke(QWidget* szulo, const QString& felirat, const QPoint& hely);
 /// The caption of a field, at the middle of the field's height.
 QLabel* ujCimke(QWidget* szulo, const QString& felirat, int bal, const QWidget& mezo);
@@ -26,7 +26,8 @@ QLabel* ujCimke(QWidget* szulo, const QString& felirat, int bal, const QWidget& 
 /// turned over a dialog would change whatever field happens to lie under the pointer.
 void gorgoCsakFokusszal(QWidget& mezo);
 
-/// Heights of the buttons and fields in the windows that are laid out by coordinates, pixels.
+/// Heights of the buttons and fields in the windows that stand beside the main one or by coordinates, pixels;
+/// larger letters take more where a layout gives it.
 inline constexpr int gombMagas = 28;
 inline constexpr int mezoMagas = 26;
 

@@ -105,6 +105,34 @@ void szabadon(QWidget& ablak) {
     }
 }
 
+/// Captions, number fields and buttons have the room that their texts need.
+void vagatlan(const QWidget& ablak) {
+    for (const auto* felirat : ablak.findChildren<QLabel*>())
+        if (felirat->isVisible())
+            QVERIFY2(felirat->size().expandedTo(felirat->sizeHint()) == felirat->size(),
+                     qPrintable(ablak.objectName() + ": " + felirat->text()));
+    for (const auto* mezo : ablak.findChildren<QSpinBox*>())
+        QVERIFY2(mezo->size().expandedTo(mezo->sizeHint()) == mezo->size(), qPrintable(mezo->objectName()));
+    for (const auto* gomb : ablak.findChildren<QPushButton*>()) {
+        const QSize szoveg = gomb->fontMetrics().size(Qt::TextShowMnemonic, gomb->text());
+        QVERIFY2(!gomb->isVisible() || (szoveg.width() < gomb->width() && szoveg.height() < gomb->height()),
+                 qPrintable(gomb->objectName()));
+    }
+}
+
+/// A desktop whose letters are large, as long as it lives.
+struct TNagyBetu {
+    TNagyBetu() {
+        QFont nagy = eredeti;
+        nagy.setPointSize(14);
+        QApplication::setFont(nagy);
+    }
+    TNagyBetu(const TNagyBetu&) = delete;
+    TNagyBetu& operator=(const TNagyBetu&) = delete;
+    ~TNagyBetu() { QApplication::setFont(eredeti); }
+    QFont eredeti = QApplication::font();
+};
+
 /// Whether a window has each of these labels, as often as it stands here.
 void cimkek(QWidget& ablak, const QStringList& vart) {
     dynamic_cast<TKesobbiAblak&>(ablak).elkeszites();
@@ -388,6 +416,46 @@ private slots:
             });
             menu(a.form1, parancs);
         }
+    }
+
+    void nagyBetuvelIsElfernek() {
+        const TNagyBetu nagy;
+        TFrissAblakok a;
+        menu(a.form1, "Primer1");
+        vezerlo<QLabel>(a.form12, "LabelVege1")->show();  // as a full list does
+        kattint(a.form12, "Button_Pontositas1");
+        QCOMPARE(a.form13.width(), 369);
+        vezerlo<QWidget>(a.form13, "Memo3")->hide();  // it lies outside
+        a.form10.show();
+        QApplication::processEvents();
+        QCOMPARE(a.form12.font().pointSize(), 14);
+        for (QWidget* ablak : QWidgetList{&a.form10, &a.form12, &a.form13}) {
+            szabadon(*ablak);
+            vagatlan(*ablak);
+        }
+        vezerlo<QWidget>(a.form13, "Memo3")->show();
+        a.form13.resize(722, 430);
+        QApplication::processEvents();
+        szabadon(a.form13);
+        vagatlan(a.form13);
+        // The whole list is still seen at once.
+        const auto* memo = vezerlo<QPlainTextEdit>(a.form12, "Memo1");
+        QVERIFY(memo->fontMetrics().height() * 22 <= memo->viewport()->height());
+    }
+
+    /// The letters grow while the window is open.
+    void aPontositasAMegnovoBetuhozIsIgazodik() {
+        TFrissAblakok a;
+        menu(a.form1, "Primer1");
+        kattint(a.form12, "Button_Pontositas1");
+        vezerlo<QWidget>(a.form13, "Memo3")->hide();  // it lies outside
+        QApplication::processEvents();
+        const TNagyBetu nagy;
+        const auto* fej = vezerlo<QLabel>(a.form13, "Label2");
+        QTRY_COMPARE(fej->font().pointSize(), 14);
+        QTRY_VERIFY(fej->height() >= fej->sizeHint().height());  // in more than one round of events
+        szabadon(a.form13);
+        vagatlan(a.form13);
     }
 
     void azEletesemenyekOszlopaiMegadottHelyen() {

@@ -58,17 +58,21 @@ private slots:
             return memo->viewport()->mapTo(&a.form12, memo->cursorRect(kurzor).topLeft()).x();
         };
         const QString datum = "2000.01.01.   ";
-        const auto* solarNap = vezerlo<QLabel>(a.form12, "Label8");
-        QVERIFY(qAbs(solarNap->geometry().center().x() - helye(datum)) <= 1);
-        QVERIFY(solarNap->geometry().bottom() < memo->y());
+        const auto fejHelye = [&](const QLabel& fej) {
+            return QRect(fej.mapTo(&a.form12, QPoint()), fej.size());
+        };
+        const QRect solarNap = fejHelye(*vezerlo<QLabel>(a.form12, "Label8"));
+        QVERIFY(qAbs(solarNap.center().x() - helye(datum)) <= 1);
+        QVERIFY(solarNap.bottom() < memo->y());
         const std::pair<const char*, int> oszlopok[]{{"dMC:", 5}, {"cMC:", 20}, {"dAsc:", 32}, {"cAsc:", 46}};
         for (const auto& [fej, behuzas] : oszlopok) {
             const QLabel* felirat = nullptr;
             for (const auto* l : a.form12.findChildren<QLabel*>())
                 if (l->text() == fej) felirat = l;
             QVERIFY2(felirat != nullptr, fej);
-            QVERIFY2(qAbs(felirat->x() - helye(datum + "w" + QString(behuzas, u' '))) <= 1, fej);
-            QVERIFY2(felirat->geometry().bottom() < memo->y(), fej);
+            const QRect hely = fejHelye(*felirat);
+            QVERIFY2(qAbs(hely.left() - helye(datum + "w" + QString(behuzas, u' '))) <= 1, fej);
+            QVERIFY2(hely.bottom() < memo->y(), fej);
         }
     }
 

@@ -1,6 +1,8 @@
 #include "windows/tform10_eletesemenyek.h"
 
-#include <QMouseEvent>
+#include <utility>
+
+#include <QKeyEvent>
 
 #include "events/analogia.h"
 #include "tables/fokperc.h"
@@ -9,146 +11,11 @@
 #include "tables/telepulesek.h"
 #include "tables/tomb.h"
 #include "windows/ablakelhelyezes.h"
-#include "windows/helysegmezo.h"
 #include "windows/qszoveg.h"
-#include "windows/vezerlok.h"
-
-namespace {
-
-/// Left positions of the list's columns, pixels.
-constexpr std::array<int, esemenyOszlopok> oszlopHelyek{7,   22,  180, 290, 318, 333, 348, 363,
-                                                        378, 410, 520, 538, 556, 574, 632};
-constexpr int listaTeteje = 26;
-constexpr int sorMagassag = 17;
-constexpr int ablakSzelesseg = 690;
-constexpr int mezokTeteje = listaTeteje + esemenyHelyek * sorMagassag + 10;
-constexpr int koz = 4;  ///< between a caption and its field
-
-/// Columns whose click selects the row: number, event, analogies.
-constexpr std::size_t kijeloloOszlopok = 3;
-
-}  // namespace
 
 TForm10::TForm10(Allapot& allapot, FoAblak&, QWidget* fo) : TKesobbiAblak(fo), allapot_(allapot), fo_(fo) {
     setObjectName("TForm10");
     setWindowTitle("Életesemények");
-}
-
-void TForm10::epites() {
-    QFont kicsi = font();
-    kicsi.setFamily(qszoveg(szovegFont));
-    kicsi.setPixelSize(11);
-    setFont(kicsi);
-    listaEpitese();
-    auto* egesz = new QVBoxLayout(this);
-    egesz->setContentsMargins(oszlopHelyek[0], mezokTeteje, oszlopHelyek[0], oszlopHelyek[0]);
-    egesz->addLayout(mezokEpitese());
-    mezokBeallitasa();
-    egesz->addLayout(gombok());
-    setFixedSize(ablakSzelesseg, sizeHint().height());
-}
-
-void TForm10::listaEpitese() {
-    ujCimke(this, "Életesemény:", {oszlopHelyek[1], 6});
-    ujCimke(this, "Házanalógiák:", {oszlopHelyek[2], 6});
-    ujCimke(this, "Esemény ideje (GMT):", {oszlopHelyek[3], 6});
-    ujCimke(this, "Solar-évforduló helye:", {oszlopHelyek[9], 6});
-    ujCimke(this, "Solar-Nap:", {oszlopHelyek[13], 6});
-    for (std::size_t sor = 0; sor < sorok_.size(); ++sor) {
-        for (std::size_t oszlop = 0; oszlop < oszlopHelyek.size(); ++oszlop) {
-            auto* felirat = new QLabel(this);
-            const int vege = oszlop + 1 < oszlopHelyek.size() ? oszlopHelyek[oszlop + 1] : ablakSzelesseg;
-            felirat->setObjectName(QStringLiteral("LEletes_%1_%2").arg(sor + 1).arg(oszlop + 1));
-            felirat->setGeometry(oszlopHelyek[oszlop], listaTeteje + static_cast<int>(sor) * sorMagassag,
-                                 vege - oszlopHelyek[oszlop], sorMagassag);
-            felirat->setTextFormat(Qt::PlainText);
-            if (oszlop < kijeloloOszlopok) felirat->installEventFilter(this);
-            sorok_[sor][oszlop] = felirat;
-        }
-    }
-}
-
-/// A field behind its caption, if it has one.
-QHBoxLayout* TForm10::felirattal(const char* felirat, QWidget* mezo) {
-    auto* sor = new QHBoxLayout;
-    sor->setSpacing(koz);
-    if (felirat != nullptr) sor->addWidget(new QLabel(felirat, this));
-    sor->addWidget(mezo, 1);
-    return sor;
-}
-
-/// The room that a row has over goes between the captioned fields.
-QHBoxLayout* TForm10::szamMezok(std::span<const TSzamMezo> leirasok) {
-    auto* sor = new QHBoxLayout;
-    sor->setSpacing(koz);
-    for (const TSzamMezo& l : leirasok) {
-        if (sor->count() > 0 && l.felirat != nullptr) sor->addStretch();
-        this->*l.mezo = ujSzamMezo(this, l.nev, l.also, l.felso);
-        sor->addLayout(felirattal(l.felirat, this->*l.mezo));
-    }
-    return sor;
-}
-
-QGridLayout* TForm10::mezokEpitese() {
-    static constexpr TSzamMezo idoMezok[]{{"Év:", "SpinEditEv1", 1900, 2068, &TForm10::ev_},
-                                          {"Hó:", "SpinEditHo1", 1, 12, &TForm10::ho_},
-                                          {"Nap:", "SpinEditNap1", 1, 31, &TForm10::nap_},
-                                          {"Óra:", "SpinEditOra1", 0, 23, &TForm10::ora_},
-                                          {"Perc:", "SpinEditPerc1", 0, 59, &TForm10::perc_},
-                                          {"Mp:", "SpinEditMperc1", 0, 59, &TForm10::mperc_},
-                                          {"Időzóna:", "SpinEditIdozona1", -12, 12, &TForm10::idozona_},
-                                          {"Nyári id.:", "SpinEditNyariidosz1", 0, 1, &TForm10::nyariIdo_}};
-    static constexpr TSzamMezo helyMezok[]{{"Hossz.:", "SpinEditHosszFok1", -180, 180, &TForm10::hosszFok_},
-                                           {nullptr, "SpinEditHosszPerc1", 0, 59, &TForm10::hosszPerc_},
-                                           {"Szél.:", "SpinEditSzelFok1", -180, 180, &TForm10::szelFok_},
-                                           {nullptr, "SpinEditSzelPerc1", 0, 59, &TForm10::szelPerc_}};
-    auto* racs = new QGridLayout;
-    esemeny_ = ujSzovegMezo(this, "Edit_Eletesemenyek1");
-    racs->addLayout(felirattal("Életesemény:", esemeny_), 0, 0);
-    analogia_ = ujSzovegMezo(this, "Edit_Hazanalogiak1");
-    racs->addLayout(felirattal("Házanalógiák:", analogia_), 0, 1);
-    racs->addLayout(szamMezok(idoMezok), 1, 0, 1, 2);
-    helyseg_ = ujHelysegMezo(this, "ComboBoxHelyseg1");
-    racs->addLayout(felirattal("Solar-évforduló helye:", helyseg_), 2, 0);
-    QHBoxLayout* hely = szamMezok(helyMezok);
-    solarNap_ = new QLabel("VII", this);  // the longest one
-    hely->addStretch();
-    hely->addLayout(felirattal("Solar-Nap:", solarNap_));
-    racs->addLayout(hely, 2, 1);
-    return racs;
-}
-
-void TForm10::mezokBeallitasa() {
-    hosszKorlat(*esemeny_, rovidSzovegHossz);
-    hosszKorlat(*analogia_, hosszuSzovegHossz);
-    solarNap_->setObjectName("LabelSolarNap1");
-    solarNap_->setMinimumWidth(solarNap_->sizeHint().width());
-    solarNap_->clear();
-    helyseg_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);  // as wide as its row lets it be
-    // All fields as high as the highest, all numbers at least as wide as the longest of two figures.
-    const int magassag = helyseg_->sizeHint().height();
-    for (auto* mezo : findChildren<QSpinBox*>()) mezo->setMinimumSize(idozona_->sizeHint().width(), magassag);
-    for (auto* mezo : QWidgetList{esemeny_, analogia_, solarNap_}) mezo->setMinimumHeight(magassag);
-
-    connect(helyseg_, &QComboBox::editTextChanged, this, &TForm10::ComboBoxHelyseg1Change);
-    for (const QSpinBox* mezo : {ev_, ho_, nap_, ora_, perc_, mperc_})
-        connect(mezo, &QSpinBox::valueChanged, this, &TForm10::SpinEditEv1Change);
-}
-
-QHBoxLayout* TForm10::gombok() {
-    auto* sor = new QHBoxLayout;
-    const auto gomb = [&](const char* nev, const char* felirat, void (TForm10::*kezelo)()) {
-        auto* uj = ujGomb(this, nev, felirat);
-        connect(uj, &QPushButton::clicked, this, kezelo);
-        sor->addWidget(uj);
-        return uj;
-    };
-    gomb("Button_Rendben1", "Rendben", &TForm10::Button_Rendben1Click)->setDefault(true);
-    gomb("Button_Torol1", "Töröl", &TForm10::Button_Torol1Click);
-    sor->addStretch();
-    gomb("Button_Rendben2", "Lista rendben", &TForm10::Button_Rendben2Click);
-    gomb("Button_Megsem2", "Mégsem", &TForm10::Button_Megsem2Click);
-    return sor;
 }
 
 void TForm10::megmutat(std::function<TSzuletes()> szuletes, const TEletesemeny& kezdoHely) {
@@ -204,18 +71,13 @@ void TForm10::mezokMutatasa(const TEletesemeny& e) {
     esemeny_->setText(qszoveg(e.esemeny));
     analogia_->setText(qszoveg(e.analogia));
     helyseg_->helysegBeallitasa(qszoveg(e.helyseg));
-    ev_->setValue(e.pillanat.ev);
-    ho_->setValue(e.pillanat.ho);
-    nap_->setValue(e.pillanat.nap);
-    ora_->setValue(e.pillanat.ora);
-    perc_->setValue(e.pillanat.perc);
-    mperc_->setValue(e.pillanat.mperc);
-    idozona_->setValue(e.idozona);
-    nyariIdo_->setValue(e.nyariIdo);
-    hosszFok_->setValue(e.hosszFok);
-    hosszPerc_->setValue(e.hosszPerc);
-    szelFok_->setValue(e.szelFok);
-    szelPerc_->setValue(e.szelPerc);
+    // The moment before its summer time, which it changes.
+    const std::pair<QSpinBox*, int> szamok[]{
+        {ev_, e.pillanat.ev},      {ho_, e.pillanat.ho},     {nap_, e.pillanat.nap},
+        {ora_, e.pillanat.ora},    {perc_, e.pillanat.perc}, {mperc_, e.pillanat.mperc},
+        {idozona_, e.idozona},     {nyariIdo_, e.nyariIdo},  {hosszFok_, e.hosszFok},
+        {hosszPerc_, e.hosszPerc}, {szelFok_, e.szelFok},    {szelPerc_, e.szelPerc}};
+    for (const auto& [mezo, ertek] : szamok) mezo->setValue(ertek);
     solarNap_->setText(qszoveg(HazCimke(e.solarNap)));
 }
 
@@ -253,16 +115,16 @@ void TForm10::Button_Megsem2Click() {
     QDialog::reject();
 }
 
-/// Whether leaving would lose something: the list is another than at the opening, or a text was typed that
-/// is not in it yet.
-bool TForm10::valtozott() const {
-    return !EsemenyListaAzonos(allapot_.Esemenyek, masodik_) || esemeny_->isModified() ||
-           analogia_->isModified();
+/// Whether a text was typed that is not in the list yet.
+bool TForm10::gepelt() const {
+    return esemeny_->isModified() || analogia_->isModified();
 }
 
-/// The Escape key and the window's own button; "Mégsem" is an answer already and does not ask.
+/// The Escape key and the window's own button, which ask before something is lost; "Mégsem" is an answer
+/// already and does not.
 void TForm10::reject() {
-    if (parbeszed_ != nullptr && valtozott() &&
+    const bool valtozott = gepelt() || !EsemenyListaAzonos(allapot_.Esemenyek, masodik_);
+    if (parbeszed_ != nullptr && valtozott &&
         !parbeszed_->igen(this, "Életesemények", "A változtatások elvesznek. Valóban bezárja az ablakot?"))
         return;
     Button_Megsem2Click();
@@ -288,9 +150,22 @@ void TForm10::SpinEditEv1Change() {
 
 void TForm10::LEletesClick(const QString& felirat) {
     const int sor = EsemenyKijeloles(allapot_.Esemenyek, szoveg(felirat));
-    if (sor == 0) return;
+    if (sor != 0) betoltes(sor);
+}
+
+void TForm10::betoltes(int sor) {
     kijeloles(sor);
     mezokMutatasa(allapot_.Esemenyek.esemenyek[sor]);
+}
+
+/// The arrow keys walk through the list where the focused field has no use for them, as the texts have none;
+/// but a typed text stays.
+void TForm10::keyPressEvent(QKeyEvent* esemeny) {
+    const int lepes = esemeny->key() == Qt::Key_Down ? 1 : esemeny->key() == Qt::Key_Up ? -1 : 0;
+    if (lepes == 0 || gepelt()) return QDialog::keyPressEvent(esemeny);
+    const int db = allapot_.Esemenyek.EsemenyDb;
+    const int sor = kijelolt_ == 0 && lepes < 0 ? db : kijelolt_ + lepes;
+    if (sor >= 1 && sor <= db) betoltes(sor);
 }
 
 bool TForm10::eventFilter(QObject* targy, QEvent* esemeny) {

@@ -56,6 +56,8 @@ private:
     QHBoxLayout* gombok();
     void listaEpitese();
     void LEletesClick(const QString& felirat);
+    void betoltes(int sor);
+    void keyPressEvent(QKeyEvent* esemeny) override;
     TPillanat pillanat() const;
     void listaMutatasa();
     void mezokMutatasa(const TEletesemeny& e);
@@ -63,7 +65,7 @@ private:
     bool eventFilter(QObject* targy, QEvent* esemeny) override;
     void kijeloles(int sor);
     void szovegekUritese();
-    bool valtozott() const;
+    bool gepelt() const;
     void reject() override;
 
     Allapot& allapot_;

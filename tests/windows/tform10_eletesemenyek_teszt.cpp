@@ -101,6 +101,65 @@ private slots:
         QCOMPARE(lista(a.form10, 1, 2), "");
     }
 
+    void aNyilakASzovegbolVegigjarjakAListat() {
+        TKetEsemeny a;
+        a.szerkeszt([&a](QWidget& d) {
+            const auto itt = [&d](int kijelolt, const char* szoveg, const char* analogia, int ev) {
+                QCOMPARE(kijeloltSorok(d), QList<int>{kijelolt});
+                QCOMPARE(sor(d, "Edit_Eletesemenyek1"), szoveg);
+                QCOMPARE(sor(d, "Edit_Hazanalogiak1"), analogia);
+                QCOMPARE(ertek(d, "SpinEditEv1"), ev);
+            };
+            for (const auto& [gomb, kijelolt] :
+                 {std::pair(Qt::Key_Down, 1), std::pair(Qt::Key_Down, 2), std::pair(Qt::Key_Down, 2),
+                  std::pair(Qt::Key_Up, 1), std::pair(Qt::Key_Up, 1)}) {
+                leut(gomb);
+                kijelolt == 1 ? itt(1, "első", "I,2", 1999) : itt(2, "második", "3", 2000);
+            }
+            gepel(d, "Edit_Eletesemenyek1", "javított");
+            leut(Qt::Key_Return);
+            QCOMPARE(lista(d, 1, 2), "javított");
+            QCOMPARE(a.esemenyek(), 2);
+            QVERIFY(kijeloltSorok(d).isEmpty());
+            leut(Qt::Key_Up);  // with none selected it begins at the end
+            itt(2, "második", "3", 2000);
+            kattint(d, "Button_Megsem2");
+        });
+    }
+
+    void aNyilABeirtatNemVesztiElEsASzamMezobenSzamotLeptet() {
+        TKetEsemeny a;
+        a.szerkeszt([](QWidget& d) {
+            gepel(d, "Edit_Eletesemenyek1", "beírt");
+            leut(Qt::Key_Down);
+            QCOMPARE(sor(d, "Edit_Eletesemenyek1"), "beírt");
+            gepel(d, "Edit_Hazanalogiak1", "4");
+            gepel(d, "Edit_Eletesemenyek1", "");
+            leut(Qt::Key_Up);
+            QCOMPARE(sor(d, "Edit_Hazanalogiak1"), "4");
+            QVERIFY(kijeloltSorok(d).isEmpty());
+            kattint(d, "Button_Megsem2");
+        });
+        a.szerkeszt([](QWidget& d) {
+            vezerlo<QSpinBox>(d, "SpinEditEv1")->setFocus();
+            leut(Qt::Key_Down);
+            QCOMPARE(ertek(d, "SpinEditEv1"), 1999);
+            QVERIFY(kijeloltSorok(d).isEmpty());
+            kattint(d, "Button_Megsem2");
+        });
+    }
+
+    void aNyilUresListanSemmitSemTesz() {
+        TFrissAblakok a;
+        ujKeplet(a, [](QWidget& d) {
+            const int ev = ertek(d, "SpinEditEv1");
+            for (const Qt::Key gomb : {Qt::Key_Down, Qt::Key_Up}) leut(gomb);
+            QVERIFY(kijeloltSorok(d).isEmpty());
+            QCOMPARE(ertek(d, "SpinEditEv1"), ev);
+            kattint(d, "Button_Megsem2");
+        });
+    }
+
     void nyitaskorSemmiNincsKijelolveEsASzovegekUresek() {
         TKetEsemeny a;
         for (int nyitas = 0; nyitas < 2; ++nyitas) {

@@ -49,16 +49,9 @@ QPushButton* TForm12::gomb(const char* nev, const char* felirat) {
 
 QHBoxLayout* TForm12::felsoSor() {
     auto* sor = new QHBoxLayout;
-    const auto mezo = [&](const char* nev, const char* felirat, int also, int felso) {
-        auto* uj = ujSzamMezo(this, nev, also, felso);
-        sor->addWidget(new QLabel(felirat, this));
-        sor->addWidget(uj);
-        sor->addStretch();
-        return uj;
-    };
-    ev_ = mezo("SpinEditEv1", "Kezdő év:", 1900, 2068);
-    ho_ = mezo("SpinEditHo1", "hó:", 1, 12);
-    nap_ = mezo("SpinEditNap1", "nap:", 1, 31);
+    ev_ = ujSzamMezo(this, *sor, "Kezdő év:", "SpinEditEv1", 1900, 2068);
+    ho_ = ujSzamMezo(this, *sor, "hó:", "SpinEditHo1", 1, 12);
+    nap_ = ujSzamMezo(this, *sor, "nap:", "SpinEditNap1", 1, 31);
     for (QSpinBox* m : {ev_, ho_, nap_}) m->setMinimumSize(ev_->sizeHint().expandedTo({0, mezoMagas}));
     auto* rendben = gomb("Button_Rendben1", "Rendben");
     rendben->setDefault(true);

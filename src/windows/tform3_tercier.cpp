@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QSignalBlocker>
 
@@ -36,11 +37,11 @@ TForm3::TForm3(Allapot& allapot, FoAblak&, QWidget* fo)
 
 void TForm3::epites() {
     ujCimke(this, "Esemény dátuma:", {24, 12})->setObjectName("Datum_bekero1");
-    ev_ = mezo("SpinEditEv1", "Év:", 1900, 2068, 24);
-    ho_ = mezo("SpinEditHo1", "Hó:", 0, 13, 150);
-    nap_ = mezo("SpinEditNap1", "Nap:", 0, 32, 256);
-    orbis_ = ujSzamMezo(this, "SpinEditOrbis1", 1, 99, {orbisMezoBal, orbisTetej, 62, mezoMagas});
-    orbisFelirat_ = ujCimke(this, "Orbis napokban:", orbisFeliratBal, *orbis_);
+    datumSor();
+    orbis_ = ujSzamMezo(this, "SpinEditOrbis1", 1, 99);
+    orbis_->resize(ev_->minimumSize());
+    orbisFelirat_ = ujCimke(this, "Orbis napokban:", {});
+    orbisFelirat_->resize(orbisFelirat_->width(), mezoMagas);
     orbisFelirat_->setObjectName("Orbis_napokban1");
     direkcio1_ = new QLabel(this);
     direkcio1_->setObjectName("Tercier_Direkcio1");
@@ -64,10 +65,15 @@ void TForm3::epites() {
     });
 }
 
-QSpinBox* TForm3::mezo(const char* nev, const char* felirat, int also, int felso, int x) {
-    QSpinBox* uj = ujSzamMezo(this, nev, also, felso, {x + 36, 40, 62, mezoMagas});
-    ujCimke(this, felirat, x, *uj);
-    return uj;
+void TForm3::datumSor() {
+    auto* datum = new QWidget(this);
+    auto* sor = new QHBoxLayout(datum);
+    sor->setContentsMargins({});
+    ev_ = ujSzamMezo(datum, *sor, "Év:", "SpinEditEv1", 1900, 2068);
+    ho_ = ujSzamMezo(datum, *sor, "Hó:", "SpinEditHo1", 0, 13);
+    nap_ = ujSzamMezo(datum, *sor, "Nap:", "SpinEditNap1", 0, 32);
+    for (QSpinBox* mezo : {ev_, ho_, nap_}) mezo->setMinimumSize(ev_->sizeHint().width(), mezoMagas);
+    datum->setGeometry(24, 40, szovegSzelesseg, mezoMagas);
 }
 
 void TForm3::megmutat() {

@@ -35,7 +35,7 @@ private slots:
 
 private:
     void epites() override;
-    QSpinBox* mezo(const char* nev, const char* felirat, int also, int felso, int x);
+    void datumSor();
     void keres();
     void elrendezes(int szovegMagassag);
     TListaSzoveg lista() const;

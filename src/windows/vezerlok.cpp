@@ -6,13 +6,6 @@
 
 namespace {
 
-template <typename TVezerlo>
-TVezerlo* elnevez(TVezerlo* vezerlo, const QString& nev, const QRect& hely) {
-    vezerlo->setObjectName(nev);
-    if (hely.isValid()) vezerlo->setGeometry(hely);
-    return vezerlo;
-}
-
 class TGorgoSzuro : public QObject {
 public:
     explicit TGorgoSzuro(QWidget& mezo) : QObject(&mezo), mezo_(mezo) { mezo.installEventFilter(this); }
@@ -30,31 +23,39 @@ private:
 }  // namespace
 
 QPushButton* ujGomb(QWidget* szulo, const QString& nev, const QString& felirat, const QRect& hely) {
-    auto* gomb = elnevez(new QPushButton(felirat, szulo), nev, hely);
+    auto* gomb = new QPushButton(felirat, szulo);
+    gomb->setObjectName(nev);
+    if (hely.isValid()) gomb->setGeometry(hely);
     gomb->setAutoDefault(false);
     return gomb;
 }
 
-QSpinBox* ujSzamMezo(QWidget* szulo, const QString& nev, int also, int felso, const QRect& hely) {
-    auto* mezo = elnevez(new SzamMezo(szulo), nev, hely);
+QSpinBox* ujSzamMezo(QWidget* szulo, const QString& nev, int also, int felso) {
+    auto* mezo = new SzamMezo(szulo);
+    mezo->setObjectName(nev);
     mezo->setRange(also, felso);
     return mezo;
 }
 
+QSpinBox* ujSzamMezo(QWidget* szulo, QHBoxLayout& sor, const QString& felirat, const QString& nev, int also,
+                     int felso) {
+    QSpinBox* mezo = ujSzamMezo(szulo, nev, also, felso);
+    sor.addWidget(new QLabel(felirat, szulo));
+    sor.addWidget(mezo);
+    sor.addStretch();
+    return mezo;
+}
+
 QLineEdit* ujSzovegMezo(QWidget* szulo, const QString& nev) {
-    return elnevez(new QLineEdit(szulo), nev, {});
+    auto* mezo = new QLineEdit(szulo);
+    mezo->setObjectName(nev);
+    return mezo;
 }
 
 QLabel* ujCimke(QWidget* szulo, const QString& felirat, const QPoint& hely) {
     auto* cimke = new QLabel(felirat, szulo);
     cimke->move(hely);
     cimke->adjustSize();
-    return cimke;
-}
-
-QLabel* ujCimke(QWidget* szulo, const QString& felirat, int bal, const QWidget& mezo) {
-    QLabel* cimke = ujCimke(szulo, felirat, {bal, mezo.y()});
-    cimke->resize(cimke->sizeHint().width(), mezo.height());
     return cimke;
 }
 

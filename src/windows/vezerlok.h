@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -12,15 +13,16 @@
 QPushButton* ujGomb(QWidget* szulo, const QString& nev, const QString& felirat, const QRect& hely = {});
 
 /// A number field for a range, ends included.
-QSpinBox* ujSzamMezo(QWidget* szulo, const QString& nev, int also, int felso, const QRect& hely = {});
+QSpinBox* ujSzamMezo(QWidget* szulo, const QString& nev, int also, int felso);
+/// The same behind its caption at the end of a row; what the row has over comes behind.
+QSpinBox* ujSzamMezo(QWidget* szulo, QHBoxLayout& sor, const QString& felirat, const QString& nev, int also,
+                     int felso);
 
 /// A line of text.
 QLineEdit* ujSzovegMezo(QWidget* szulo, const QString& nev);
 
 /// A caption, as large as its text.
 QLabel* ujCimke(QWidget* szulo, const QString& felirat, const QPoint& hely);
-/// The caption of a field, at the middle of the field's height.
-QLabel* ujCimke(QWidget* szulo, const QString& felirat, int bal, const QWidget& mezo);
 
 /// Lets the wheel change a field only while it has the focus; else the turn goes on to the window. A wheel
 /// turned over a dialog would change whatever field happens to lie under the pointer.

@@ -74,10 +74,11 @@ private slots:
             const QRect fo(a.form1.pos(), a.form1.size());
             QCOMPARE(d.pos(), QPoint(fo.x() + fo.width() / 2 - std::min(d.width(), fo.width()) / 2,
                                      fo.y() + fo.height() / 2 - std::min(d.height(), fo.height()) / 2));
+            d.move(0, 0);  // the next time it is there again
             d.hide();
         };
-        for (const char* pont :
-             {"Szemely_adatok1", "Uj1", "Tercier1", "Szolaringresszio11", "Orbisok1", "Lunar1", "AscPers1"}) {
+        for (const char* pont : {"Szemely_adatok1", "Uj1", "Tercier1", "Tercier1", "Szolaringresszio11",
+                                 "Orbisok1", "Orbisok1", "Lunar1", "AscPers1"}) {
             bool volt = false;
             valasz([&](QWidget& d) {
                 kozepen(d);
@@ -86,8 +87,10 @@ private slots:
             menu(a.form1, pont);
             QVERIFY2(volt, pont);
         }
-        valasz(kozepen);
-        a.form2.eletesemenyek();
+        for (int nyitas = 0; nyitas < 2; ++nyitas) {
+            valasz(kozepen);
+            a.form2.eletesemenyek();
+        }
     }
 
     void aTobbiAblakAFoablakSzelehez() {

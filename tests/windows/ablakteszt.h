@@ -95,6 +95,11 @@ struct TFrissAblakok : TAblakok {
     }
 };
 
+/// A control's place in its window.
+inline QRect hely(const QWidget& ablak, const QWidget& vezerlo) {
+    return {vezerlo.mapTo(&ablak, QPoint()), vezerlo.size()};
+}
+
 /// Time for a few ticks of a running timer, milliseconds.
 inline constexpr int tobbOrajel = 600;
 

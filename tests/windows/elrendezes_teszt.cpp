@@ -10,10 +10,6 @@ namespace {
 
 using TNevek = QList<const char*>;
 
-QRect hely(const QWidget& ablak, const QWidget& w) {
-    return {w.mapTo(&ablak, QPoint()), w.size()};
-}
-
 QRect hely(const QWidget& ablak, const char* nev) {
     return hely(ablak, *vezerlo<QWidget>(ablak, nev));
 }

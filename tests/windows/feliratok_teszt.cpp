@@ -20,10 +20,6 @@ struct THatar {
     int felso;
 };
 
-QRect hely(const QWidget& ablak, const QWidget& w) {
-    return {w.mapTo(&ablak, QPoint()), w.size()};
-}
-
 /// Caption of a field: of the visible labels that begin left of it in its row, the nearest.
 QString mezoFelirat(const QWidget& ablak, const char* nev) {
     const QRect mezo = hely(ablak, *vezerlo<QWidget>(ablak, nev));

@@ -17,10 +17,6 @@ QList<QWidget*> tabSorrend(QWidget& ablak) {
     return sor;
 }
 
-QRect hely(const QWidget& ablak, const QWidget& w) {
-    return {w.mapTo(&ablak, QPoint()), w.size()};
-}
-
 /// Whether the eye comes from one place to the other without going back.
 bool szemUtan(const QRect& a, const QRect& b) {
     if (b.center().y() > a.bottom()) return true;

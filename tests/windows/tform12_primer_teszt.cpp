@@ -58,10 +58,7 @@ private slots:
             return memo->viewport()->mapTo(&a.form12, memo->cursorRect(kurzor).topLeft()).x();
         };
         const QString datum = "2000.01.01.   ";
-        const auto fejHelye = [&](const QLabel& fej) {
-            return QRect(fej.mapTo(&a.form12, QPoint()), fej.size());
-        };
-        const QRect solarNap = fejHelye(*vezerlo<QLabel>(a.form12, "Label8"));
+        const QRect solarNap = hely(a.form12, *vezerlo<QLabel>(a.form12, "Label8"));
         QVERIFY(qAbs(solarNap.center().x() - helye(datum)) <= 1);
         QVERIFY(solarNap.bottom() < memo->y());
         const std::pair<const char*, int> oszlopok[]{{"dMC:", 5}, {"cMC:", 20}, {"dAsc:", 32}, {"cAsc:", 46}};
@@ -70,9 +67,9 @@ private slots:
             for (const auto* l : a.form12.findChildren<QLabel*>())
                 if (l->text() == fej) felirat = l;
             QVERIFY2(felirat != nullptr, fej);
-            const QRect hely = fejHelye(*felirat);
-            QVERIFY2(qAbs(hely.left() - helye(datum + "w" + QString(behuzas, u' '))) <= 1, fej);
-            QVERIFY2(hely.bottom() < memo->y(), fej);
+            const QRect itt = hely(a.form12, *felirat);
+            QVERIFY2(qAbs(itt.left() - helye(datum + "w" + QString(behuzas, u' '))) <= 1, fej);
+            QVERIFY2(itt.bottom() < memo->y(), fej);
         }
     }
 

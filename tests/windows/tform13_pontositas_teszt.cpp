@@ -241,9 +241,8 @@ private slots:
             QVERIFY(memo1->geometry().right() < memo2->x());
             QVERIFY(memo2->geometry().right() < memo3->x());
             for (const char* nev : {"Label2", "Label5"}) {
-                const auto* fej = vezerlo<QLabel>(a.form13, nev);
-                const int bal = fej->mapTo(&a.form13, QPoint()).x();
-                QVERIFY2(bal > memo2->x() && bal + fej->width() <= memo2->geometry().right() + 1, nev);
+                const QRect fej = hely(a.form13, *vezerlo<QLabel>(a.form13, nev));
+                QVERIFY2(fej.left() > memo2->x() && fej.right() <= memo2->geometry().right(), nev);
             }
             kattint(a.form13, "Button_Megsem1");
         }

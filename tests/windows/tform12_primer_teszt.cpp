@@ -29,6 +29,7 @@ private slots:
         QVERIFY(a.form12.isVisible());
         QCOMPARE(ertek(a.form12, "SpinEditEv1"), QDate::currentDate().year() - 1);
         QCOMPARE(ertek(a.form12, "SpinEditHo1"), 1);
+        QCOMPARE(ertek(a.form12, "SpinEditNap1"), 1);
         QCOMPARE(vezerlo<QLabel>(a.form12, "Label8")->text(), "Solar-Nap:");
         auto* memo = vezerlo<QPlainTextEdit>(a.form12, "Memo1");
         QCOMPARE(memo->toPlainText(), "");

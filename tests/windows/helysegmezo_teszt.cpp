@@ -233,6 +233,11 @@ private slots:
         leut(Qt::Key_Escape);
         leut(Qt::Key_Down);
         QCOMPARE(d.mezo.currentText(), "Őriszentpéter");
+        leut(Qt::Key_A, Qt::ControlModifier);
+        beut("Aba");  // the first row
+        leut(Qt::Key_Escape);
+        leut(Qt::Key_Down);
+        QCOMPARE(d.mezo.currentText(), "Abádszalók");
     }
 
     /// From a text that can mean no place an arrow key leads to a place all the same.

@@ -290,6 +290,22 @@ private slots:
         }
     }
 
+    /// At once, so that a command that computes for long leaves no old picture.
+    void azUjrafestesRogtonTorolVagyRajzol() {
+        TJaroAblakok a;
+        const TFestesSzamlalo felulet(a.felulet());
+        a.allapot().TeljesTorles = true;
+        a.form1.Ujrafest();
+        QCOMPARE(felulet.szam, 1);
+        QImage ures = a.felszin();
+        ures.fill(Qt::white);
+        QCOMPARE(a.felszin(), ures);
+        a.allapot().TeljesTorles = false;
+        a.form1.Ujrafest();
+        QCOMPARE(felulet.szam, 2);
+        QCOMPARE(a.felszin(), a.tisztaRajz());
+    }
+
     void azIndulasEgyszerFestiAPanelt() {
         TAblakok a;
         a.form1.findChild<QTimer*>("Timer1")->stop();  // a tick paints anew

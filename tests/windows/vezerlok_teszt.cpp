@@ -164,6 +164,18 @@ private slots:
         QCOMPARE(d.szam("Ev").value(), 1985);
     }
 
+    void aNullaIsSzamjegy() {
+        TProbaDialogus d;
+        d.beir("Ev", "2100");
+        leut(Qt::Key_Return);
+        QCOMPARE(d.rendbenek, 0);
+        QCOMPARE(d.kijelolt("Ev"), "2068");
+        beut("1900");
+        leut(Qt::Key_Return);
+        QCOMPARE(d.szam("Ev").value(), 1900);
+        QCOMPARE(d.rendbenek, 1);
+    }
+
     void azElojelesMezoMindketIranybanVag() {
         TProbaDialogus d;
         d.beir("Fok", "-999");

@@ -31,7 +31,7 @@ void TForm10::megmutat(std::function<TSzuletes()> szuletes, const TEletesemeny& 
     exec();
 }
 
-/// Selects a row, 0 for none, and shows it so.
+/// Selects a row, 0 for none, and shows it so; the letters' colour follows the background's role.
 void TForm10::kijeloles(int sor) {
     kijelolt_ = sor;
     for (std::size_t i = 0; i < sorok_.size(); ++i) {
@@ -39,7 +39,6 @@ void TForm10::kijeloles(int sor) {
         for (QLabel* felirat : sorok_[i]) {
             felirat->setAutoFillBackground(kijelolt);
             felirat->setBackgroundRole(kijelolt ? QPalette::Highlight : QPalette::NoRole);
-            felirat->setForegroundRole(kijelolt ? QPalette::HighlightedText : QPalette::NoRole);
         }
     }
 }

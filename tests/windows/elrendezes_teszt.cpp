@@ -492,6 +492,13 @@ private slots:
         QCOMPARE(felirat(d, "Kezdő év:").left(), jobbTav(d, hely(d, "Button_Megsem1")));
         jobbraZarva(d, {"Button_Megsem1", "Button_Pontositas1"});
         QCOMPARE(hely(d, "Button_Pontositas1").height(), hely(d, "Button_Megsem1").height());
+        // It keeps its width also where nothing stands before it.
+        const QRect pontositas = hely(d, "Button_Pontositas1");
+        vezerlo<QLabel>(a.form12, "LabelVege1")->hide();
+        QApplication::processEvents();
+        QCOMPARE(hely(d, "Button_Pontositas1"), pontositas);
+        vezerlo<QLabel>(a.form12, "LabelVege1")->show();
+        QApplication::processEvents();
         balraZarva(d, {"Memo1", "LabelVege1"});
         QCOMPARE(hely(d, "Memo1").left(), jobbTav(d, hely(d, "Memo1")));
         for (const char* fej : {"dMC:", "cMC:", "dAsc:", "cAsc:"})

@@ -343,6 +343,8 @@ private slots:
         a.szerkeszt([](QWidget& d) {
             QTest::mouseClick(vezerlo<QLabel>(d, "LEletes_1_2"), Qt::LeftButton);
             QCOMPARE(kijeloltSorok(d), QList<int>{1});
+            QCOMPARE(vezerlo<QLabel>(d, "LEletes_1_15")->foregroundRole(), QPalette::HighlightedText);
+            QCOMPARE(vezerlo<QLabel>(d, "LEletes_2_15")->foregroundRole(), QPalette::WindowText);
             QTest::mouseClick(vezerlo<QLabel>(d, "LEletes_2_3"), Qt::LeftButton);
             QCOMPARE(kijeloltSorok(d), QList<int>{2});
             kattint(d, "Button_Rendben1");  // replaces it and ends the selection

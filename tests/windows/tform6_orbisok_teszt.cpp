@@ -58,6 +58,8 @@ private slots:
             kattint(d, "BOrbis_3_1");
             QCOMPARE(cella(d, 3, 1)->text(), "14");
             kattint(d, "Button_plusz1");
+            QCOMPARE(vezerlo<QPushButton>(d, "Button_plusz1")->font().pointSize(), 16);
+            QCOMPARE(vezerlo<QPushButton>(d, "Button_minusz2")->font().pointSize(), 8);
             for (const char* ertek : {"14.5", "15"}) {
                 kattint(d, "BOrbis_3_1");
                 QCOMPARE(cella(d, 3, 1)->text(), ertek);

@@ -9,7 +9,7 @@
 #include <QWidget>
 
 /// Ends the program when a widget has been painted for the first time; with KORVEND_MEMORIA set it writes
-/// the process's private memory then, in kB.
+/// the process's private memory, in kB, a little later.
 class TElsoFestes : public QObject {
 public:
     explicit TElsoFestes(QWidget& ablak) { ablak.installEventFilter(this); }
@@ -17,12 +17,17 @@ public:
 private:
     bool eventFilter(QObject*, QEvent* esemeny) override {
         // Not quit(): that asks the windows first, and the main window asks the user.
-        if (esemeny->type() == QEvent::Paint) QTimer::singleShot(0, qApp, [] { vege(); });
+        if (esemeny->type() == QEvent::Paint) QTimer::singleShot(varakozas(), qApp, [] { vege(); });
         return false;
     }
 
+    static bool memoria() { return qEnvironmentVariableIsSet("KORVEND_MEMORIA"); }
+
+    /// Milliseconds: until the X server has taken the picture over, its pages count as the program's own.
+    static int varakozas() { return memoria() ? 100 : 0; }
+
     static void vege() {
-        if (qEnvironmentVariableIsSet("KORVEND_MEMORIA")) std::printf("%lld\n", sajatMemoria());
+        if (memoria()) std::printf("%lld\n", sajatMemoria());
         QApplication::exit();
     }
 

@@ -78,6 +78,7 @@ void TForm10::mezokMutatasa(const TEletesemeny& e) {
         {hosszPerc_, e.hosszPerc}, {szelFok_, e.szelFok},    {szelPerc_, e.szelPerc}};
     for (const auto& [mezo, ertek] : szamok) mezo->setValue(ertek);
     solarNap_->setText(qszoveg(HazCimke(e.solarNap)));
+    alapMezok_ = mezok();
 }
 
 void TForm10::Button_Rendben1Click() {
@@ -94,6 +95,7 @@ void TForm10::Button_Rendben1Click() {
 void TForm10::szovegekUritese() {
     esemeny_->setText({});
     analogia_->setText({});
+    alapMezok_ = mezok();
     esemeny_->setFocus();
 }
 
@@ -158,10 +160,10 @@ void TForm10::betoltes(int sor) {
 }
 
 /// The arrow keys walk through the list where the focused field has no use for them, as the texts have none;
-/// but a typed text stays.
+/// but what was typed stays.
 void TForm10::keyPressEvent(QKeyEvent* esemeny) {
     const int lepes = esemeny->key() == Qt::Key_Down ? 1 : esemeny->key() == Qt::Key_Up ? -1 : 0;
-    if (lepes == 0 || gepelt()) return QDialog::keyPressEvent(esemeny);
+    if (lepes == 0 || gepelt() || mezok() != alapMezok_) return QDialog::keyPressEvent(esemeny);
     const int db = allapot_.Esemenyek.EsemenyDb;
     const int sor = kijelolt_ == 0 && lepes < 0 ? db : kijelolt_ + lepes;
     if (sor >= 1 && sor <= db) betoltes(sor);

@@ -71,8 +71,9 @@ private:
     Allapot& allapot_;
     QWidget* fo_;
     TParbeszed* parbeszed_ = nullptr;
-    TEsemenyTar masodik_;  ///< the events at the opening
-    int kijelolt_ = 0;     ///< 1..20, 0 for none
+    TEsemenyTar masodik_;     ///< the events at the opening
+    int kijelolt_ = 0;        ///< 1..20, 0 for none
+    TEletesemeny alapMezok_;  ///< the fields before anything was typed into them
     std::function<TSzuletes()> szuletes_;
 
     std::array<std::array<QLabel*, esemenyOszlopok>, esemenyHelyek> sorok_{};

@@ -1,7 +1,5 @@
 // What the window of the life events is made of: the list, the fields, the buttons.
 
-#include "windows/tform10_eletesemenyek.h"
-
 #include <array>
 
 #include <QPushButton>
@@ -9,6 +7,7 @@
 #include "tables/szotar.h"
 #include "windows/helysegmezo.h"
 #include "windows/qszoveg.h"
+#include "windows/tform10_eletesemenyek.h"
 #include "windows/vezerlok.h"
 
 namespace {

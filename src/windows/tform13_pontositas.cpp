@@ -35,6 +35,7 @@ constexpr int koz = 4;  ///< between the first two lists, and between the button
 constexpr int memo1Legkisebb = 132;
 constexpr int memo2Szelesseg = elsoSzelesseg - 2 * szel - memo1Legkisebb - koz;
 constexpr int memo3Legkisebb = 170;
+constexpr int hazHelye = 21;  ///< of a line's house, before its first hit
 
 /// The reach in hundredths, as it reads behind the "0," of its caption.
 class THatotavMezo : public SzamMezo {
@@ -126,7 +127,7 @@ void TForm13::memokEpitese() {
 void TForm13::fejekEpitese() {
     fejek_ = new QWidget(this);
     auto* sor = new QHBoxLayout(fejek_);
-    sor->setContentsMargins(21, koz, koz, koz);
+    sor->setContentsMargins(hazHelye, koz, koz, koz);
     sor->setSpacing(0);
     int sorszam = 2;
     for (const char* fej : {"dMc", "cMc", "dAsc", "cAsc"}) {

@@ -28,8 +28,8 @@ QLabel* ujCimke(QWidget* szulo, const QString& felirat, const QPoint& hely);
 /// turned over a dialog would change whatever field happens to lie under the pointer.
 void gorgoCsakFokusszal(QWidget& mezo);
 
-/// Heights of the buttons and fields in the windows that stand beside the main one or by coordinates, pixels;
-/// larger letters take more where a layout gives it.
+/// Least heights of buttons and fields, pixels, so that they are alike from window to window; larger letters
+/// take more where a layout gives it.
 inline constexpr int gombMagas = 28;
 inline constexpr int mezoMagas = 26;
 

@@ -110,11 +110,15 @@ private slots:
                 QCOMPARE(sor(d, "Edit_Hazanalogiak1"), analogia);
                 QCOMPARE(ertek(d, "SpinEditEv1"), ev);
             };
-            for (const auto& [gomb, kijelolt] :
-                 {std::pair(Qt::Key_Down, 1), std::pair(Qt::Key_Down, 2), std::pair(Qt::Key_Down, 2),
-                  std::pair(Qt::Key_Up, 1), std::pair(Qt::Key_Up, 1)}) {
-                leut(gomb);
-                kijelolt == 1 ? itt(1, "első", "I,2", 1999) : itt(2, "második", "3", 2000);
+            leut(Qt::Key_Down);
+            itt(1, "első", "I,2", 1999);
+            for (int n = 0; n < 2; ++n) {  // at the end it stays
+                leut(Qt::Key_Down);
+                itt(2, "második", "3", 2000);
+            }
+            for (int n = 0; n < 2; ++n) {
+                leut(Qt::Key_Up);
+                itt(1, "első", "I,2", 1999);
             }
             gepel(d, "Edit_Eletesemenyek1", "javított");
             leut(Qt::Key_Return);
@@ -127,19 +131,44 @@ private slots:
         });
     }
 
-    void aNyilABeirtatNemVesztiElEsASzamMezobenSzamotLeptet() {
+    void aNyilABeirtatNemVesztiEl() {
+        TKetEsemeny a;
+        for (const auto& [mezo, beirt] :
+             {std::pair("Edit_Eletesemenyek1", "beírt"), std::pair("Edit_Hazanalogiak1", "4"),
+              std::pair("Edit_Hazanalogiak1", "ez nem ház"), std::pair("SpinEditNap1", "17"),
+              std::pair("SpinEditSzelPerc1", "59")})
+            for (const Qt::Key gomb : {Qt::Key_Down, Qt::Key_Up})
+                a.szerkeszt([&](QWidget& d) {
+                    gepel(d, mezo, beirt);
+                    vezerlo<QLineEdit>(d, "Edit_Eletesemenyek1")->setFocus();
+                    leut(gomb);
+                    QVERIFY2(kijeloltSorok(d).isEmpty(), mezo);
+                    const auto* szam = d.findChild<QSpinBox*>(mezo);
+                    QCOMPARE(szam != nullptr ? szam->text() : sor(d, mezo), beirt);
+                    kattint(d, "Button_Megsem2");
+                });
+    }
+
+    /// Once the changed event is in the list the keys go on.
+    void aJavitottEsemenyUtanANyilTovabbmegy() {
         TKetEsemeny a;
         a.szerkeszt([](QWidget& d) {
-            gepel(d, "Edit_Eletesemenyek1", "beírt");
             leut(Qt::Key_Down);
-            QCOMPARE(sor(d, "Edit_Eletesemenyek1"), "beírt");
-            gepel(d, "Edit_Hazanalogiak1", "4");
-            gepel(d, "Edit_Eletesemenyek1", "");
-            leut(Qt::Key_Up);
-            QCOMPARE(sor(d, "Edit_Hazanalogiak1"), "4");
-            QVERIFY(kijeloltSorok(d).isEmpty());
+            gepel(d, "SpinEditEv1", "1998");
+            vezerlo<QLineEdit>(d, "Edit_Eletesemenyek1")->setFocus();
+            leut(Qt::Key_Down);
+            QCOMPARE(kijeloltSorok(d), QList<int>{1});
+            QCOMPARE(ertek(d, "SpinEditEv1"), 1998);
+            leut(Qt::Key_Return);
+            QCOMPARE(lista(d, 1, 4), "1998.");
+            leut(Qt::Key_Down);
+            QCOMPARE(kijeloltSorok(d), QList<int>{1});
             kattint(d, "Button_Megsem2");
         });
+    }
+
+    void aNyilASzamMezobenSzamotLeptet() {
+        TKetEsemeny a;
         a.szerkeszt([](QWidget& d) {
             vezerlo<QSpinBox>(d, "SpinEditEv1")->setFocus();
             leut(Qt::Key_Down);

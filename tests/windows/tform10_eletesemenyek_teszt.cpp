@@ -133,18 +133,20 @@ private slots:
 
     void aNyilABeirtatNemVesztiEl() {
         TKetEsemeny a;
-        for (const auto& [mezo, beirt] :
-             {std::pair("Edit_Eletesemenyek1", "beírt"), std::pair("Edit_Hazanalogiak1", "4"),
-              std::pair("Edit_Hazanalogiak1", "ez nem ház"), std::pair("SpinEditNap1", "17"),
-              std::pair("SpinEditSzelPerc1", "59")})
+        struct TBeirt {
+            const char *mezo, *szoveg;
+        };
+        for (const TBeirt& b : {TBeirt{"Edit_Eletesemenyek1", "beírt"}, TBeirt{"Edit_Hazanalogiak1", "4"},
+                                TBeirt{"Edit_Hazanalogiak1", "ez nem ház"}, TBeirt{"SpinEditNap1", "17"},
+                                TBeirt{"SpinEditSzelPerc1", "59"}})
             for (const Qt::Key gomb : {Qt::Key_Down, Qt::Key_Up})
-                a.szerkeszt([&](QWidget& d) {
-                    gepel(d, mezo, beirt);
+                a.szerkeszt([&b, gomb](QWidget& d) {
+                    gepel(d, b.mezo, b.szoveg);
                     vezerlo<QLineEdit>(d, "Edit_Eletesemenyek1")->setFocus();
                     leut(gomb);
-                    QVERIFY2(kijeloltSorok(d).isEmpty(), mezo);
-                    const auto* szam = d.findChild<QSpinBox*>(mezo);
-                    QCOMPARE(szam != nullptr ? szam->text() : sor(d, mezo), beirt);
+                    QVERIFY2(kijeloltSorok(d).isEmpty(), b.mezo);
+                    const auto* szam = d.findChild<QSpinBox*>(b.mezo);
+                    QCOMPARE(szam != nullptr ? szam->text() : sor(d, b.mezo), b.szoveg);
                     kattint(d, "Button_Megsem2");
                 });
     }

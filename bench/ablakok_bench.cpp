@@ -1,6 +1,7 @@
 // One drawing of each view at 1600 x 1000, and the tick of a chart at rest.
 
 #include <QApplication>
+#include <QPainter>
 #include <QPixmap>
 #include <benchmark/benchmark.h>
 
@@ -9,21 +10,23 @@
 #include "drawing/kepletrajz.h"
 #include "windows/ablakok.h"
 #include "windows/betumappak.h"
-#include "windows/qtvaszon.h"
+#include "windows/kepletfelulet.h"
 
 namespace {
 
+/// From the chart to the pixels, as the main window's surface keeps and paints it.
 void NezetRajzolasa(benchmark::State& allas) {
     TForm1 ablak;
     Allapot& allapot = ablak.allapot();
     allapot.KepletTipus = static_cast<TKepletTipus>(allas.range(0));
-    QPixmap felulet(1600, 1000);
+    KepletFelulet felulet;
+    felulet.resize(1600, 1000);
+    QPixmap kep(felulet.size());
     for (auto _ : allas) {
-        felulet.fill(Qt::white);
         AblakGeometria(allapot.Rajz, allapot.Keplet.hazCsucs[1], felulet.width(), felulet.height());
-        QPainter festo(&felulet);
-        QtVaszon vaszon(festo, TLap::feher);
-        KepletRajz(vaszon, allapot);
+        felulet.ujrarajzol(felulet.rect(), [&](Vaszon& vaszon) { KepletRajz(vaszon, allapot); });
+        QPainter festo(&kep);
+        felulet.fest(festo);
     }
 }
 BENCHMARK(NezetRajzolasa)->DenseRange(1, 3)->Unit(benchmark::kMillisecond);

@@ -10,6 +10,7 @@ meres() {
 }
 XDG_RUNTIME_DIR=$(mktemp -d)
 export XDG_RUNTIME_DIR
+sync # pages of a program that has just been linked count as its own until they are on the disk
 trap 'rm -rf "$XDG_RUNTIME_DIR"' EXIT
 meres offscreen
 if ! command -v Xvfb >/dev/null; then

@@ -45,3 +45,6 @@ private:
     std::string betutipus_;
     int magassag_ = 0;
 };
+
+/// Draws a recording on another canvas.
+void RajzolMuveletek(const std::vector<TMuvelet>& muveletek, Vaszon& vaszon);

@@ -1,9 +1,12 @@
 #include "windows/kepletfelulet.h"
 
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
 #include <QPaintEvent>
 #include <QPainter>
-
-#include "windows/qtvaszon.h"
+#include <QTransform>
 
 KepletFelulet::KepletFelulet(QWidget* parent) : QWidget(parent) {
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -11,54 +14,61 @@ KepletFelulet::KepletFelulet(QWidget* parent) : QWidget(parent) {
 
 namespace {
 
-void rajzolas(QPixmap& kep, TLap lap, const std::function<void(QtVaszon&)>& rajz) {
-    QPainter festo(&kep);
-    QtVaszon vaszon(festo, lap);
+std::vector<TMuvelet> rogzites(const std::function<void(Vaszon&)>& rajz) {
+    RogzitoVaszon vaszon;
     rajz(vaszon);
+    return vaszon.muveletek();
 }
 
-/// Copies the pixels that a region touches.
-/// @param arany  device pixels in a unit of the region
-void masolas(QPixmap& hova, QPixmap& honnan, const QRegion& resz, double arany) {
-    hova.setDevicePixelRatio(1);
-    honnan.setDevicePixelRatio(1);
-    QPainter festo(&hova);
-    for (const QRect& r : resz) {
-        const QRectF pixelek(r.x() * arany, r.y() * arany, r.width() * arany, r.height() * arany);
-        const QRect egesz = pixelek.toAlignedRect().intersected(hova.rect());
-        festo.drawPixmap(egesz, honnan, egesz);
-    }
-    festo.end();
-    hova.setDevicePixelRatio(arany);
+/// How far beyond the pixel's edge, in device pixels: texts are placed by truncated 64ths, and an edge that
+/// is less by the rounding of a double would move them by a pixel.
+constexpr double raadas = 1e-9;
+
+/// Moves the origin to a whole device pixel, where a picture of the surface's own would stand: with a pixel
+/// ratio of 1.5 the surface may begin half a pixel below one, and all that is sharp would be blurred.
+void egeszPixelre(QPainter& festo) {
+    const QTransform t = festo.deviceTransform();
+    const double arany = festo.device()->devicePixelRatioF();
+    const auto elteres = [arany](double hely) {
+        const double kell = std::round(hely) - hely;
+        return kell == 0 ? 0 : (kell + raadas) / arany;
+    };
+    festo.translate(elteres(t.dx()), elteres(t.dy()));
 }
 
 }  // namespace
 
-void KepletFelulet::rajzol(const std::function<void(QtVaszon&)>& rajz) {
-    if (!kep_.isNull()) rajzolas(kep_, TLap::barmilyen, rajz);
+void KepletFelulet::rajzol(const std::function<void(Vaszon&)>& rajz) {
+    retegek_.push_back({rect(), TLap::barmilyen, rogzites(rajz)});
 }
 
-void KepletFelulet::ujrarajzol(const QRegion& resz, const std::function<void(QtVaszon&)>& rajz) {
-    if (kep_.isNull()) return;
-    if (QRegion(rect()).subtracted(resz).subtracted(childrenRegion()).isEmpty()) {
-        torol();
-        rajzolas(kep_, TLap::feher, rajz);
-        return;
-    }
-    // Drawn elsewhere and copied: what is drawn in a part only has its antialiased edges rounded differently.
-    QPixmap uj(kep_.size());
-    uj.setDevicePixelRatio(kep_.devicePixelRatio());
-    uj.fill(Qt::white);
-    rajzolas(uj, TLap::feher, rajz);
-    masolas(kep_, uj, resz, kep_.devicePixelRatio());
+void KepletFelulet::ujrarajzol(const QRegion& resz, const std::function<void(Vaszon&)>& rajz) {
+    torol(resz);
+    const QRegion helye = rejtettekkel(resz);
+    std::vector<TMuvelet> uj = rogzites(rajz);
+    // A drawing that comes back where it stood joins its other parts: edges that are drawn in a part only are
+    // rounded differently.
+    const auto resze =
+        std::ranges::find_if(retegek_, [&](const TReteg& r) { return r.lap == TLap::feher && r.rajz == uj; });
+    if (resze != retegek_.end())
+        resze->resz += helye;
+    else
+        retegek_.push_back({helye, TLap::feher, std::move(uj)});
+}
+
+QRegion KepletFelulet::rejtettekkel(const QRegion& resz) const {
+    const bool minden = QRegion(rect()).subtracted(resz).subtracted(childrenRegion()).isEmpty();
+    return minden ? QRegion(rect()) : resz;
 }
 
 void KepletFelulet::torol() {
-    if (!kep_.isNull()) kep_.fill(Qt::white);
+    retegek_.clear();
 }
 
 void KepletFelulet::torol(const QRegion& resz) {
-    ujrarajzol(resz, [](QtVaszon&) {});
+    const QRegion helye = rejtettekkel(resz);
+    for (TReteg& reteg : retegek_) reteg.resz -= helye;
+    std::erase_if(retegek_, [](const TReteg& reteg) { return reteg.resz.isEmpty(); });
 }
 
 void KepletFelulet::megmutat() {
@@ -75,14 +85,23 @@ void KepletFelulet::ervenytelenit() {
 }
 
 void KepletFelulet::ujKep() {
-    kep_ = QPixmap(size() * devicePixelRatioF());
-    kep_.setDevicePixelRatio(devicePixelRatioF());
+    arany_ = devicePixelRatioF();
     torol();
     emit meretValtozott();
 }
 
 void KepletFelulet::aranyKovetes() {
-    if (!kep_.isNull() && !qFuzzyCompare(kep_.devicePixelRatio(), devicePixelRatioF())) ujKep();
+    if (!qFuzzyCompare(arany_, devicePixelRatioF())) ujKep();
+}
+
+void KepletFelulet::fest(QPainter& festo) const {
+    festo.fillRect(rect().adjusted(-1, -1, 1, 1), Qt::white);  // the pixels on its edges too
+    egeszPixelre(festo);
+    for (const TReteg& reteg : retegek_) {
+        festo.setClipRegion(reteg.resz);
+        QtVaszon vaszon(festo, reteg.lap);
+        RajzolMuveletek(reteg.rajz, vaszon);
+    }
 }
 
 void KepletFelulet::paintEvent(QPaintEvent* esemeny) {
@@ -94,7 +113,7 @@ void KepletFelulet::paintEvent(QPaintEvent* esemeny) {
     }
     festes_ = false;
     QPainter festo(this);
-    festo.drawPixmap(0, 0, kep_);
+    fest(festo);
 }
 
 void KepletFelulet::resizeEvent(QResizeEvent* esemeny) {

@@ -1,24 +1,27 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
-#include <QPixmap>
+#include <QRegion>
 #include <QWidget>
 
+#include "drawing/rogzitovaszon.h"
 #include "windows/qtvaszon.h"
 
-/// The main window's drawing surface: a picture of its own that drawing changes at once and the window shows.
+/// The main window's drawing surface: it keeps what is drawn on it, and shows it on each paint. The calls are
+/// kept and not their pixels, which would take more memory than all the rest of the program.
 class KepletFelulet : public QWidget {
     Q_OBJECT
 
 public:
     explicit KepletFelulet(QWidget* parent = nullptr);
 
-    /// Runs a drawing on the surface's canvas, over what stands there.
-    void rajzol(const std::function<void(QtVaszon&)>& rajz);
-    /// Empties a part of the surface and runs a drawing of the whole picture there. Nothing outside the part
-    /// is touched: antialiased edges that are drawn over themselves get thicker.
-    void ujrarajzol(const QRegion& resz, const std::function<void(QtVaszon&)>& rajz);
+    /// Adds a drawing to the surface, over what stands there.
+    void rajzol(const std::function<void(Vaszon&)>& rajz);
+    /// Empties a part of the surface and puts that part of a drawing there. Nothing outside the part is
+    /// touched: antialiased edges that are drawn over themselves get thicker.
+    void ujrarajzol(const QRegion& resz, const std::function<void(Vaszon&)>& rajz);
     /// Empties the surface, or a part of it.
     void torol();
     void torol(const QRegion& resz);
@@ -26,8 +29,8 @@ public:
     void megmutat();
     /// Asks for a paint on the next turn of the message loop; `megmutat` in between does not take its place.
     void ervenytelenit();
-
-    const QPixmap& kep() const { return kep_; }
+    /// Paints what stands on the surface, from the painter's origin.
+    void fest(QPainter& festo) const;
 
 signals:
     /// The window system asks for a part of the picture.
@@ -40,11 +43,21 @@ protected:
     void resizeEvent(QResizeEvent* esemeny) override;
 
 private:
+    /// A drawing and the part of the surface where it stands.
+    struct TReteg {
+        QRegion resz;
+        TLap lap;
+        std::vector<TMuvelet> rajz;
+    };
+
+    /// All of the surface where nothing but its children lies outside the part.
+    QRegion rejtettekkel(const QRegion& resz) const;
     void ujKep();
     /// The screen's pixel ratio may change without a resize.
     void aranyKovetes();
 
-    QPixmap kep_;
+    std::vector<TReteg> retegek_;  ///< from below; those on white do not overlap each other
+    double arany_ = 1;
     bool festes_ = false;  ///< a paint event is being answered
     bool sajatMutatas_ = false;
     bool ervenytelen_ = false;

@@ -180,7 +180,7 @@ void TForm1::FormCreate() {
 void TForm1::kepletRajzolas(const QRegion& resz) {
     AblakGeometria(allapot_.Rajz, allapot_.Keplet.hazCsucs[1], felulet_->width(), felulet_->height());
     kiirtTalalatok_.reset();
-    felulet_->ujrarajzol(resz, [this](QtVaszon& vaszon) { KepletRajz(vaszon, allapot_); });
+    felulet_->ujrarajzol(resz, [this](Vaszon& vaszon) { KepletRajz(vaszon, allapot_); });
     oldalPanelMutatas();
 }
 

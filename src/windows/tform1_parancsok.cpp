@@ -147,7 +147,7 @@ void TForm1::datumosDirekcio(bool tercier) {
     if (allapot_.Megsem3) return;
 
     kiirtTalalatok_ = form3.eredmeny();
-    felulet_->rajzol([&](QtVaszon& vaszon) { DatumosKiiras(vaszon, allapot_, *kiirtTalalatok_); });
+    felulet_->rajzol([&](Vaszon& vaszon) { DatumosKiiras(vaszon, allapot_, *kiirtTalalatok_); });
     felulet_->megmutat();
 }
 

@@ -1,3 +1,5 @@
+#include <string>
+#include <string_view>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -27,6 +29,44 @@ TEST(RogzitoVaszon, AzUjVaszonTollaEgyPixelesASarokban) {
     EXPECT_EQ(v.muveletek(),
               (std::vector<TMuvelet>{TVonalMuvelet{0, 0, 3, 4, 1, 0}, TSzovegMuvelet{1, 2, "x", "", 0},
                                      TKorMuvelet{5, 5, 5, 1, 0}}));
+}
+
+/// A recording canvas that notes what is set too.
+struct TBeallitasok : RogzitoVaszon {
+    std::vector<std::string> sorok;
+    void TollSzelesseg(int szelesseg) override {
+        sorok.push_back("toll " + std::to_string(szelesseg));
+        RogzitoVaszon::TollSzelesseg(szelesseg);
+    }
+    void Stilus(TollStilus stilus) override {
+        sorok.push_back("stilus " + std::to_string(static_cast<int>(stilus)));
+        RogzitoVaszon::Stilus(stilus);
+    }
+    void Betu(std::string_view nev, int magassag) override {
+        sorok.push_back(std::string(nev) + " " + std::to_string(magassag));
+        RogzitoVaszon::Betu(nev, magassag);
+    }
+};
+
+TEST(RogzitoVaszon, AFelvettMuveletekMasVaszonraUgyanugyKerulnek) {
+    const std::vector<TMuvelet> felvett{
+        TVonalMuvelet{1, 2, 3, 4, 0, 2},    TVonalMuvelet{9, 8, 7, 6, 0, 2},
+        TKorMuvelet{50, 60, 11, 0, 0},      TKorMuvelet{-5, 60, 0, 4, 0},
+        TSzovegMuvelet{1, 2, "a", "B", 9},  TSzovegMuvelet{3, 4, "", "B", 9},
+        TSzovegMuvelet{5, 6, "c", "B", 12}, TSzovegMuvelet{7, 8, "d", "D", 12},
+        TKorMuvelet{1, 1, 1, 4, 3},         TSzovegMuvelet{9, 9, "e", "D", 12}};
+    TBeallitasok masik;
+    RajzolMuveletek(felvett, masik);
+    EXPECT_EQ(masik.muveletek(), felvett);
+}
+
+TEST(RogzitoVaszon, AVisszajatszasCsakAValtozastAllitjaBe) {
+    TBeallitasok vaszon;
+    RajzolMuveletek(
+        {TVonalMuvelet{1, 2, 3, 4, 1, 0}, TVonalMuvelet{3, 4, 5, 6, 1, 0}, TSzovegMuvelet{1, 2, "a", "B", 9},
+         TKorMuvelet{5, 5, 5, 1, 1}, TSzovegMuvelet{3, 4, "b", "B", 9}, TKorMuvelet{5, 5, 5, 2, 1}},
+        vaszon);
+    EXPECT_EQ(vaszon.sorok, (std::vector<std::string>{"toll 1", "stilus 0", "B 9", "stilus 1", "toll 2"}));
 }
 
 }  // namespace

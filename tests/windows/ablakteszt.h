@@ -8,6 +8,8 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
+#include <QPixmap>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSpinBox>
@@ -94,6 +96,16 @@ struct TFrissAblakok : TAblakok {
         return form1.findChild<KepletFelulet*>("Felulet")->grab().toImage();
     }
 };
+
+/// What stands on the drawing surface, whatever the window shows.
+inline QImage felszin(const KepletFelulet& felulet) {
+    QPixmap kep(felulet.size() * felulet.devicePixelRatioF());
+    kep.setDevicePixelRatio(felulet.devicePixelRatioF());
+    QPainter festo(&kep);
+    felulet.fest(festo);
+    festo.end();
+    return kep.toImage();
+}
 
 /// A control's place in its window.
 inline QRect hely(const QWidget& ablak, const QWidget& vezerlo) {

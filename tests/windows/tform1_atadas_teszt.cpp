@@ -203,14 +203,14 @@ private slots:
         t.a.vezerloOra()->stop();
         valasz([](QWidget& d) { kattint(d, "Button_Rendben1"); });
         menu(t.a.form1, "Tercier1");
-        const QImage latott = t.felulet().kep().toImage().convertToFormat(QImage::Format_RGB32);
+        const QImage latott = felszin(t.felulet()).convertToFormat(QImage::Format_RGB32);
         menu(t.a.form1, "KepMasolas1");
         const QImage vele = TAtadas::vagolapKep();
         const QImage nelkule = kepletKep(t.a.allapot(), t.kepernyon());
         QCOMPARE(vele.size(), nelkule.size());
         QVERIFY(!azonos(vele, nelkule));
         t.a.form1.RajzolKeplet();
-        QVERIFY(latott != t.felulet().kep().toImage().convertToFormat(QImage::Format_RGB32));
+        QVERIFY(latott != felszin(t.felulet()).convertToFormat(QImage::Format_RGB32));
         menu(t.a.form1, "KepMasolas1");
         QVERIFY(azonos(TAtadas::vagolapKep(), nelkule));
     }

@@ -42,19 +42,17 @@ public:
         if (hiba.empty()) return true;
         maradek_ = eredeti;
         sorok_ = sor - 1;
-        sorElejeig(std::min(maradek_.find('\n'), maradek_.size()));
+        maradek_.remove_prefix(std::min(maradek_.find('\n'), maradek_.size()));
+        sorVegen();
         return true;
     }
 
 private:
-    void sorElejeig(std::size_t vege) {
-        sorok_ += static_cast<int>(
-            std::count(maradek_.begin(), maradek_.begin() + static_cast<std::ptrdiff_t>(vege), '\n'));
-        maradek_.remove_prefix(vege);
-        if (maradek_.starts_with('\n')) {
-            ++sorok_;
-            maradek_.remove_prefix(1);
-        }
+    /// Steps over the end of a line, which the end of the text may take the place of.
+    void sorVegen() {
+        if (!maradek_.starts_with('\n')) return;
+        ++sorok_;
+        maradek_.remove_prefix(1);
     }
 
     /// Takes one cell with what ends it.
@@ -83,7 +81,7 @@ private:
             hiba = "szöveg a záró idézőjel után";
             return false;
         }
-        sorElejeig(0);
+        sorVegen();
         return false;
     }
 

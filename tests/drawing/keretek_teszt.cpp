@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include "drawing/kerek.h"
+#include "drawing/keretek.h"
 #include "rajzteszt.h"
 
 namespace {
@@ -162,6 +164,15 @@ TEST(KisMundanKerek, AKullokEsAJegyek) {
     EXPECT_EQ(nap[1].y, 161 + 8 - 10);
     // Pointers from 120 to 120 / 9 + 5 + 120 with pen 1.
     EXPECT_EQ(vonalak(m, 803, 161, 120, 120 / 9.0 + 125, 1), 10);
+}
+
+TEST(KisMundanKerek, TizenketJegySzovegTobbSemmi) {
+    RogzitoVaszon v;
+    KisMundanJegyek(TKerek(v, 803, 161, 0), 120, "Jelek");
+    ASSERT_EQ(v.muveletek().size(), 12U);
+    for (std::size_t i = 0; i < 12; ++i)
+        EXPECT_EQ(std::get<TSzovegMuvelet>(v.muveletek()[i]).szoveg,
+                  std::string(1, static_cast<char>('a' + i)));
 }
 
 /// Directions, in whole degrees clockwise from the right, of the lines that `vonalak` counts; each line must

@@ -250,6 +250,15 @@ TEST(Csv, APartalanIdezojelCsakASajatSoratViszi) {
     EXPECT_TRUE(jelenti(utana, hiba, 2, "szöveg a záró idézőjel után"));
 }
 
+TEST(Csv, ATobbsorosMezoUtaniHibaAzElsoSorMogottFolytatodik) {
+    // The broken record begins on line 2; its second line is then read for itself, and breaks too.
+    const auto ki = CsvOlvasas(fejlec + "\n\"A\nB\",1975,\"7,21\n" + kovacs + "\n");
+    EXPECT_TRUE(jelenti(ki, hiba, 2, "idézőjel, amelynek nincs párja"));
+    EXPECT_TRUE(jelenti(ki, hiba, 3, "idézőjel, amelynek nincs párja"));
+    ASSERT_EQ(ki.lapok.size(), 1U);
+    EXPECT_EQ(ki.lapok[0].keplet.sor, 4);
+}
+
 TEST(Csv, ANemUtf8SorHibaKodlappalOlvashato) {
     const std::string szoveg =
         fejlec + "\n" + kovacs + "\nK\xF5v\xE1ri,1975,7,21,6,4,9,1,0,Szeged,20°09'K,46°14'É,,\n" + kovacs;

@@ -139,6 +139,9 @@ TEST(TercierTalalat, MindketVegeIsBenneVan) {
     EXPECT_FALSE(TercierTalalat(std::nextafter(359.5, 0), atlepo));
     EXPECT_FALSE(TercierTalalat(std::nextafter(1.5, 2), atlepo));
     EXPECT_FALSE(TercierTalalat(180, atlepo));
+    // Ends that meet, as those of an orb of 180 degrees, leave nothing out.
+    EXPECT_TRUE(TercierTalalat(200, {10, 10}));
+    EXPECT_TRUE(TercierTalalat(5, {10, 10}));
     // A directed place that has left the circle.
     EXPECT_FALSE(TercierTalalat(360, atlepo));
     EXPECT_FALSE(TercierTalalat(-0.1, atlepo));

@@ -109,6 +109,7 @@ bool TMundanKoveto::fenyszogekAllnak(const TCsillagIdo& ido) const {
 }
 
 void TMundanKoveto::fenyszogek(const TCsillagIdo& ido) {
+    ++szamitasok_.fenyszogek;
     MundanFenyszogek(OrbisTabla_, lanc_);
     const Tomb<double, 10> mozgas = napiMozgas(ido.julianszam, lanc_.Mozgasok);
     leggyorsabb_ = 0;
@@ -140,6 +141,7 @@ bool TMundanKoveto::hazakAllnak(const TCsillagIdo& ido) const {
 }
 
 bool TMundanKoveto::hazak(const TCsillagIdo& ido) {
+    ++szamitasok_.hazak;
     const TBolygoHazak elozo = lanc_.BolygoHazak;
     MundanBesorolas(lanc_);
     hazCsucsai_ = lanc_.Hazcsucsok;
@@ -170,6 +172,7 @@ bool TMundanKoveto::csucsjegyekAllnak() const {
 /// The sign that each cusp stands in, of an angular one the decan; start and end are left to the exact
 /// reckoning.
 void TMundanKoveto::csucsjegyek() {
+    ++szamitasok_.csucsjegyek;
     for (int h = 1; h <= 12; ++h) {
         const double szakasz = h % 3 == 1 ? 10 : 30;  // degrees
         const double kezdet = szakasz * std::floor(lanc_.Hazcsucsok[h] / szakasz);

@@ -23,6 +23,12 @@ public:
     /// `AnalogiaAllapot` of a moment of the zone's clock.
     char allapot(std::int32_t julianszam, std::int32_t ora, std::int32_t perc, std::int32_t mperc);
 
+    /// How often something was worked out anew so far.
+    struct TSzamitasok {
+        int fenyszogek = 0, hazak = 0, csucsjegyek = 0;
+    };
+    const TSzamitasok& szamitasok() const { return szamitasok_; }
+
 private:
     int nyariIdo(std::int32_t julianszam, std::int32_t ora, std::int32_t perc, std::int32_t mperc);
     void csucsok(const TCsillagIdo& ido);
@@ -40,6 +46,7 @@ private:
     const TOrbisTabla& OrbisTabla_;
     TMundanLanc lanc_;
     char allapot_ = '0';
+    TSzamitasok szamitasok_;
 
     std::int32_t nyariIdoNapja_ = 0;  ///< day that the next two are of
     int nyariIdoElejen_ = 0, nyariIdoVegen_ = 0;

@@ -31,6 +31,15 @@ TEST(RogzitoVaszon, AzUjVaszonTollaEgyPixelesASarokban) {
                                      TKorMuvelet{5, 5, 5, 1, 0}}));
 }
 
+TEST(RogzitoVaszon, AVonalAzElozoVegetolFolytatodik) {
+    RogzitoVaszon v;
+    v.MoveTo(1, 2);
+    v.LineTo(3, 4);
+    v.LineTo(5, 6);
+    EXPECT_EQ(v.muveletek(),
+              (std::vector<TMuvelet>{TVonalMuvelet{1, 2, 3, 4, 1, 0}, TVonalMuvelet{3, 4, 5, 6, 1, 0}}));
+}
+
 /// A recording canvas that notes what is set too.
 struct TBeallitasok : RogzitoVaszon {
     std::vector<std::string> sorok;

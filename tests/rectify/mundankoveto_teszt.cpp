@@ -131,6 +131,38 @@ TEST_F(TMundanKovetoTeszt, AMasodikCsucsRohanasaKozbenIs) {
     }
 }
 
+/// Whether a cusp has come to another sign, an angular one to another decan.
+bool csucsjegyetValtott(const THazcsucsok& elotte, const THazcsucsok& utana) {
+    for (int h = 1; h <= 12; ++h) {
+        const double szakasz = h % 3 == 1 ? 10 : 30;
+        if (std::floor(elotte[h] / szakasz) != std::floor(utana[h] / szakasz)) return true;
+    }
+    return false;
+}
+
+/// A day in steps of half a minute: the signs of the cusps exactly as often as they change, the aspects in at
+/// most two of a hundred steps, the houses in at most a fifth of them.
+TEST_F(TMundanKovetoTeszt, AmiNemValtozhatottAztNemSzamoljaUjra) {
+    constexpr int lepesek = 2880;
+    for (int seta = 0; seta < 20; ++seta) {
+        const TMundanHely h = hely();
+        TMundanKoveto k(h, OrbisAlap);
+        TMundanLanc elozo, lanc;
+        int valtasok = 1;  // the first moment is one
+        std::int64_t t = std::int64_t{szam(elsoNap + 3, utolsoNap - 4)} * 86400 + szam(0, 86399);
+        for (int n = 0; n < lepesek; ++n, t += seta % 2 == 0 ? 30 : -30) {
+            koveto(k, t);
+            const auto m = static_cast<int>(t % 86400);
+            MundanLanc(static_cast<int>(t / 86400), m / 3600, m / 60 % 60, m % 60, h, OrbisAlap, lanc);
+            if (n > 0 && csucsjegyetValtott(elozo.Hazcsucsok, lanc.Hazcsucsok)) ++valtasok;
+            elozo = lanc;
+        }
+        EXPECT_EQ(k.szamitasok().csucsjegyek, valtasok);
+        EXPECT_LE(k.szamitasok().fenyszogek, lepesek / 50);
+        EXPECT_LE(k.szamitasok().hazak, lepesek / 5);
+    }
+}
+
 TEST_F(TMundanKovetoTeszt, ANyariIdoHatarainIs) {
     const TMundanHely szeged{1, 166500, 72540};
     TMundanKoveto k(szeged, OrbisAlap);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <limits>
 
 #include "engine/bolygohelyek.h"
 #include "engine/fenyszogek.h"
@@ -42,6 +43,8 @@ namespace {
 /// Taken off each margin: far above all rounding, far below any motion that matters.
 constexpr double biztonsag = 1e-9;  // degrees
 
+constexpr double vegtelen = std::numeric_limits<double>::infinity();
+
 /// How far an even motion may go, on and back, before it comes to one of some thresholds.
 class TTurelem {
 public:
@@ -55,7 +58,7 @@ public:
         if (tav <= biztonsag) hatra = std::min(hatra, -tav - biztonsag);
     }
 
-    double elore = 360, hatra = 360;  ///< degrees
+    double elore = vegtelen, hatra = vegtelen;  ///< degrees
 
 private:
     double hely_;
@@ -145,7 +148,7 @@ bool TMundanKoveto::hazak(const TCsillagIdo& ido) {
     const TBolygoHazak elozo = lanc_.BolygoHazak;
     MundanBesorolas(lanc_);
     hazCsucsai_ = lanc_.Hazcsucsok;
-    hazKoz_ = {ido.julianszam, ido.napresz, 360, 360};
+    hazKoz_ = {ido.julianszam, ido.napresz, vegtelen, vegtelen};
     const double elso = hazHatar(lanc_.Hazcsucsok[1], 1);
     for (int h = 1; h <= 12; ++h) {
         const double hatar = hazHatar(lanc_.Hazcsucsok[h], h);

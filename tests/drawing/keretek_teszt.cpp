@@ -251,6 +251,15 @@ TEST(RadixKeret, AHuszszorosFeluletenIsArany) {
     EXPECT_EQ(elso[0].y, 6440 + 172 - 26);
 }
 
+TEST(Keretek, MindenBolygonakVanMutatoja) {
+    Allapot a = probaKeplet(0);  // the bodies at 3, 39, 75 ... 327
+    const std::multiset<int> helyek{177, 141, 105, 69, 33, 357, 321, 285, 249, 213};
+    const auto m = nagyRajz(a);
+    EXPECT_EQ(iranyok(m, 6460, 6440, 5013, 4774, 34), helyek);  // a depth of round(5013 / 21), 239
+    EXPECT_EQ(iranyok(m, 6460, 6440, 4482, 4721, 34), helyek);
+    EXPECT_EQ(iranyok(m, 16099, 3220, 2396, 2667, 1), helyek);  // to 2396 / 9 + 5 beyond
+}
+
 TEST(RadixKeret, MindketTengelyNyila) {
     Allapot a = probaKeplet(0);
     a.Keplet.hazCsucs[10] = 280;
@@ -260,6 +269,23 @@ TEST(RadixKeret, MindketTengelyNyila) {
     EXPECT_EQ(iranyok(m, 6460, 6440, 635, 5260, 69), (std::multiset<int>{80, 180}));
     // Heads from A + 7 to A - 5, 0.016 radians to both sides, on the Ascendant and the Medium Coeli.
     EXPECT_EQ(iranyok(m, 6460, 6440, 5265, 5253, 52), (std::multiset<int>{179, 181, 259, 261}));
+}
+
+TEST(RadixKeret, MindenHazSzamaAHazKozepen) {
+    Allapot a = probaKeplet(0);
+    constexpr double csucsok[]{0, 23, 58, 97, 118, 150, 180, 210, 238, 277, 298, 330};
+    // The half-widths of the first six: 11.5, 17.5, 19.5, 10.5, 16, 15. The seventh house is as wide as the
+    // first, wherever the eighth begins.
+    constexpr double kozepek[]{11.5, 40.5, 77.5, 107.5, 134, 165, 191.5, 227.5, 257.5, 287.5, 314, 345};
+    for (int i = 1; i <= 12; ++i) a.Keplet.hazCsucs[i] = csucsok[i - 1];
+    const auto m = nagyRajz(a);
+    for (int i = 1; i <= 12; ++i) {
+        const auto szam = szovegek(m, std::string(HazCimke(i)));
+        ASSERT_FALSE(szam.empty()) << i;
+        const double szog = kozepek[i - 1] * 3.141592653589793 / 180;
+        EXPECT_NEAR(szam[0].x, 6460 - 665 * std::cos(szog) - 26, 1) << i;
+        EXPECT_NEAR(szam[0].y, 6440 + 665 * std::sin(szog) - 26, 1) << i;
+    }
 }
 
 TEST(RadixKeret, AzEgyezoCsucsokHazaAzEgeszKor) {

@@ -251,6 +251,7 @@ private slots:
         KepletFelulet felulet;
         felulet.show();
         for (const QSize& meret : {QSize(100, 80), QSize(300, 200), QSize(90, 250)}) {
+            felulet.rajzol([](Vaszon& vaszon) { vaszon.Ellipse(10, 10, 40, 40); });
             felulet.resize(meret);
             QApplication::processEvents();
             QImage feher = felszin(felulet);

@@ -271,7 +271,7 @@ TEST(RadixKeret, MindketTengelyNyila) {
     EXPECT_EQ(iranyok(m, 6460, 6440, 5265, 5253, 52), (std::multiset<int>{179, 181, 259, 261}));
 }
 
-TEST(RadixKeret, MindenHazSzamaAHazKozepen) {
+TEST(RadixKeret, AzEgyenlotlenHazakSzamaiIsAKozepukon) {
     Allapot a = probaKeplet(0);
     constexpr double csucsok[]{0, 23, 58, 97, 118, 150, 180, 210, 238, 277, 298, 330};
     // The half-widths of the first six: 11.5, 17.5, 19.5, 10.5, 16, 15. The seventh house is as wide as the

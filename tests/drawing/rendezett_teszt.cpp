@@ -41,6 +41,13 @@ TEST(Rendezett, AKosPontjaKorulHajtodikVissza) {
     EXPECT_DOUBLE_EQ(hely(r, 'B'), 3);
 }
 
+TEST(Rendezett, AzEgeszKorNemHajtodikVissza) {
+    // 2 apart: at the threshold 3 they move to 354 and 360, which is not above 360.
+    const TRendezett r = szetterit({356, 358});
+    EXPECT_DOUBLE_EQ(hely(r, 'A'), 354);
+    EXPECT_DOUBLE_EQ(hely(r, 'B'), 360);
+}
+
 /// The exchange sort holds row a against each row b from a on and exchanges whole rows, so that of two equal
 /// longitudes the earlier row may land behind the later one. A 50, B 50, C 10: row 1 is not greater than row
 /// 2, but greater than row 3; A and C change places, and C, B, A stay so. The seven others stand from 148 on,

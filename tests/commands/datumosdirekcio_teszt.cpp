@@ -77,6 +77,32 @@ TEST(DatumosKereses, ATercierOrbisaNapokban) {
     EXPECT_GT(szelesebb, 10);
 }
 
+TEST(DatumosKereses, AMunkatombokUgyMaradnakAhogyAKeresesHagyja) {
+    for (const bool tercier : {true, false}) {
+        Allapot a = szuletesiKeplet({2000, 5, 6, 17, 20, 0});
+        a.SzuletesiPillanat = szuletesnap;
+        a.TercierAblak = tercier;
+        const TKeplet elotte = a.Keplet;
+        Allapot kereses = a;
+        if (tercier)
+            TercierKeres(kereses, szuletesnap, {1995, 7, 21}, "Szeged", 45);
+        else
+            IngresszioKeres(kereses, szuletesnap, {1995, 7, 21}, "Szeged");
+        const TKeplet& munka = kereses.Keplet;
+        EXPECT_NE(munka.Bolygok, elotte.Bolygok);
+        EXPECT_NE(munka.Mozgasok, elotte.Mozgasok);
+        DatumosKereses(a, {1995, 7, 21}, 45);
+        EXPECT_EQ(a.Keplet.Bolygok, munka.Bolygok);
+        EXPECT_EQ(a.Keplet.Mozgasok, munka.Mozgasok);
+        EXPECT_EQ(a.Keplet.BolygoHazak, munka.BolygoHazak);
+        EXPECT_EQ(a.Keplet.Hazcsucsok, munka.Hazcsucsok);
+        EXPECT_EQ(a.Keplet.pillanat, elotte.pillanat);
+        EXPECT_EQ(a.Keplet.julianszam, elotte.julianszam);
+        EXPECT_EQ(a.Keplet.helyseg, elotte.helyseg);
+        EXPECT_EQ(a.Keplet.mozgas, elotte.mozgas);
+    }
+}
+
 TEST(DatumosVerdikt, AKeresesSzovegei) {
     Allapot a;
     a.TercierAblak = true;

@@ -1,5 +1,6 @@
 // Frames of the wheels.
 
+#include <algorithm>
 #include <cmath>
 #include <set>
 #include <string>
@@ -311,7 +312,8 @@ TEST(DekadKerek, AHuszszorosFeluletenIsArany) {
     EXPECT_EQ(t[0].x, 6460 - 4976 - 178);  // 5152 at 15 degrees; (343.47 + 12) / 2
     EXPECT_EQ(t[0].y, 6440 + 1333 - 178);
     EXPECT_EQ(t[12].szoveg, "a");
-    EXPECT_EQ(t[12].magassag, 214);         // 206.08 + 8
+    EXPECT_EQ(t[12].magassag, 214);  // 206.08 + 8
+    EXPECT_EQ(std::ranges::count(t, 214, &TSzovegMuvelet::magassag), 12);
     EXPECT_EQ(t[12].x, 6460 - 1493 - 107);  // 1546 at 15 degrees
     EXPECT_EQ(t[12].y, 6440 + 400 - 107);
     korben({t.begin(), t.begin() + 12}, {6460, 6440, 5152, 15, 178});

@@ -97,6 +97,7 @@ TEST(Kodlap, AKodlaponKivuliekMindKerdojelek) {
 TEST(Kodlap, ATulhosszuAlakKerdojel) {
     EXPECT_EQ(kodlapra("\xC0\xAF"), "?");      // a slash in two bytes
     EXPECT_EQ(kodlapra("\xC1\x81"), "?");      // an A in two bytes
+    EXPECT_EQ(kodlapra("\xC0\x80"), "?");      // a zero in two bytes, as no byte of the page is
     EXPECT_EQ(kodlapra("\xE0\x85\x91"), "?");  // an ő in three bytes
     EXPECT_EQ(kodlapra("x\xE0\x85\x91y"), "x?y");
 }

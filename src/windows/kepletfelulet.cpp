@@ -95,7 +95,7 @@ void KepletFelulet::aranyKovetes() {
 }
 
 void KepletFelulet::fest(QPainter& festo) const {
-    festo.fillRect(rect().adjusted(-1, -1, 1, 1), Qt::white);  // the pixels on its edges too
+    festo.fillRect(rect(), Qt::white);
     egeszPixelre(festo);
     for (const TReteg& reteg : retegek_) {
         festo.setClipRegion(reteg.resz);
@@ -116,7 +116,6 @@ void KepletFelulet::paintEvent(QPaintEvent* esemeny) {
     fest(festo);
 }
 
-void KepletFelulet::resizeEvent(QResizeEvent* esemeny) {
-    QWidget::resizeEvent(esemeny);
+void KepletFelulet::resizeEvent(QResizeEvent*) {
     ujKep();
 }

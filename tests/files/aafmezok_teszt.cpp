@@ -142,6 +142,9 @@ TEST(AafMezok, AJulianNapFelNappalTovabbiNapszam) {
     EXPECT_EQ(AafJulian("2415020.25").value().masodperc, 2415019 * nap + 18 * 3600);
     // 0.10500 of a day past noon is 2 h 31 m 12 s.
     EXPECT_EQ(AafJulian("2440065.10500").value().masodperc, 2440064 * nap + 14 * 3600 + 31 * 60 + 12);
+    // 0.432 and 0.5184 seconds go to the nearest one.
+    EXPECT_EQ(AafJulian("2415020.500005").value().masodperc, 2415020 * nap);
+    EXPECT_EQ(AafJulian("2415020.500006").value().masodperc, 2415020 * nap + 1);
     EXPECT_DOUBLE_EQ(AafJulian("2440065.10500").value().pontossag, 0.864);
     EXPECT_DOUBLE_EQ(AafJulian("2440065.1").value().pontossag, 8640);
     EXPECT_DOUBLE_EQ(AafJulian("2440065").value().pontossag, 86400);

@@ -101,6 +101,8 @@ TEST(AdatEllenorzes, AHaztablakSavja) {
     EXPECT_EQ(SzelessegHibak(r), TSzovegek{"szelesseg: 41°59'59\"É, a háztáblák 42° és 60° között valók"});
     r.szelesseg = 60 * 3600 + 1;
     EXPECT_EQ(SzelessegHibak(r).size(), 1U);
+    r.szelesseg = 0;
+    EXPECT_EQ(SzelessegHibak(r), TSzovegek{"szelesseg: 0°00'00\"É, a háztáblák 42° és 60° között valók"});
     r.szelesseg = -1;
     EXPECT_EQ(SzelessegHibak(r), TSzovegek{"szelesseg: 0°00'01\"D, déli szélességre nincs háztábla"});
 }

@@ -102,7 +102,7 @@ TEST(AdatEllenorzes, AHaztablakSavja) {
     r.szelesseg = 60 * 3600 + 1;
     EXPECT_EQ(SzelessegHibak(r).size(), 1U);
     r.szelesseg = 0;
-    EXPECT_EQ(SzelessegHibak(r), TSzovegek{"szelesseg: 0°00'00\"É, a háztáblák 42° és 60° között valók"});
+    EXPECT_EQ(SzelessegHibak(r), TSzovegek{"szelesseg: 0°00'É, a háztáblák 42° és 60° között valók"});
     r.szelesseg = -1;
     EXPECT_EQ(SzelessegHibak(r), TSzovegek{"szelesseg: 0°00'01\"D, déli szélességre nincs háztábla"});
 }

@@ -1,7 +1,10 @@
 // The three views, whole.
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -64,6 +67,31 @@ TEST(DekadNezet, AKisRadixbolHianyzikABolygokKore) {
     EXPECT_EQ(a.Rajz.kozpontX, 803);
     EXPECT_EQ(a.Rajz.kozpontY, 483);
     EXPECT_EQ(a.Rajz.kerekSugar, 120);
+}
+
+/// The wheel of a surface of 987 x 644 that a text stands nearest to: 0 the large one, 1 the upper small one,
+/// 2 the lower.
+int kereke(const TSzovegMuvelet& sz) {
+    constexpr std::array kozepek{std::pair(342, 322), std::pair(803, 161), std::pair(803, 483)};
+    const auto tavol = [&](const std::pair<int, int>& k) {
+        return std::hypot(sz.x - k.first, sz.y - k.second);
+    };
+    return static_cast<int>(std::ranges::min_element(kozepek, {}, tavol) - kozepek.begin());
+}
+
+/// Each body by its glyph, alone, on two wheels of each view; a decan wheel has them in its texts.
+TEST(Nezetek, MindenBolygoAKetKereken) {
+    constexpr std::array kerekek{std::pair(0, 1), std::pair(0, 1), std::pair(1, 2)};
+    for (std::size_t tipus = 1; tipus <= 3; ++tipus) {
+        Allapot a = probaKeplet();
+        rajz(a, 1);  // the small Mundán wheel of the third view shows what was spread before
+        const auto m = rajz(a, static_cast<int>(tipus));
+        for (const char jel : std::string("ABCDEFGHIJ")) {
+            const auto sz = szovegek(m, std::string(1, jel));
+            ASSERT_EQ(sz.size(), 2U) << tipus << jel;
+            EXPECT_EQ(std::pair(kereke(sz[0]), kereke(sz[1])), kerekek[tipus - 1]) << tipus << jel;
+        }
+    }
 }
 
 /// A body at the Ascendant, alone: its pointer goes straight in from the left edge of the scale. The small

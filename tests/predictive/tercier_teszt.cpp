@@ -74,20 +74,28 @@ TEST(Tercier, ATalalatokADefinicioSzerint) {
     EXPECT_GT(talalt, 100);
 }
 
-/// The Sun in Virgo's last degree: the place opposite to it lies just before the point of Aries, and a body
-/// directed to it meets it on both sides.
-TEST(Tercier, AKosPontjaElottiSzemkoztiHely) {
-    const TPillanat oszi{1975, 9, 23, 1, 0, 0};
+/// The Sun opposite to the last degree before the point of Aries, or to the first one behind it: a body
+/// directed there meets it on both sides.
+void aKosPontjanal(int szeptember, double legalabb, const std::string& szembenallas) {
+    const TPillanat oszi{1975, 9, szeptember, 1, 0, 0};
     int talalt = 0;
     for (int nap = 0; nap < 26000; ++nap) {
         Allapot a = szuletes(oszi);
         const TTercier t = TercierKeres(a, oszi, napokkal(oszi, nap), "Szeged", 20);
-        ASSERT_GT(a.Keplet.Bolygok[1], 179);
-        ASSERT_LT(a.Keplet.Bolygok[1], 180);
+        ASSERT_GT(a.Keplet.Bolygok[1], legalabb);
+        ASSERT_LT(a.Keplet.Bolygok[1], legalabb + 1);
         ASSERT_EQ(t.TercierSzoveg, vartTercier(a.Keplet.Bolygok, nap, 20)) << nap;
-        talalt += t.TercierSzoveg.find("WfA") != std::string::npos;
+        talalt += t.TercierSzoveg.find(szembenallas) != std::string::npos;
     }
     EXPECT_GT(talalt, 100);
+}
+
+TEST(Tercier, AKosPontjaElottiSzemkoztiHely) {
+    aKosPontjanal(23, 179, "WfA");
+}
+
+TEST(Tercier, AKosPontjaMogottiSzemkoztiHely) {
+    aKosPontjanal(24, 180, "WgA");
 }
 
 TEST(Tercier, ASzuletesNapjanCsakARadixEgyuttallasai) {

@@ -230,6 +230,20 @@ TEST(KepletJson, AVisszateresekListajaEsKeplete) {
     EXPECT_FALSE(hold.contains("keplet"));
 }
 
+TEST(KepletJson, HetRevolucioTizenegyPersonar) {
+    const auto van = [](const char* muvelet, int fajta) {
+        return !valasz(R"({"op": ")" + std::string(muvelet) + R"(", "fajta": )" + std::to_string(fajta) +
+                       ", " + szeged + "}")
+                    .contains("hiba");
+    };
+    for (const auto& [muvelet, fajtak] : {std::pair("revolucio", 7), std::pair("personar", 11)}) {
+        EXPECT_TRUE(van(muvelet, 1));
+        EXPECT_TRUE(van(muvelet, fajtak));
+        EXPECT_FALSE(van(muvelet, 0));
+        EXPECT_FALSE(van(muvelet, fajtak + 1));
+    }
+}
+
 TEST(KepletJson, ADirekciokEsAzIngresszio) {
     const std::string sajatNap = szeged + R"(, "esemeny": [1975, 7, 21])";
     const TJson tercier =

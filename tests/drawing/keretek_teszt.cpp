@@ -208,6 +208,15 @@ TEST(Keretek, ATizenketKulloIranyaHarmincFokonkent) {
     EXPECT_EQ(iranyok(rajz(a, 1), 803, 483, 16, 135, 1), lepesek(0, 30));     // small Dekád
 }
 
+/// Whatever the Ascendant, Aries begins at the left of the Mundán wheel.
+TEST(MundanKeret, AZodiakusABaloldaltolAll) {
+    Allapot a = probaKeplet(100);
+    const auto m = rajz(a, 2);
+    korben(jegyek(m, 0), {342, 322, 279, 15, 14});
+    EXPECT_EQ(iranyok(m, 342, 322, 249, 253, 1), lepesek(0, 1));
+    EXPECT_EQ(iranyok(m, 342, 322, 249, 280, 3), lepesek(0, 30));
+}
+
 TEST(Keretek, AzOsztasokEsAHazakIranyaAzAszcendenstol) {
     // The Ascendant at 100 stands at the left, 180: Aries 0 stands at 280, and longitudes grow anticlockwise.
     Allapot a = probaKeplet(100);

@@ -84,11 +84,14 @@ TEST(Nezetek, MindenBolygoAKetKereken) {
     constexpr std::array kerekek{std::pair(0, 1), std::pair(0, 1), std::pair(1, 2)};
     for (std::size_t tipus = 1; tipus <= 3; ++tipus) {
         Allapot a = probaKeplet();
+        a.Keplet.mozgas.tolt('R');
         rajz(a, 1);  // the small Mundán wheel of the third view shows what was spread before
         const auto m = rajz(a, static_cast<int>(tipus));
         for (const char jel : std::string("ABCDEFGHIJ")) {
             const auto sz = szovegek(m, std::string(1, jel));
             ASSERT_EQ(sz.size(), 2U) << tipus << jel;
+            EXPECT_EQ(sz[0].betutipus, "Jelek") << tipus << jel;  // also behind the "R" of the one before
+            EXPECT_EQ(sz[1].betutipus, "Jelek") << tipus << jel;
             EXPECT_EQ(std::pair(kereke(sz[0]), kereke(sz[1])), kerekek[tipus - 1]) << tipus << jel;
         }
     }
@@ -144,6 +147,26 @@ TEST(DekadNezet, AKisMundanKerekAzElozoRajzSzetteriteset_Mutatja) {
     EXPECT_NE(kesik[1].x, elobb[1].x);  // small Radix
     const auto utoleri = szovegek(rajz(a, 3), "A");
     EXPECT_NE(utoleri[0].x, elobb[0].x);
+}
+
+TEST(MundanNezet, AzUjKepletASajatSzetteritesevel) {
+    Allapot a = probaKeplet();
+    const auto elobb = szovegek(rajz(a, 2), "A");
+    a.Keplet.bolygo[1] = 200;
+    Allapot friss = a;
+    friss.Rajz.Rendezett = {};
+    EXPECT_EQ(szovegek(rajz(a, 2), "A"), szovegek(rajz(friss, 2), "A"));
+    EXPECT_NE(szovegek(rajz(a, 2), "A"), elobb);
+}
+
+/// Whatever pen the canvas was left with.
+TEST(Nezetek, AKorokFolytonosak) {
+    Allapot a = probaKeplet();
+    RogzitoVaszon vaszon;
+    vaszon.Stilus(TollStilus::pontozott);
+    AblakGeometria(a.Rajz, a.Keplet.hazCsucs[1], 987, 644);
+    KepletRajz(vaszon, a);
+    for (const TKorMuvelet& k : csak<TKorMuvelet>(vaszon.muveletek())) EXPECT_EQ(k.stilus, 0);
 }
 
 TEST(Nezetek, MindegyikUjraTolti_AFenyszogPontokat) {

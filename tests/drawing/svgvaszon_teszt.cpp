@@ -4,12 +4,12 @@
 
 namespace {
 
-/// A square of the text's length in place of letters; remembers what was asked.
+/// A square of the text's length in place of letters, nothing for a blank; remembers what was asked.
 struct TProbaKorvonal {
     std::string kert;
     TKorvonal operator()(std::string_view betu, int magassag, std::string_view szoveg) {
         kert = std::string(betu) + "/" + std::to_string(magassag) + "/" + std::string(szoveg);
-        return {"M0 0L5 0L5 -5", 2.5 + static_cast<double>(szoveg.size()), 8.25};
+        return {szoveg == " " ? "" : "M0 0L5 0L5 -5", 2.5 + static_cast<double>(szoveg.size()), 8.25};
     }
 };
 
@@ -132,6 +132,15 @@ TEST(SvgVaszon, ASzovegFeherDobozonKorvonallal) {
               "shape-rendering=\"crispEdges\"/>\n"
               "<path transform=\"translate(3 12.25)\" d=\"M0 0L5 0L5 -5\"/>\n");
     EXPECT_EQ(s.ujSorok().find("<text"), std::string::npos);
+}
+
+TEST(SvgVaszon, ASzokozCsakFeherDoboz) {
+    TSvg s;
+    s.vaszon.Betu("Ariel", 12);
+    s.vaszon.TextOut(7, 9, " ");
+    EXPECT_EQ(s.ujSorok(),
+              "<rect x=\"7\" y=\"9\" width=\"3.5\" height=\"12\" fill=\"#fff\" "
+              "shape-rendering=\"crispEdges\"/>\n");
 }
 
 TEST(SvgVaszon, AzUresSzovegEsANullaMagassagSemmi) {

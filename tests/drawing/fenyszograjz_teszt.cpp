@@ -98,6 +98,19 @@ TEST(TengelyFenyszogek, ABetuAGyuruEsATengelyKozepeKozott) {
     EXPECT_EQ(r[0].y, 6440 + 2241 - 104);
 }
 
+TEST(TengelyFenyszogek, AMediumCoelieAMasodikOrbissorral) {
+    Allapot a = probaKeplet(0);
+    a.OrbisTabla[2][5] = 2;
+    for (int i = 1; i <= 10; ++i) a.Keplet.bolygo[i] = 20;
+    a.Keplet.hazCsucs[10] = 280;
+    a.Keplet.bolygo[1] = 10;  // square to the Medium Coeli alone
+    const auto r = szovegek(nagyRajz(a), "R");
+    ASSERT_EQ(r.size(), 1U);
+    // The Sun's point 4414 left and 778 below, the Medium Coeli's 496 left and 2811 above.
+    EXPECT_NEAR(r[0].x, 6460 - 2455 - 104, 1);
+    EXPECT_NEAR(r[0].y, 6440 - 1016 - 104, 1);
+}
+
 TEST(Fenyszogek, FenyszogNelkulNincsBetuEsAStilusFolytonos) {
     Allapot a = probaKeplet();
     for (const auto& v : csak<TVonalMuvelet>(rajz(a))) EXPECT_EQ(v.stilus, 0);

@@ -110,6 +110,8 @@ TEST(Tercier, ASzuletesKepleteMaradUtana) {
     TercierKeres(a, szuletesnap, napokkal(szuletesnap, 9000), "Szeged", 45);
     EXPECT_EQ(a.Keplet.pillanat, szuletesnap);
     const Allapot natalis = szuletes();
+    EXPECT_EQ(a.Keplet.Hazcsucsok, natalis.Keplet.Hazcsucsok);
+    EXPECT_EQ(a.Keplet.BolygoHazak, natalis.Keplet.BolygoHazak);
     for (int i = 1; i <= 10; ++i) {
         EXPECT_EQ(a.Keplet.Bolygok[i], natalis.Keplet.Bolygok[i]) << i;
         for (int j = 1; j <= 10; ++j)

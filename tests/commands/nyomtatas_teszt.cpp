@@ -43,6 +43,7 @@ TEST(Nyomtatas, AFejlecEsAKapcsolatSorHelye) {
     EXPECT_EQ(a.Rajz.kozpontY, 2480);
     EXPECT_EQ(a.Rajz.kerekSugar, 1860);
     const auto& m = vaszon.muveletek();
+    EXPECT_EQ(m.front(), TMuvelet(TKorMuvelet{2480, 2480, 1860, 1, 0}));
     const auto& fejlec = std::get<TSzovegMuvelet>(m[m.size() - 2]);
     EXPECT_EQ(fejlec.szoveg, std::string("fejlec"));
     EXPECT_EQ(fejlec.magassag, 60);

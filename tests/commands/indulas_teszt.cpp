@@ -7,6 +7,7 @@
 #include "commands/indulas.h"
 #include "ideiglenesmappa.h"
 #include "indultprogram.h"
+#include "mintakeplet.h"
 #include "probaablak.h"
 #include "rendszerhatar.h"
 
@@ -34,6 +35,11 @@ TEST_F(TIndulas, IndulasUtanAJelenPillanatBudapesten) {
     EXPECT_FALSE(a.TeljesTorles);
     EXPECT_EQ(a.PontositasHatotav, 25);
     EXPECT_EQ(a.TercierOrbisNap, 45.0);
+    const Allapot most = szuletesiKeplet({2024, 3, 5, 8, 15, 0}, "Budapest");
+    EXPECT_EQ(a.Keplet.armcOra, most.Keplet.armcOra);
+    EXPECT_EQ(a.Keplet.armcPerc, most.Keplet.armcPerc);
+    EXPECT_EQ(a.Keplet.bolygo, most.Keplet.bolygo);
+    EXPECT_EQ(a.Keplet.hazCsucs, most.Keplet.hazCsucs);
 }
 
 /// Notes where the Sun and the Ascendant stand when the first drawing is asked for.

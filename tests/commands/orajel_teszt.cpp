@@ -10,6 +10,7 @@
 #include "commands/orajel.h"
 #include "commands/szemelyiadatok.h"
 #include "indultprogram.h"
+#include "mintakeplet.h"
 #include "predictive/visszateresek.h"
 #include "tables/szotar.h"
 #include "tables/szoveg.h"
@@ -164,6 +165,10 @@ TEST_F(TOrajel, TobbLepesEgyOrajelAlattEgyRajz) {
     EXPECT_EQ(panel(panelIdo), "1975.03.21. 06:08:09 ZN");
     EXPECT_EQ(a.Feliratok.leptetoCim, "1975.03.21. 06:08:09");
     EXPECT_EQ(a.Feliratok.memo, "");
+    const Allapot leptetett = szuletesiKeplet({1975, 3, 21, 6, 8, 9});
+    EXPECT_EQ(a.Keplet.bolygo, leptetett.Keplet.bolygo);
+    EXPECT_EQ(a.Keplet.hazCsucs, leptetett.Keplet.hazCsucs);
+    EXPECT_EQ(a.FenyszogRadix, leptetett.FenyszogRadix);
     orajelek(1);
     EXPECT_EQ(ablak.rajzok(), 1);
 }
@@ -240,6 +245,7 @@ TEST_F(TOrajel, AMostGombIndulaskorAzInduloPillanatonAllMeg) {
 
 TEST_F(TOrajel, AMostGombElinditjaAzOratEsVisszahozza) {
     szuletes();
+    a.Szemely.jegyzetMentett = "régi";
     MostParancs(a, ablak);
     EXPECT_TRUE(a.MostFut);
     EXPECT_EQ(a.Feliratok.mostGomb, "Vissza");

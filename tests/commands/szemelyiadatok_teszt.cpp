@@ -249,6 +249,18 @@ TEST(SzemelyiAdatok, ARendbenMindenMezotAtvesz) {
     EXPECT_EQ(a.Keplet.szelesseg, 44 * 3600 + 59 * 60);
 }
 
+/// The captions stand before the window is emptied and drawn, which the user sees take its time.
+TEST(BevittKeplet, AFeliratokAzUjrafestesElottKiirva) {
+    struct TFeliratozo : TProbaAblak {
+        void Mutat() override { hivasok.emplace_back("Mutat"); }
+    } ablak;
+    Allapot a;
+    BevittKepletMutatasa(a, ablak);
+    ASSERT_GE(ablak.hivasok.size(), 2U);
+    EXPECT_EQ(ablak.hivasok[0], "Mutat");
+    EXPECT_EQ(ablak.hivasok[1], "Ujrafest");
+}
+
 TEST(BevittKeplet, AzOraMegallANezetRadixASajatHelyevel) {
     Allapot a;
     a.MostFut = true;

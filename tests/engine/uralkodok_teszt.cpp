@@ -161,6 +161,16 @@ TEST(UralkodoSzamitas, EgyEgyuttallasMegforditja) {
     EXPECT_EQ(r.u.UralkodoJegy[3], 3);
 }
 
+TEST(UralkodoSzamitas, BarmelyikBolygovalEgyEgyuttallasMegforditja) {
+    for (int masik = 1; masik <= 10; ++masik) {
+        if (masik == 3) continue;
+        TRend r;
+        r.egyutt(3, masik);
+        r.szamit();
+        EXPECT_TRUE(r.u.Forditott[3]) << masik;
+    }
+}
+
 TEST(UralkodoSzamitas, AHarmasLancAzUranusszalNem) {
     TRend r;
     r.egyutt(3, 2);

@@ -52,6 +52,12 @@ TEST(Csv, EgySorEgyKeplet) {
     EXPECT_TRUE(lap.esemenyek.empty());
 }
 
+TEST(Csv, AzElojelAPozitivSzamElottIsAllhat) {
+    const std::string szoveg = fejlec + "\nX,1975,+7,21,6,4,9,+2,0,Szeged,20°09'K,46°14'É,,\n";
+    EXPECT_EQ(egyetlen(szoveg).keplet.adat.pillanat.ho, 7);
+    EXPECT_EQ(egyetlen(szoveg).keplet.adat.idozona, 2);
+}
+
 TEST(Csv, AzIrtTabla) {
     TAdatlap lap;
     lap.keplet.adat = kovacsRekord();

@@ -14,7 +14,7 @@ public:
     void Ujrafest() override { hivasok.emplace_back("Ujrafest"); }
     void Ervenytelenit() override { hivasok.emplace_back("Ervenytelenit"); }
     void RajzolKeplet() override { hivasok.emplace_back("RajzolKeplet"); }
-    void Mutat() override {}
+    void Mutat() override { ++mutatasok; }
     std::string RendszerDatum() override { return datum; }
     std::string RendszerIdo() override { return ido; }
     void MundanFrissit() override { hivasok.emplace_back("MundanFrissit"); }
@@ -26,6 +26,7 @@ public:
     }
 
     THivasok hivasok;
+    int mutatasok = 0;
     std::string datum = "2024.03.05";
     std::string ido = "8:15:00";
 };

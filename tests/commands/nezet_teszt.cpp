@@ -33,6 +33,7 @@ TEST(Nezet, EloszorTorolAztanRajzolEsTorolveMarad) {
         TProbaAblak ablak;
         parancs(a, ablak);
         EXPECT_EQ(ablak.hivasok, (THivasok{"Ujrafest", "RajzolKeplet"}));
+        EXPECT_EQ(ablak.mutatasok, 1);
         EXPECT_TRUE(a.TeljesTorles);
         EXPECT_FALSE(a.MostFut);
         EXPECT_EQ(a.Feliratok.mostGomb, "Most");

@@ -118,6 +118,7 @@ TEST_F(TOrajel, AFutoOraMinden251OrajelreRajzol) {
     EXPECT_EQ(a.MostSzamlalo, 250);
     orajelek(1);
     EXPECT_EQ(ablak.hivasok, (THivasok{"Ervenytelenit", "RajzolKeplet"}));
+    EXPECT_EQ(ablak.mutatasok, 251 + 1);  // once a tick, and at the start
     EXPECT_EQ(a.MostSzamlalo, 0);
     orajelek(250);
     EXPECT_EQ(ablak.rajzok(), 1);

@@ -240,6 +240,17 @@ TEST(EgyuttallasLanc, ALancMindenTagjaEgyuttall) {
     for (int i = 1; i <= 10; ++i) EXPECT_EQ(m[i][i], '+');
 }
 
+TEST(EgyuttallasLanc, BarmelyKetBolygo) {
+    for (int i = 1; i <= 10; ++i)
+        for (int j = i + 1; j <= 10; ++j) {
+            TJelMatrix m = ures();
+            par(m, i, j, 'M');
+            EgyuttallasLanc(m);
+            EXPECT_EQ(m[i][j], 'M') << i << ' ' << j;
+            EXPECT_EQ(m[j][i], 'M') << i << ' ' << j;
+        }
+}
+
 TEST(EgyuttallasLanc, ATizTaguLancIsOsszeer) {
     TJelMatrix m = ures();
     for (int i = 1; i < 10; ++i) par(m, i, i + 1, 'M');

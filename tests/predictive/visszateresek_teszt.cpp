@@ -204,12 +204,23 @@ TEST(Visszateresek, AMegsemUtanAKepErintetlen) {
     EXPECT_EQ(a.FenyszogRadix, elobb.FenyszogRadix);
 }
 
+/// The work tables stay as the search for the target leaves them.
+TEST(Visszateresek, ACelKeresesUtanARadixCsucsaiAMunkatombben) {
+    Allapot a = szuletes({1975, 7, 21, 6, 4, 9});
+    const THazcsucsok radix = a.Keplet.Hazcsucsok;
+    a.Keplet.Hazcsucsok.tolt(0);
+    VisszateresCel(a, RevolucioFajta(1));
+    EXPECT_EQ(a.Keplet.Hazcsucsok, radix);
+}
+
 TEST(VisszateresKeplet, EgyIvperccelKeletreEsEszakraNyariIdoNelkul) {
     Allapot a = szuletes({1975, 7, 21, 6, 4, 9});
     const TVisszateresFajta fajta = RevolucioFajta(1);
     keres(a, fajta);
     TProbaAblak ablak;
-    a.Keplet.nyariIdo = 1;                           // as a chart of the summer leaves it
+    a.Keplet.nyariIdo = 1;  // as a chart of the summer leaves it
+    a.Keplet.mozgas.tolt('x');
+    a.KepletTipus = TKepletTipus::mundan;
     VisszateresKeplet(a, ablak, fajta, 31, "Pécs");  // 2005, in the summer
     const TKeplet& k = a.Keplet;
     EXPECT_EQ(k.pillanat.ev, 2005);
@@ -221,6 +232,7 @@ TEST(VisszateresKeplet, EgyIvperccelKeletreEsEszakraNyariIdoNelkul) {
     EXPECT_NEAR(k.bolygo[1], hossz({1975, 7, 21, 5, 4, 9}, 1), 1.0 / 3600);
     for (int i = 1; i <= 10; ++i)  // all bodies stand where they are at the return, not at the birth
         EXPECT_NEAR(k.bolygo[i], hossz(a.Visszateresek.sorok[31].pillanat, i), 1e-9) << i;
+    EXPECT_EQ(k.mozgas, k.Mozgasok);
 
     TFenyszogMunka munka;  // the aspects are the return's too
     ElteresSzamitas(k.bolygo, munka);

@@ -103,6 +103,7 @@ TEST(Kodlap, ATulhosszuAlakKerdojel) {
 }
 
 TEST(Kodlap, AMagabanAlloFolytatoBajtKerdojel) {
+    EXPECT_EQ(kodlapra("\x80"), "?");  // the first that is no character of its own
     EXPECT_EQ(kodlapra("\x91"), "?");
     EXPECT_EQ(kodlapra("\x91x"), "?x");
     for (const std::string szoveg : {"b\x91x", "\x91\x91", "ő\x91", "\xC5", "\xC5x"}) {

@@ -322,7 +322,6 @@ private:
         szakaszok_.clear();
         jegyzet_.reset();
         hang_.reset();
-        nev_.clear();
     }
 
     void esemenyek(TAdatlap& lap) {

@@ -10,7 +10,7 @@
 #include "windows/qtvaszon.h"
 
 /// The main window's drawing surface: it keeps what is drawn on it, and shows it on each paint. The calls are
-/// kept and not their pixels, which would take more memory than all the rest of the program.
+/// kept and not their pixels, which would take megabytes.
 class KepletFelulet : public QWidget {
     Q_OBJECT
 

@@ -38,11 +38,16 @@ protected:
     std::mt19937 veletlen{20261121};
 };
 
-char sima(std::int64_t t, const TMundanHely& hely, const TOrbisTabla& orbis) {
+/// The chart of a moment, worked out anew; it stands until the next one.
+const TMundanLanc& simaLanc(std::int64_t t, const TMundanHely& hely, const TOrbisTabla& orbis) {
     static TMundanLanc lanc;
     const auto m = static_cast<int>(t % 86400);
     MundanLanc(static_cast<int>(t / 86400), m / 3600, m / 60 % 60, m % 60, hely, orbis, lanc);
-    return Analogiak(lanc).AnalogiaAllapot;
+    return lanc;
+}
+
+char sima(std::int64_t t, const TMundanHely& hely, const TOrbisTabla& orbis) {
+    return Analogiak(simaLanc(t, hely, orbis)).AnalogiaAllapot;
 }
 
 char koveto(TMundanKoveto& k, std::int64_t t) {
@@ -147,15 +152,14 @@ TEST_F(TMundanKovetoTeszt, AmiNemValtozhatottAztNemSzamoljaUjra) {
     for (int seta = 0; seta < 20; ++seta) {
         const TMundanHely h = hely();
         TMundanKoveto k(h, OrbisAlap);
-        TMundanLanc elozo, lanc;
+        THazcsucsok elozo;
         int valtasok = 1;  // the first moment is one
         std::int64_t t = std::int64_t{szam(elsoNap + 3, utolsoNap - 4)} * 86400 + szam(0, 86399);
         for (int n = 0; n < lepesek; ++n, t += seta % 2 == 0 ? 30 : -30) {
             koveto(k, t);
-            const auto m = static_cast<int>(t % 86400);
-            MundanLanc(static_cast<int>(t / 86400), m / 3600, m / 60 % 60, m % 60, h, OrbisAlap, lanc);
-            if (n > 0 && csucsjegyetValtott(elozo.Hazcsucsok, lanc.Hazcsucsok)) ++valtasok;
-            elozo = lanc;
+            const THazcsucsok& csucsok = simaLanc(t, h, OrbisAlap).Hazcsucsok;
+            if (n > 0 && csucsjegyetValtott(elozo, csucsok)) ++valtasok;
+            elozo = csucsok;
         }
         EXPECT_EQ(k.szamitasok().csucsjegyek, valtasok);
         EXPECT_LE(k.szamitasok().fenyszogek, lepesek / 50);

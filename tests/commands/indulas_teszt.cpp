@@ -100,6 +100,18 @@ TEST(Indulas, ACimFajlAzAktualisMappabolValo) {
 }
 
 #ifndef _WIN32
+/// Where a drive's letter means nothing, the folder's name is the beginning of a plain file name.
+TEST(Indulas, ABetutipusARendszerMeghajtoMappajaban) {
+    const TIdeiglenesMappa mappa;
+    const TMunkaMappa munka(mappa.ut());
+    for (const char* fajl : {"times.ttf", "arial.ttf", "Astro Symbols.ttf"})
+        mappa.irj(std::string("F:\\WINDOWS\\Fonts\\") + fajl, "");
+    Allapot a;
+    TProbaAblak ablak;
+    ASSERT_TRUE(Indulas(a, ablak, {"/nincs ilyen mappa/"}));
+    EXPECT_EQ(a.Rajz.szimbolumFont, "Astro Symbols");
+}
+
 TEST(Indulas, ACsovezetekNemCimFajl) {
     const TIdeiglenesMappa mappa;
     const TMunkaMappa munka(mappa.ut());

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -95,11 +96,13 @@ TEST_F(TOrajel, DekadNezetbenAKapcsolatSorAll) {
 
 TEST_F(TOrajel, Huszonkilenc_KarakterAllHarmincGordul) {
     szuletes();
-    panel(panelNev) = std::string(27, 'x') + "őb";
-    panel(panelHely) = std::string(28, 'x') + "őb";
-    orajelek(1);
-    EXPECT_EQ(panel(panelNev), std::string(27, 'x') + "őb");
-    EXPECT_EQ(panel(panelHely), std::string(27, 'x') + "őbx");
+    for (const auto& [allo, gordulo] : {std::pair(panelNev, panelHely), std::pair(panelHely, panelNev)}) {
+        panel(allo) = std::string(27, 'x') + "őb";
+        panel(gordulo) = std::string(28, 'x') + "őb";
+        orajelek(1);
+        EXPECT_EQ(panel(allo), std::string(27, 'x') + "őb");
+        EXPECT_EQ(panel(gordulo), std::string(27, 'x') + "őbx");
+    }
 }
 
 TEST_F(TOrajel, ANyugvoKepletNemSzamolodikUjra) {
@@ -221,6 +224,13 @@ TEST_F(TOrajel, MindenUjraszamitasUtanAListakIs) {
         EXPECT_EQ(THivasok(ablak.hivasok.end() - 3, ablak.hivasok.end()),
                   (THivasok{"RajzolKeplet", "PontositasFuttat", "PrimerFuttat"}));
     }
+}
+
+TEST_F(TOrajel, HangNelkulAHanglejatszoCimeAll) {
+    a.HangCim = "Őz   ";
+    orajelek(1);
+    EXPECT_EQ(a.HangCim, "Őz   ");
+    EXPECT_EQ(a.Feliratok.hangCim, "Hanglejátszás");
 }
 
 TEST_F(TOrajel, AHangCimeGordul) {

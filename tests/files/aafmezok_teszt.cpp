@@ -38,6 +38,8 @@ TEST(AafMezok, ADatumNapHoEv) {
     EXPECT_EQ(d->nap, 27);
     EXPECT_FALSE(d->julianNaptar);
     EXPECT_EQ(AafDatum("01.02.2003").value().nap, 1);
+    EXPECT_EQ(AafDatum(" 27.9.1970 ").value().ev, 1970);  // blanks around a field say nothing
+    EXPECT_EQ(AafDatum(" 27.9.1970 ").value().nap, 27);
     EXPECT_EQ(AafDatum("1.1.-44").value().ev, -44);
     EXPECT_EQ(AafDatum("31.12.9999").value().ev, 9999);
     EXPECT_EQ(AafDatum("31.2.1999").value().nap, 31);  // whether the month has it is not asked

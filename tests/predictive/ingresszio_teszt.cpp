@@ -5,8 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include "engine/bolygohelyek.h"
 #include "iranyteszt.h"
 #include "predictive/ingresszio.h"
+#include "predictive/visszateresek.h"
 
 namespace {
 
@@ -94,6 +96,24 @@ TEST(IngresszioParok, AHatarokonNincsTalalat) {
     EXPECT_EQ(IngresszioParok(tavolsagok, szog), " AMB");
     tavolsagok[3][4] = std::nextafter(felso, also);
     EXPECT_EQ(IngresszioParok(tavolsagok, szog), " AMB CMD");
+}
+
+TEST(Ingresszio, ATavolsagokASzolarKepletei) {
+    Allapot rev = szuletes();
+    VisszateresKereses(rev, RevolucioFajta(1), VisszateresCel(rev, RevolucioFajta(1)));
+    const TPillanat solar = rev.Visszateresek.sorok[11].pillanat;  // in Greenwich, of the tenth birthday
+    ASSERT_EQ(solar.ev, 1985);
+    const double napresz = (solar.ora * 3600 + solar.perc * 60 + solar.mperc) / 86400.0;
+    TBolygok hossz;
+    TMozgasok mozgas;
+    BolygoHelyek(napSzama(solar), napresz, hossz, mozgas);
+
+    Allapot a = szuletes();
+    IngresszioKeres(a, szuletesnap, napokkal(solar, 100), "Szeged");
+    for (int i = 1; i <= 10; ++i)
+        for (int j = 1; j <= 10; ++j)
+            EXPECT_NEAR(a.Munka.Elteresek[i][j], std::abs(std::remainder(hossz[i] - hossz[j], 360)), 0.001)
+                << i << ' ' << j;
 }
 
 TEST(Ingresszio, AParokAzEvSzogebenEsNemMellette) {

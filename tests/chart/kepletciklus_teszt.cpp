@@ -23,6 +23,8 @@ TEST(KepletCiklus, AKepernyoTablaiTeljesMasolatok) {
     EXPECT_EQ(a.Keplet.hazCsucs, a.Keplet.Hazcsucsok);
     EXPECT_EQ(a.Keplet.mozgas, a.Keplet.Mozgasok);
     EXPECT_EQ(a.Elteresek, a.Munka.Elteresek);
+    EXPECT_EQ(a.DekadKezdetek, a.Munka.DekadKezdetek);
+    EXPECT_EQ(a.DekadKezdetek[1], 350);
     EXPECT_EQ(a.FenyszogOrbis, a.Munka.FenyszogOrbis);
     for (int i = 1; i <= 10; ++i) {
         EXPECT_EQ(a.FenyszogRadix[i][i], '.');

@@ -257,7 +257,9 @@ TEST_F(TOrajel, AMostGombIndulaskorAzInduloPillanatonAllMeg) {
 TEST_F(TOrajel, AMostGombElinditjaAzOratEsVisszahozza) {
     szuletes();
     a.Szemely.jegyzetMentett = "régi";
+    const int elobb = ablak.mutatasok;
     MostParancs(a, ablak);
+    EXPECT_EQ(ablak.mutatasok, elobb + 1);  // the button says at once where it leads
     EXPECT_TRUE(a.MostFut);
     EXPECT_EQ(a.Feliratok.mostGomb, "Vissza");
     EXPECT_EQ(panel(panelNev), "Most");

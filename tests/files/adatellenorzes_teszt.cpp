@@ -129,6 +129,9 @@ TEST(AdatEllenorzes, AKoordinataEgyIvpercenBelulEgyezik) {
     r.hosszusag = 72540;  // 20°09', as the dialog keeps it
     r.szelesseg = 166440;
     EXPECT_EQ(TablaElteresek(r), TSzovegek{});
+    r.hosszusag = 72586 + 59;
+    r.szelesseg = 166497 - 59;
+    EXPECT_EQ(TablaElteresek(r), TSzovegek{});
     r.hosszusag = 72586 + 60;
     r.szelesseg = 166497 - 60;
     EXPECT_EQ(TablaElteresek(r), (TSzovegek{"hosszusag: 20°10'46\"K, a helységtábla szerint 20°09'46\"K",

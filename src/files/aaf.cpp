@@ -170,7 +170,6 @@ private:
     template <typename T>
     bool ertek(const std::string& szoveg, const char* nev, std::optional<T> (*ertelmez)(std::string_view),
                std::optional<T>& ki) {
-        ki.reset();
         if (AafIsmeretlen(szoveg)) return true;
         ki = ertelmez(szoveg);
         if (!ki) hiba = std::string(nev) + ": érthetetlen, " + Idezve(szoveg);

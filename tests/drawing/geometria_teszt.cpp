@@ -130,6 +130,7 @@ TEST(Geometria, AGyurukAranyaiNagySugaron) {
     EXPECT_EQ(s.haz, 3925);
     EXPECT_EQ(s.belso, 3925 - 254);  // 235.5 + 18, to the even
     EXPECT_EQ(s.mag, 367);
+    EXPECT_EQ(GyuruSugarak(60000, false).belso, 7825 - 488);  // 469.5 + 18, to the even
     const TSugarak lapon = GyuruSugarak(30000, true);
     EXPECT_EQ(lapon.skala, 29198);
     EXPECT_EQ(lapon.bolygo, 29198 - 4425);  // 4379.7 + 45

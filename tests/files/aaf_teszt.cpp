@@ -493,6 +493,7 @@ TEST(Aaf, ASorvegEgyMezobenNemKezdUjDarabot) {
     for (auto mezo : {&TKvhRekord::nev, &TKvhRekord::helyseg, &TKvhRekord::hang}) {
         TAdatlap lap = szegedi();
         lap.keplet.adat.*mezo = "x\n#A93:Y,Z,m,1.1.1970,1:00,Szeged,H";
+        EXPECT_EQ(AafIras(lap).find("\n#A93"), std::string::npos);
         EXPECT_EQ(olvas(AafIras(lap)).lapok.size(), 1U);
     }
     TAdatlap lap = szegedi();

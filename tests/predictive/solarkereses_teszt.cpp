@@ -56,6 +56,9 @@ TEST(SolarKereses, AHalakVegenAHaromszazhatvanasHatar) {
 
 TEST(SolarKereses, ATablaElejenMegall) {
     EXPECT_EQ(SolarKereses(1e9, 500).napsorszam, 1);
+    const double masodikUtan = Efemerida[2].nap_hossz + 60;  // in the second day's step
+    EXPECT_EQ(SolarKereses(masodikUtan, 2).napsorszam, 2);
+    EXPECT_EQ(SolarKereses(masodikUtan, 1).napsorszam, 1);
 }
 
 TEST(SolarKeplet, AGreenwichiOraraADatumNapjan) {

@@ -178,7 +178,6 @@ public:
         if (std::all_of(cellak.begin(), cellak.end(), [](const auto& c) { return vagott(c).empty(); }))
             return;
         sor_ = sor;
-        nev_ = "a sor";
         if (!kodolas(cellak)) return;
         cellak_ = &cellak;
         TKvhRekord cimzett;

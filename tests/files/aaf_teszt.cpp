@@ -101,11 +101,11 @@ TEST(Aaf, ARekordAKovetkezoFejigTart) {
 
 TEST(Aaf, AKrLfUgyanazMintAzLf) {
     std::string krlf;
-    for (const char c : ferber + "#COM:a\n#COM:b\n")
-        krlf += c == '\n' ? std::string("\r\n") : std::string(1, c);
-    TKvhRekord vart = keplet(ferber + "#COM:a\n#COM:b\n");
+    const std::string lf = ferber + "#COM:a\n#COM:b\nfolytatva\n";
+    for (const char c : lf) krlf += c == '\n' ? std::string("\r\n") : std::string(1, c);
+    const TKvhRekord vart = keplet(lf);
     EXPECT_EQ(keplet(krlf), vart);
-    EXPECT_EQ(vart.jegyzet, "a\nb");
+    EXPECT_EQ(vart.jegyzet, "a\nb\nfolytatva");
     EXPECT_EQ(keplet(krlf.substr(0, krlf.size() - 2)), vart);  // no line end at the end
 }
 

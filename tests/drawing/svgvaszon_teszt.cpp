@@ -82,6 +82,9 @@ TEST(SvgVaszon, AzEgyenesVonalEgeszPixeleketFed) {
     s.vaszon.TollSzelesseg(3);
     EXPECT_EQ(s.vonal(4, 1, 4, 9),
               "<line x1=\"4.5\" y1=\"0\" x2=\"4.5\" y2=\"11\" stroke=\"#000\" stroke-width=\"3\"/>\n");
+    s.vaszon.TollSzelesseg(8);
+    EXPECT_EQ(s.vonal(4, 1, 4, 9),
+              "<line x1=\"4\" y1=\"-3\" x2=\"4\" y2=\"13\" stroke=\"#000\" stroke-width=\"8\"/>\n");
     s.vaszon.TollSzelesseg(9);  // so wide that its round ends show
     EXPECT_NE(s.vonal(4, 1, 4, 9).find("y1=\"1.5\""), std::string::npos);
 }

@@ -308,6 +308,16 @@ TEST(UralkodoSzamitas, MindigOtJegynekNincsUra) {
     }
 }
 
+TEST(UralkodoSzamitas, AMundanHazAzUraJegyeAJegyVegeig) {
+    for (int jegy = 1; jegy <= 12; ++jegy)
+        for (const double hossz : {30.0 * (jegy - 1), 30.0 * jegy - 0.01}) {
+            TRend r;
+            r.b.tolt(hossz);
+            r.szamit();
+            for (const int ura : r.u.MundanHazUra) EXPECT_TRUE(ura == 0 || ura == jegy) << hossz;
+        }
+}
+
 TEST(UralkodoSzamitas, AKulsoBolygokNemHazurak) {
     TRend r;
     r.b.tolt(jegyben(2));  // Saturn rules Capricorn; Aquarius is Uranus's alone

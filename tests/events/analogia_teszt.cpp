@@ -44,6 +44,7 @@ TEST(Analogia, ARomaiAlakok) {
     EXPECT_EQ(analogia("IX"), "I,X");
     EXPECT_EQ(analogia("XI"), "I,X");
     EXPECT_EQ(analogia("II"), "I");
+    EXPECT_EQ(analogia("IVII"), "I,IV");  // the V is gone with its I
 }
 
 TEST(Analogia, SzamEsBetuElvalasztoNelkul) {

@@ -26,6 +26,8 @@ TEST(SzimbolumFont, ARendszerMeghajtoMindkettotKeri) {
               'F');
     EXPECT_EQ(RendszerMeghajtoKeres(van({"D:\\WINDOWS\\Fonts\\times.ttf", "E:\\WINDOWS\\Fonts\\arial.ttf"})),
               'C');
+    EXPECT_EQ(RendszerMeghajtoKeres(van({"H:\\WINDOWS\\Fonts\\times.ttf", "H:\\WINDOWS\\Fonts\\arial.ttf"})),
+              'H');
     EXPECT_EQ(RendszerMeghajtoKeres(van({"I:\\WINDOWS\\Fonts\\times.ttf", "I:\\WINDOWS\\Fonts\\arial.ttf"})),
               'C');
 }

@@ -155,6 +155,9 @@ TEST(Aaf, AmitAKepletfajlNemTarolEgyszerSzamokkalEmlitve) {
     EXPECT_TRUE(jelenti(ki, elteres, 1, "3 helyen (először itt) az ország"));
     EXPECT_EQ(ki.jelentesek.size(), 2U);
     for (const TJelentes& j : ki.jelentesek) EXPECT_TRUE(j.szoveg.starts_with("3 helyen")) << j.szoveg;
+    // An empty kind tells nothing that could be left out.
+    EXPECT_EQ(olvas("#A93:Ferber,Tobias,,27.9.1970,11:04,Szeged,H\n").jelentesek.size(),
+              olvas("#A93:Ferber,Tobias,*,27.9.1970,11:04,Szeged,H\n").jelentesek.size());
 }
 
 TEST(Aaf, AMegjegyzesekAJegyzetSorai) {

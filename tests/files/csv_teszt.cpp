@@ -58,6 +58,11 @@ TEST(Csv, AzElojelAPozitivSzamElottIsAllhat) {
     EXPECT_EQ(egyetlen(szoveg).keplet.adat.idozona, 2);
 }
 
+TEST(Csv, AzElsoOszlopEsemenyeIs) {
+    const auto ki = CsvOlvasas("1. esemeny," + fejlec + "\nHázasság," + kovacs + "\n");
+    EXPECT_TRUE(jelenti(ki, hiba, 2, "üres; kimarad"));  // an event with a name and no date
+}
+
 TEST(Csv, AzIrtTabla) {
     TAdatlap lap;
     lap.keplet.adat = kovacsRekord();

@@ -80,6 +80,9 @@ TEST(Kiterjesztes, ANevBelsejenekPontjaNemKiterjesztes) {
     EXPECT_EQ(Kiterjesztessel("Dr. Kiss", ".kvh"), "Dr. Kiss.kvh");
     EXPECT_EQ(Kiterjesztessel("Anna 1975.03.21", ".kvh"), "Anna 1975.03.21.kvh");
     EXPECT_EQ(Kiterjesztessel("hang.7z", ".kvh"), "hang.7z");
+    EXPECT_EQ(Kiterjesztessel("kep.aAzZ09", ".kvh"), "kep.aAzZ09");
+    for (const char jel : {'@', '[', '`', '{', ':'})
+        EXPECT_EQ(Kiterjesztessel(std::string("a.b") + jel, ".kvh"), std::string("a.b") + jel + ".kvh");
     EXPECT_EQ(Kiterjesztessel("Anna.", ".kvh"), "Anna.kvh");
     EXPECT_EQ(Kiterjesztessel("Kiss.Ő", ".kvh"), "Kiss.Ő.kvh");
 }

@@ -385,4 +385,14 @@ TEST(Dekad, ASzovegekBolygosorrendben) {
     EXPECT_EQ(r.u.DekadSzoveg[2], "");
 }
 
+TEST(Dekad, MindATizenketHazSzovege) {
+    for (int jegy = 1; jegy <= 12; ++jegy) {
+        TRend r;
+        r.b.tolt(30 * jegy - 25);  // the first decan leads to the sign's own house
+        r.szamit();
+        for (int haz = 1; haz <= 12; ++haz)
+            EXPECT_EQ(r.u.DekadSzoveg[haz], haz == jegy ? "ABCDEFGHIJ" : "") << haz;
+    }
+}
+
 }  // namespace

@@ -1,6 +1,7 @@
 // AAF records, read and written.
 
 #include <algorithm>
+#include <cctype>
 #include <random>
 #include <string>
 #include <string_view>
@@ -125,6 +126,13 @@ TEST(Aaf, DarabCsakAzElsoOszlopbanKezdodik) {
     const TAdatlapok ki = olvas(ferber + "#COM:eleje\n #COM:folytatás\n# nem darab\n#nem darab: ez sem\n");
     ASSERT_EQ(ki.lapok.size(), 1U);
     EXPECT_EQ(ki.lapok[0].keplet.adat.jegyzet, "eleje\n #COM:folytatás\n# nem darab\n#nem darab: ez sem");
+}
+
+TEST(Aaf, ADarabNeveBetukEsSzamjegyek) {
+    for (const char jel : std::string_view("AZaz09@[`{/"))
+        EXPECT_EQ(keplet(ferber + "#COM:eleje\n#" + jel + ":x\n").jegyzet,
+                  std::isalnum(static_cast<unsigned char>(jel)) ? "eleje"
+                                                                : std::string("eleje\n#") + jel + ":x");
 }
 
 TEST(Aaf, AFolytatottMezosDarab) {

@@ -293,6 +293,8 @@ TEST(AafIdo, ANapszamokKezdeteElottIsLefeleVisz) {
     EXPECT_EQ(elozo.p->pillanat, (TPillanat{-5001, 12, 31, 23, 40, 0}));
     const auto ejfel = megold(idopont("1.1.-5000", "0:30", "*", "5he30", "0"));
     EXPECT_EQ(ejfel.p->pillanat, (TPillanat{-5000, 1, 1, 0, 0, 0}));
+    const auto elotte = megold(idopont("1.1.-5000", "0:29:59", "*", "5he30", "0"));
+    EXPECT_EQ(elotte.p->pillanat, (TPillanat{-5001, 12, 31, 23, 59, 59}));
 }
 
 TEST(AafIdo, ANemLetezoNapUgyMaradAhogyAll) {

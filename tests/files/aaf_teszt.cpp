@@ -1,7 +1,6 @@
 // AAF records, read and written.
 
 #include <algorithm>
-#include <cctype>
 #include <random>
 #include <string>
 #include <string_view>
@@ -129,10 +128,10 @@ TEST(Aaf, DarabCsakAzElsoOszlopbanKezdodik) {
 }
 
 TEST(Aaf, ADarabNeveBetukEsSzamjegyek) {
-    for (const char jel : std::string_view("AZaz09@[`{/"))
-        EXPECT_EQ(keplet(ferber + "#COM:eleje\n#" + jel + ":x\n").jegyzet,
-                  std::isalnum(static_cast<unsigned char>(jel)) ? "eleje"
-                                                                : std::string("eleje\n#") + jel + ":x");
+    const auto jegyzet = [](char jel) { return keplet(ferber + "#COM:eleje\n#" + jel + ":x\n").jegyzet; };
+    for (const char jel : std::string_view("AZaz09")) EXPECT_EQ(jegyzet(jel), "eleje") << jel;
+    for (const char jel : std::string_view("@[`{/"))
+        EXPECT_EQ(jegyzet(jel), std::string("eleje\n#") + jel + ":x");
 }
 
 TEST(Aaf, AFolytatottMezosDarab) {

@@ -49,6 +49,7 @@ TEST(Bolygok, AFokokEsPercekFeliratai) {
     EXPECT_EQ(szovegek(m, "5")[0].y, ot[0].y);
     EXPECT_EQ(szovegek(m, "10")[0].magassag, 19);
     EXPECT_EQ(szovegek(m, "59").size(), 1U);
+    EXPECT_EQ(szovegek(m, "  9").size(), 1U);  // body 7 at 219
 }
 
 TEST(Bolygok, ACsucsokFeliratai) {

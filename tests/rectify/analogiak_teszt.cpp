@@ -211,6 +211,12 @@ TEST(Analogiak, AKivulEsoCsucsnakNincsBetujeSemUra) {
     EXPECT_EQ(sorok[10].oszlop2, "    ");
 }
 
+TEST(Analogiak, AHaztalanUrHazanakHelyeUres) {
+    TMundanLanc lanc = uresLanc();
+    lanc.BolygoHazak.tolt(0);
+    EXPECT_EQ(AnalogiaSorok(lanc, 1)[3].oszlop2, "    ");
+}
+
 std::string parok(const TMundanLanc& lanc, int bolygo) {
     // Row 7 of a sign that the body rules.
     constexpr std::array<int, 11> jegye{0, 5, 4, 3, 2, 1, 9, 10, 11, 12, 8};

@@ -2,6 +2,7 @@
 
 #include "chart/kepletciklus.h"
 #include "chart/statuszsor.h"
+#include "engine/bolygohelyek.h"
 #include "engine/fenyszogpontok.h"
 
 /// A birth on screen, with the aspect points of its drawing.
@@ -22,4 +23,12 @@ inline Allapot kepernyoKeplet(const TPillanat& p, const char* hely) {
     Allapot a = szuletesiKeplet(p, hely);
     IrStatuszSor(a, a.Keplet.pillanat, TIdoTipus::ZN);
     return a;
+}
+
+/// Longitudes of the bodies at a Greenwich moment, degrees.
+inline TBolygok greenwichiBolygok(const TPillanat& gmt) {
+    TBolygok hosszak;
+    TMozgasok mozgasok;
+    BolygoHelyek(napSzama(gmt), (gmt.ora * 3600 + gmt.perc * 60 + gmt.mperc) / 86400.0, hosszak, mozgasok);
+    return hosszak;
 }

@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include "engine/bolygohelyek.h"
 #include "iranyteszt.h"
 #include "predictive/ingresszio.h"
 #include "predictive/visszateresek.h"
@@ -103,10 +102,7 @@ TEST(Ingresszio, ATavolsagokASzolarKepletei) {
     VisszateresKereses(rev, RevolucioFajta(1), VisszateresCel(rev, RevolucioFajta(1)));
     const TPillanat solar = rev.Visszateresek.sorok[11].pillanat;  // in Greenwich, of the tenth birthday
     ASSERT_EQ(solar.ev, 1985);
-    const double napresz = (solar.ora * 3600 + solar.perc * 60 + solar.mperc) / 86400.0;
-    TBolygok hossz;
-    TMozgasok mozgas;
-    BolygoHelyek(napSzama(solar), napresz, hossz, mozgas);
+    const TBolygok hossz = greenwichiBolygok(solar);
 
     Allapot a = szuletes();
     IngresszioKeres(a, szuletesnap, napokkal(solar, 100), "Szeged");

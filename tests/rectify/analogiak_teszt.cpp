@@ -1,6 +1,8 @@
 // House analogies: verdict and texts.
 
+#include <cstddef>
 #include <map>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -213,8 +215,14 @@ TEST(Analogiak, AKivulEsoCsucsnakNincsBetujeSemUra) {
 
 TEST(Analogiak, AHaztalanUrHazanakHelyeUres) {
     TMundanLanc lanc = uresLanc();
-    lanc.BolygoHazak.tolt(0);
-    EXPECT_EQ(AnalogiaSorok(lanc, 1)[3].oszlop2, "    ");
+    for (const auto& [haz, cimke] : {std::pair(4, "IV    "), std::pair(0, "    ")}) {
+        lanc.BolygoHazak.tolt(haz);
+        const auto sorok = AnalogiaSorok(lanc, 1);
+        for (const std::size_t sor : {3U, 11U}) {
+            EXPECT_EQ(sorok[sor].oszlop1, "Házura házban:");
+            EXPECT_EQ(sorok[sor].oszlop2, cimke) << haz;
+        }
+    }
 }
 
 std::string parok(const TMundanLanc& lanc, int bolygo) {
